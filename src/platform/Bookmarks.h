@@ -1,0 +1,29 @@
+#pragma once
+
+#include "base/Result.h"
+#include "platform/FileFacts.h"
+
+#include <QByteArray>
+#include <QString>
+
+namespace tembra {
+
+// Serialisable references that find a file or folder again after it was renamed or moved. Any thread; nothing
+// is ever mounted and no window appears.
+class Bookmarks {
+public:
+    struct Resolved {
+        QString path;
+        // The bookmark still works but should be made anew: the file was found at another path.
+        bool stale = false;
+    };
+
+    // Codes of the errors, domain "Tembra.Bookmarks".
+    enum ErrorCode { malformed = 1, gone = 2, volumeAbsent = 3 };
+
+    virtual ~Bookmarks() = default;
+    [[nodiscard]] virtual Result<QByteArray> create(const QString &path) const = 0;
+    [[nodiscard]] virtual Result<Resolved> resolve(const QByteArray &bookmark) const = 0;
+};
+
+} // namespace tembra

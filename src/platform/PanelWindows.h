@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QtGlobal>
+
+QT_BEGIN_NAMESPACE
+class QWidget;
+QT_END_NAMESPACE
+
+namespace tembra {
+
+// What it takes on this platform to keep a window at the top edge of a screen, over everything, on every
+// virtual desktop, without taking part in window management. Main thread.
+class PanelWindows {
+public:
+    virtual ~PanelWindows() = default;
+    // Before the widget is shown for the first time.
+    virtual void prepare(QWidget &panel) = 0;
+    // Gives the keyboard to the panel although no window manager looks after it, remembering who had it; the
+    // second gives it back if the panel still has it.
+    virtual void takeKeyboardFocus(QWidget &panel) = 0;
+    virtual void returnKeyboardFocus(QWidget &panel) = 0;
+};
+
+} // namespace tembra

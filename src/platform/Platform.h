@@ -1,0 +1,48 @@
+#pragma once
+
+#include "base/Scheduler.h"
+#include "platform/Bookmarks.h"
+#include "platform/CaptureMarkers.h"
+#include "platform/Displays.h"
+#include "platform/FileFacts.h"
+#include "platform/FileReferences.h"
+#include "platform/FolderEvents.h"
+#include "platform/InputMonitor.h"
+#include "platform/PanelWindows.h"
+#include "platform/ScreenCapturePreferences.h"
+#include "platform/StandardFolders.h"
+#include "platform/Thumbnails.h"
+#include "platform/UserDefaults.h"
+#include "platform/Workspace.h"
+
+#include <functional>
+#include <memory>
+
+namespace tembra {
+
+// Every service of the platform, made once by the composition root, which hands each part the two or three it
+// needs.
+struct Platform {
+    StandardFolders folders;
+    std::unique_ptr<UserDefaults> defaults;
+    // A new reader of the screenshot tool's preferences: each thread uses its own.
+    std::function<std::unique_ptr<ScreenCapturePreferences>()> screenCapturePreferences;
+    std::unique_ptr<FileFactsReader> fileFacts;
+    std::unique_ptr<FileReferences> fileReferences;
+    std::unique_ptr<Bookmarks> bookmarks;
+    std::unique_ptr<FolderEvents> folderEvents;
+    std::unique_ptr<CaptureMarkers> captureMarkers;
+    // The services below need a display and are absent in commands that run without one.
+    std::unique_ptr<Displays> displays;
+    std::unique_ptr<Workspace> workspace;
+    std::unique_ptr<InputMonitor> inputMonitor;
+    std::unique_ptr<PanelWindows> panelWindows;
+    std::unique_ptr<Thumbnails> thumbnails;
+};
+
+// Files, settings and the screenshot tool: enough for commands without windows.
+[[nodiscard]] Platform makeHeadlessPlatform(Scheduler &scheduler);
+// Everything. Needs the application object.
+[[nodiscard]] Platform makePlatform(Scheduler &scheduler);
+
+} // namespace tembra

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace tembra {
+
+// The folders of the user and of the program: absolute clean paths without a final slash. Values; read once
+// at start.
+struct StandardFolders {
+    QString home;
+    QString desktop;
+    QString documents;
+    QString downloads;
+    QString pictures;
+    QString videos;
+    QString music;
+    QString publicShare;
+    QString applications;
+    // Where users share files with each other, and the root of the file system.
+    QString shared;
+    QString root;
+
+    // Every folder that holds trashed files of the user's own volume.
+    QStringList trash;
+
+    // The program's own: settings, lasting data, what can be made again, and what ends with the session.
+    QString configuration;
+    QString data;
+    QString cache;
+    QString runtime;
+};
+
+} // namespace tembra
