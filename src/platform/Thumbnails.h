@@ -21,7 +21,7 @@ public:
 
     struct Thumbnail {
         // At most the size asked for times the scale, with the file's aspect; its device pixel ratio is the
-        // scale.
+        // scale. Null where nothing can make a picture of this kind of file: an icon stands for it.
         QImage image;
         // A picture of the content, not of the kind of file.
         bool isThumbnail = false;

@@ -1,0 +1,185 @@
+#include "platform/linux/FreedesktopThumbnails.h"
+
+#include "base/MainThread.h"
+#include "platform/linux/ThumbnailDecoder.h"
+
+#include <QFile>
+#include <QImageReader>
+#include <QMimeDatabase>
+#include <QStandardPaths>
+
+#include <algorithm>
+#include <atomic>
+#include <cerrno>
+#include <cmath>
+#include <sys/stat.h>
+#include <utility>
+
+namespace tembra {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr std::size_t mostThreads = 2;
+constexpr std::chrono::milliseconds programLimit = 10s;
+
+// Only regular files are opened: a named pipe would hold the thread for ever.
+std::optional<ThumbnailCacheFolder::Source> sourceOf(const QString &path) {
+    struct stat status {};
+    if (::stat(QFile::encodeName(path).constData(), &status) != 0 || !S_ISREG(status.st_mode))
+        return std::nullopt;
+    return ThumbnailCacheFolder::Source{path, status.st_mtim.tv_sec, status.st_size};
+}
+
+bool exists(const QString &path) {
+    struct stat status {};
+    return ::stat(QFile::encodeName(path).constData(), &status) == 0;
+}
+
+} // namespace
+
+struct FreedesktopThumbnails::Job {
+    QString path;
+    int pixels = 0;
+    double scale = 1;
+    std::atomic<bool> cancelled = false;
+    // Main thread only.
+    std::function<void(Result<Thumbnail>)> onDone;
+};
+
+class FreedesktopThumbnails::JobRequest final : public Request {
+public:
+    explicit JobRequest(std::shared_ptr<Job> job) : m_job(std::move(job)) {}
+    ~JobRequest() override {
+        m_job->cancelled = true;
+        m_job->onDone = nullptr;
+    }
+
+private:
+    std::shared_ptr<Job> m_job;
+};
+
+FreedesktopThumbnails::Locations FreedesktopThumbnails::userLocations() {
+    return {QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
+                QStringLiteral("/thumbnails"),
+            QStandardPaths::locateAll(QStandardPaths::GenericDataLocation, QStringLiteral("thumbnailers"),
+                                      QStandardPaths::LocateDirectory)};
+}
+
+FreedesktopThumbnails::FreedesktopThumbnails(Scheduler &scheduler, Locations locations)
+    : m_scheduler(scheduler),
+      m_cache(std::move(locations.cache)),
+      m_thumbnailerFolders(std::move(locations.thumbnailers)) {}
+
+FreedesktopThumbnails::~FreedesktopThumbnails() {
+    {
+        const std::lock_guard lock(m_mutex);
+        m_ending = true;
+        m_jobs.clear();
+    }
+    m_wake.notify_all();
+    for (std::thread &thread : m_threads)
+        thread.join();
+}
+
+std::unique_ptr<Thumbnails::Request>
+FreedesktopThumbnails::request(const QString &path, double sidePoints, double scale,
+                               std::function<void(Result<Thumbnail>)> onDone) {
+    requireMainThread();
+    auto job = std::make_shared<Job>();
+    job->path = path;
+    job->pixels = std::max(1, static_cast<int>(std::ceil(sidePoints * scale)));
+    job->scale = scale;
+    job->onDone = std::move(onDone);
+    {
+        const std::lock_guard lock(m_mutex);
+        std::erase_if(m_jobs, [](const auto &waiting) { return waiting->cancelled.load(); });
+        m_jobs.push_back(job);
+        if (m_jobs.size() > m_idle && m_threads.size() < mostThreads)
+            m_threads.emplace_back([this] { run(); });
+    }
+    m_wake.notify_one();
+    return std::make_unique<JobRequest>(std::move(job));
+}
+
+void FreedesktopThumbnails::run() {
+    while (const std::shared_ptr<Job> job = take())
+        perform(job);
+}
+
+std::shared_ptr<FreedesktopThumbnails::Job> FreedesktopThumbnails::take() {
+    std::unique_lock lock(m_mutex);
+    while (!m_ending) {
+        while (!m_jobs.empty()) {
+            const std::shared_ptr<Job> job = std::move(m_jobs.back());
+            m_jobs.pop_back();
+            if (!job->cancelled)
+                return job;
+        }
+        ++m_idle;
+        m_wake.wait(lock, [this] { return m_ending || !m_jobs.empty(); });
+        --m_idle;
+    }
+    return nullptr;
+}
+
+void FreedesktopThumbnails::perform(const std::shared_ptr<Job> &job) {
+    const auto source = sourceOf(job->path);
+    if (!source) {
+        deliver(job, exists(job->path) ? Result<QImage>() : failure(unreadablePicture()));
+        return;
+    }
+    if (const auto cached = m_cache.find(*source, job->pixels)) {
+        deliver(job, reduced(*cached, job->pixels).image);
+        return;
+    }
+    std::optional<QImage> toStore;
+    deliver(job, make(*job, toStore));
+    // A file that changed while it was read has a thumbnail of neither version.
+    if (toStore && sourceOf(job->path) == source)
+        m_cache.store(*source, *toStore);
+}
+
+Result<QImage> FreedesktopThumbnails::make(const Job &job, std::optional<QImage> &toStore) {
+    const int side = ThumbnailCacheFolder::sideFor(job.pixels);
+    auto picture = decodeReduced(job.path, side);
+    if (picture && !*picture)
+        picture = decodeReducedHeif(job.path, side);
+    if (!picture)
+        return failure(picture.error());
+    if (!*picture) {
+        const QString type = QMimeDatabase().mimeTypeForFile(job.path).name();
+        if (QImageReader::supportedMimeTypes().contains(type.toLatin1()))
+            return failure(unreadablePicture());
+        const auto drawn = fromProgram(job, type, side);
+        if (!drawn)
+            return QImage();
+        *picture = DecodedPicture{reduced(*drawn, side).image, true};
+    }
+    if ((*picture)->wasReduced)
+        toStore = (*picture)->image;
+    return reduced((*picture)->image, job.pixels).image;
+}
+
+std::optional<QImage> FreedesktopThumbnails::fromProgram(const Job &job, const QString &type, int side) {
+    std::call_once(m_programsRead, [this] { m_programs.emplace(m_thumbnailerFolders); });
+    return m_programs->run(job.path, type, side, programLimit, [&] { return job.cancelled.load(); });
+}
+
+void FreedesktopThumbnails::deliver(const std::shared_ptr<Job> &job, Result<QImage> picture) {
+    m_scheduler.post([job, picture = std::move(picture)]() mutable {
+        // Whoever is told may drop the request, and with it the function that is running.
+        const auto onDone = std::exchange(job->onDone, nullptr);
+        if (!onDone)
+            return;
+        if (!picture) {
+            onDone(failure(picture.error()));
+            return;
+        }
+        picture->setDevicePixelRatio(job->scale);
+        onDone(Thumbnail{*picture, !picture->isNull()});
+    });
+}
+
+} // namespace tembra

@@ -1,0 +1,9 @@
+#include "platform/linux/ThumbnailDecoder.h"
+
+namespace tembra {
+
+Result<std::optional<DecodedPicture>> decodeReducedHeif(const QString &, int) {
+    return std::nullopt;
+}
+
+} // namespace tembra
