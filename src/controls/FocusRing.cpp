@@ -1,0 +1,17 @@
+#include "controls/FocusRing.h"
+
+#include "controls/Palette.h"
+
+#include <QPainter>
+
+namespace tembra {
+
+void drawFocusRing(QPainter &painter, const QRectF &body, double radius) {
+    constexpr qreal gap = 1.5;
+    constexpr qreal thickness = 2;
+    painter.setPen(QPen(palette::focusRing, thickness));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(body.adjusted(-gap, -gap, gap, gap), radius + gap, radius + gap);
+}
+
+} // namespace tembra

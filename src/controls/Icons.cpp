@@ -1,0 +1,72 @@
+#include "controls/Icons.h"
+
+#include <QPaintDevice>
+#include <QPainter>
+#include <QPixmapCache>
+#include <QSvgRenderer>
+
+#include <cmath>
+
+namespace tembra {
+
+namespace {
+
+QString fileName(Icon icon) {
+    switch (icon) {
+    case Icon::document:
+        return QStringLiteral("document");
+    case Icon::film:
+        return QStringLiteral("film");
+    case Icon::folder:
+        return QStringLiteral("folder");
+    case Icon::gear:
+        return QStringLiteral("gear");
+    case Icon::photo:
+        return QStringLiteral("photo");
+    case Icon::pin:
+        return QStringLiteral("pin");
+    case Icon::textViewfinder:
+        return QStringLiteral("text-viewfinder");
+    }
+    Q_UNREACHABLE();
+}
+
+QPixmap render(Icon icon, int pixels, const QColor &color) {
+    QSvgRenderer renderer(QStringLiteral(":/tembra/icons/%1.svg").arg(fileName(icon)));
+    Q_ASSERT(renderer.isValid());
+    QPixmap pixmap(pixels, pixels);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    renderer.render(&painter);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(pixmap.rect(), color);
+    return pixmap;
+}
+
+} // namespace
+
+QPixmap iconPixmap(Icon icon, qreal side, qreal scale, const QColor &color) {
+    const int pixels = std::max(1, static_cast<int>(std::lround(side * scale)));
+    const QString key = QStringLiteral("tembra-icon|%1|%2|%3")
+                            .arg(fileName(icon), QString::number(pixels), color.name(QColor::HexArgb));
+    QPixmap pixmap;
+    if (!QPixmapCache::find(key, &pixmap)) {
+        pixmap = render(icon, pixels, color);
+        QPixmapCache::insert(key, pixmap);
+    }
+    pixmap.setDevicePixelRatio(scale);
+    return pixmap;
+}
+
+void drawIcon(QPainter &painter, Icon icon, const QRectF &rectangle, qreal side, const QColor &color) {
+    const qreal scale = painter.device()->devicePixelRatioF();
+    const QPixmap pixmap = iconPixmap(icon, side, scale, color);
+    const QPointF corner = rectangle.center() - QPointF(side, side) / 2;
+    const QPointF origin = painter.transform().map(QPointF());
+    const auto snapped = [=](qreal value, qreal offset) {
+        return std::round((value + offset) * scale) / scale - offset;
+    };
+    painter.drawPixmap(QPointF(snapped(corner.x(), origin.x()), snapped(corner.y(), origin.y())), pixmap);
+}
+
+} // namespace tembra
