@@ -1,0 +1,138 @@
+#include "platform/linux/LinuxFileFacts.h"
+
+#include "platform/linux/PosixError.h"
+#include "platform/linux/StableHash.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <array>
+#include <fcntl.h>
+#include <new>
+#include <sys/stat.h>
+#include <sys/sysmacros.h>
+#include <sys/xattr.h>
+
+namespace tembra {
+
+namespace {
+
+constexpr auto creationAttribute = "user.app.tembra.created";
+constexpr unsigned wantedFacts = STATX_BASIC_STATS | STATX_BTIME | STATX_MNT_ID;
+
+Instant instant(const statx_timestamp &stamp) {
+    return Instant(std::chrono::seconds(stamp.tv_sec) + std::chrono::nanoseconds(stamp.tv_nsec));
+}
+
+std::uint64_t deviceNumber(const struct statx &status) {
+    return makedev(status.stx_dev_major, status.stx_dev_minor);
+}
+
+std::uint64_t generation(const QByteArray &path, bool followsLinks) {
+    alignas(file_handle) std::array<char, sizeof(file_handle) + MAX_HANDLE_SZ> storage{};
+    auto *handle = new (storage.data()) file_handle;
+    handle->handle_bytes = MAX_HANDLE_SZ;
+    int mountId = 0;
+    const int flags = followsLinks ? AT_SYMLINK_FOLLOW : 0;
+    if (::name_to_handle_at(AT_FDCWD, path.constData(), handle, &mountId, flags) != 0)
+        return 0;
+    return stableHash({storage.data() + sizeof(file_handle), handle->handle_bytes});
+}
+
+std::optional<Instant> recordedCreation(const QByteArray &path, bool followsLinks) {
+    std::array<char, 32> digits{};
+    const auto read = followsLinks ? ::getxattr : ::lgetxattr;
+    const ssize_t length = read(path.constData(), creationAttribute, digits.data(), digits.size());
+    if (length <= 0)
+        return std::nullopt;
+    bool isNumber = false;
+    const qlonglong nanoseconds = QByteArray::fromRawData(digits.data(), length).toLongLong(&isNumber);
+    return isNumber ? std::optional(Instant(std::chrono::nanoseconds(nanoseconds))) : std::nullopt;
+}
+
+std::optional<Instant> creation(const struct statx &status, const QByteArray &path, bool followsLinks) {
+    if (const auto recorded = recordedCreation(path, followsLinks))
+        return recorded;
+    if (!(status.stx_mask & STATX_BTIME))
+        return std::nullopt;
+    return std::min(instant(status.stx_btime), modificationTime(status));
+}
+
+Result<struct statx> status(const QByteArray &path, bool followsLinks) {
+    struct statx status {};
+    const int flags = AT_STATX_SYNC_AS_STAT | AT_NO_AUTOMOUNT | (followsLinks ? 0 : AT_SYMLINK_NOFOLLOW);
+    if (::statx(AT_FDCWD, path.constData(), flags, wantedFacts, &status) != 0)
+        return failure(posixError());
+    return status;
+}
+
+} // namespace
+
+FileKind fileKind(const struct statx &status) {
+    if (S_ISREG(status.stx_mode))
+        return FileKind::regular;
+    if (S_ISDIR(status.stx_mode))
+        return FileKind::directory;
+    return S_ISLNK(status.stx_mode) ? FileKind::link : FileKind::other;
+}
+
+Instant modificationTime(const struct statx &status) {
+    return instant(status.stx_mtime);
+}
+
+Instant changeTime(const struct statx &status) {
+    return instant(status.stx_ctime);
+}
+
+Result<FileFacts> LinuxFileFactsReader::facts(const QString &path) const {
+    return read(path, false);
+}
+
+Result<FileFacts> LinuxFileFactsReader::targetFacts(const QString &path) const {
+    return read(path, true);
+}
+
+Result<FileFacts> LinuxFileFactsReader::read(const QString &path, bool followsLinks) const {
+    const QByteArray encoded = QFile::encodeName(path);
+    const auto found = status(encoded, followsLinks);
+    if (!found)
+        return failure(found.error());
+    const LinuxVolume volume = m_volumes.of(deviceNumber(*found), found->stx_mnt_id, encoded, followsLinks);
+    FileFacts facts;
+    facts.kind = fileKind(*found);
+    facts.createdAt = creation(*found, encoded, followsLinks);
+    facts.modifiedAt = modificationTime(*found);
+    facts.changedAt = changeTime(*found);
+    facts.size = found->stx_size;
+    if (volume.hasLastingInodes) {
+        facts.resource = FileResource{volume.id, found->stx_ino,
+                                      volume.hasLastingHandles ? generation(encoded, followsLinks) : 0};
+    }
+    return facts;
+}
+
+Result<void> LinuxFileFactsReader::recordCreationDate(const QString &path, Instant createdAt) const {
+    const QByteArray digits =
+        QByteArray::number(static_cast<qlonglong>(createdAt.time_since_epoch().count()));
+    if (::setxattr(QFile::encodeName(path).constData(), creationAttribute, digits.constData(),
+                   static_cast<std::size_t>(digits.size()), 0) != 0)
+        return failure(posixError());
+    return {};
+}
+
+Result<LinuxVolume> LinuxFileFactsReader::volumeOf(const QString &path) const {
+    const QByteArray encoded = QFile::encodeName(path);
+    return status(encoded, true).map([&](const struct statx &found) {
+        return m_volumes.of(deviceNumber(found), found.stx_mnt_id, encoded, true);
+    });
+}
+
+Result<std::uint64_t> LinuxFileFactsReader::volumeIdOf(const QString &path) const {
+    return volumeOf(path).map([](const LinuxVolume &volume) { return volume.id; });
+}
+
+bool LinuxFileFactsReader::isVolumeMounted(std::uint64_t volume) const {
+    return m_volumes.isMounted(volume);
+}
+
+} // namespace tembra
