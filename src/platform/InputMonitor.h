@@ -8,8 +8,8 @@
 namespace tembra {
 
 // Presses and releases of the mouse anywhere on the screen, also over other programs, and where the pointer
-// is. Pointer motion is not reported. Main thread. Where the platform tells nothing about other programs'
-// input, only this program's own events arrive.
+// is. Main thread. Where the platform tells nothing about other programs' input, only this program's own
+// events arrive.
 class InputMonitor {
 public:
     enum class Kind { leftDown, leftUp, rightDown, leftDragged };
@@ -27,9 +27,14 @@ public:
     };
 
     virtual ~InputMonitor() = default;
-    // Dropping the handle ends it.
+    // Motion is reported only while the left button is down. Dropping the handle ends it.
     [[nodiscard]] virtual std::unique_ptr<Observation>
     observe(std::function<void(const Event &)> onEvent) = 0;
+    // Called while the pointer moves, at most sixty times a second, for as long as the handle lives: only for
+    // short waits, every move wakes the process.
+    [[nodiscard]] virtual std::unique_ptr<Observation> observeMotion(std::function<void()> onMove) = 0;
+    // Another program is offering something by drag and drop, as far as the platform tells.
+    [[nodiscard]] virtual bool isForeignDragOffered() const = 0;
     [[nodiscard]] virtual ScreenPoint pointer() const = 0;
 };
 

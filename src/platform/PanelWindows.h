@@ -3,6 +3,7 @@
 #include <QtGlobal>
 
 QT_BEGIN_NAMESPACE
+class QRegion;
 class QWidget;
 QT_END_NAMESPACE
 
@@ -13,8 +14,11 @@ namespace tembra {
 class PanelWindows {
 public:
     virtual ~PanelWindows() = default;
-    // Before the widget is shown for the first time.
+    // Before the widget is shown for the first time; afterwards its window exists, unmapped.
     virtual void prepare(QWidget &panel) = 0;
+    // The part of the panel, in its own points, that takes the pointer; elsewhere clicks reach what lies
+    // below it.
+    virtual void setInputRegion(QWidget &panel, const QRegion &region) = 0;
     // Gives the keyboard to the panel although no window manager looks after it, remembering who had it; the
     // second gives it back if the panel still has it.
     virtual void takeKeyboardFocus(QWidget &panel) = 0;

@@ -7,6 +7,7 @@
 #include "platform/FileFacts.h"
 #include "platform/FileReferences.h"
 #include "platform/FolderEvents.h"
+#include "platform/HotZones.h"
 #include "platform/InputMonitor.h"
 #include "platform/PanelWindows.h"
 #include "platform/ScreenCapturePreferences.h"
@@ -37,6 +38,7 @@ struct Platform {
     std::unique_ptr<Workspace> workspace;
     std::unique_ptr<InputMonitor> inputMonitor;
     std::unique_ptr<PanelWindows> panelWindows;
+    std::unique_ptr<HotZones> hotZones;
     std::unique_ptr<Thumbnails> thumbnails;
 };
 

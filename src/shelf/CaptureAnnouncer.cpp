@@ -1,0 +1,57 @@
+#include "shelf/CaptureAnnouncer.h"
+
+#include <utility>
+
+namespace tembra {
+
+using namespace std::chrono_literals;
+
+namespace {
+
+// Long enough to read a short line and to move the pointer to it.
+constexpr auto captureDuration = 3s;
+constexpr auto folderDuration = 5s;
+
+} // namespace
+
+CaptureAnnouncer::CaptureAnnouncer(Scheduler &scheduler) : m_lifetime(scheduler) {}
+
+void CaptureAnnouncer::announceCaptures(const std::vector<CaptureNews> &news) {
+    if (news.empty() || !canShow())
+        return;
+    const bool isSeries = m_showing && m_showing->captureCount > 0;
+    show(joined(isSeries ? *m_showing : CaptureNotification(), news), captureDuration);
+}
+
+void CaptureAnnouncer::announceFolder(const QString &text) {
+    m_pendingFolderNotification = text;
+    flushFolderNotification();
+}
+
+void CaptureAnnouncer::flushFolderNotification() {
+    if (m_pendingFolderNotification.isEmpty() || m_showing || !canShow())
+        return;
+    show({.text = std::exchange(m_pendingFolderNotification, QString())}, folderDuration);
+}
+
+void CaptureAnnouncer::dismiss() {
+    if (m_showing)
+        end();
+}
+
+void CaptureAnnouncer::show(const CaptureNotification &notification, Scheduler::Duration duration) {
+    m_showing = notification;
+    onShow(m_showing);
+    m_lifetime.begin(duration, [this] {
+        end();
+        flushFolderNotification();
+    });
+}
+
+void CaptureAnnouncer::end() {
+    m_lifetime.end();
+    m_showing.reset();
+    onShow(m_showing);
+}
+
+} // namespace tembra

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "shelf/CaptureNotification.h"
+#include "shelf/ShelfNotificationLifetime.h"
+
+#include <functional>
+#include <optional>
+
+namespace tembra {
+
+// Keeps the one notice that the collapsed shelf shows: captures, which join the series that is showing, and
+// notices about the folder, which wait until nothing else shows. Main thread; owned by ShelfController.
+class CaptureAnnouncer {
+public:
+    explicit CaptureAnnouncer(Scheduler &scheduler);
+
+    // Whether a notice can be shown now: the shelf is closed.
+    std::function<bool()> canShow;
+    // Shows the notice, or with nothing takes away the one that shows.
+    std::function<void(const std::optional<CaptureNotification> &)> onShow;
+
+    void announceCaptures(const std::vector<CaptureNews> &news);
+    // A folder notice replaces one that still waits.
+    void announceFolder(const QString &text);
+    // The shelf opened: what shows ends, and what it said need not be said again.
+    void dismiss();
+    // The shelf closed: a folder notice that waited is shown.
+    void flushFolderNotification();
+
+    [[nodiscard]] const std::optional<CaptureNotification> &showing() const { return m_showing; }
+
+private:
+    void show(const CaptureNotification &notification, Scheduler::Duration duration);
+    void end();
+
+    ShelfNotificationLifetime m_lifetime;
+    std::optional<CaptureNotification> m_showing;
+    QString m_pendingFolderNotification;
+};
+
+} // namespace tembra

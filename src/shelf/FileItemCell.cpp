@@ -1,0 +1,197 @@
+#include "shelf/FileItemCell.h"
+
+#include "controls/FocusRing.h"
+#include "controls/Palette.h"
+#include "controls/Typography.h"
+#include "platform/FileFacts.h"
+#include "shelf/FileKindIcon.h"
+#include "shelf/FileNameLayout.h"
+#include "shelf/FileThumbnailCache.h"
+#include "shelf/ScreenshotPreviewImageView.h"
+#include "shelf/ShelfLayout.h"
+
+#include <QEvent>
+#include <QPainter>
+
+namespace tembra {
+
+namespace {
+
+constexpr int nameTop = 74;
+constexpr int nameLineHeight = 15;
+constexpr qreal nameHighlightMargin = 5;
+constexpr qreal nameHighlightRadius = 4;
+constexpr qreal iconSelectionRadius = 3;
+// From the picture's frame to the middle of the selection's border.
+constexpr qreal selectionBorderDistance = 4;
+constexpr qreal selectionBorderWidth = 2;
+constexpr qreal selectionBorderRadius = 7;
+
+const QFont &nameFont() {
+    static const QFont font = typography::font(typography::itemSize);
+    return font;
+}
+
+QString fileName(const QString &path) {
+    return path.mid(path.lastIndexOf(u'/') + 1);
+}
+
+} // namespace
+
+FileItemCell::FileItemCell(const FilePresentation &presentation, QWidget *parent)
+    : QWidget(parent), m_presentation(presentation) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setItemRect({0, 0, ShelfLayout::Grid::itemWidth, ShelfLayout::Grid::itemHeight});
+}
+
+void FileItemCell::setItemRect(const QRect &rectangle) {
+    setGeometry(rectangle.adjusted(-bleed, -bleed, bleed, bleed));
+}
+
+void FileItemCell::configure(const QString &path, const QString &revision, const QImage &fallback) {
+    prepareForReuse();
+    m_path = path;
+    m_revision = revision;
+    m_fallback = fallback;
+    const QString name = fileName(path);
+    setToolTip(name);
+    setAccessibleName(name);
+    m_nameLines = FileNameLayout::lines(name, QFontMetricsF(nameFont()));
+    requestThumbnail();
+    update();
+}
+
+void FileItemCell::prepareForReuse() {
+    m_generation.advance();
+    m_request.reset();
+    m_thumbnail.reset();
+    m_fallback = {};
+    m_path.clear();
+    m_revision.clear();
+    m_nameLines.clear();
+}
+
+void FileItemCell::requestThumbnail() {
+    m_requestedScale = devicePixelRatioF();
+    const QString key = FileThumbnailCache::key(m_presentation.files, m_path, m_revision, m_requestedScale);
+    if (auto cached = m_presentation.cache.find(key)) {
+        m_thumbnail = std::move(cached);
+        return;
+    }
+    m_request = m_presentation.thumbnails.request(
+        m_path, iconFrame.width(), m_requestedScale,
+        [this, key, ticket = m_generation.ticket()](const Result<Thumbnails::Thumbnail> &thumbnail) {
+            if (ticket.isCurrent())
+                receive(key, thumbnail);
+        });
+}
+
+void FileItemCell::receive(const QString &key, const Result<Thumbnails::Thumbnail> &thumbnail) {
+    if (!thumbnail || thumbnail->image.isNull() || !m_presentation.files.targetFacts(m_path))
+        return;
+    const QRectF content(QPointF(), thumbnail->image.deviceIndependentSize());
+    m_thumbnail = std::make_shared<const FileThumbnail>(
+        FileThumbnail{thumbnail->image, content, thumbnail->isThumbnail});
+    m_presentation.cache.insert(key, m_thumbnail);
+    update();
+}
+
+QImage FileItemCell::image() const {
+    return m_thumbnail ? m_thumbnail->image : m_fallback;
+}
+
+void FileItemCell::assign(bool &state, bool value) {
+    if (state == value)
+        return;
+    state = value;
+    update();
+}
+
+void FileItemCell::setShowsFileName(bool shows) {
+    assign(m_showsFileName, shows);
+}
+
+void FileItemCell::setSelected(bool selected) {
+    assign(m_selected, selected);
+}
+
+void FileItemCell::setHighlighted(bool highlighted) {
+    assign(m_highlighted, highlighted);
+}
+
+void FileItemCell::setCurrent(bool current) {
+    assign(m_current, current);
+}
+
+bool FileItemCell::event(QEvent *event) {
+    const bool mayHaveMoved = event->type() == QEvent::ScreenChangeInternal || event->type() == QEvent::Show;
+    if (mayHaveMoved && !m_path.isEmpty() && m_requestedScale != devicePixelRatioF())
+        configure(m_path, m_revision, image());
+    return QWidget::event(event);
+}
+
+void FileItemCell::paintEvent(QPaintEvent *) {
+    if (m_path.isEmpty())
+        return;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(bleed, bleed);
+    paintSelection(painter);
+    paintPicture(painter);
+    if (m_showsFileName)
+        paintName(painter);
+    paintBadges(painter);
+}
+
+void FileItemCell::paintBadges(QPainter &) {}
+
+void FileItemCell::paintSelection(QPainter &painter) const {
+    painter.setPen(Qt::NoPen);
+    if (m_selected || m_highlighted) {
+        painter.setBrush(m_selected ? palette::selection : palette::highlight);
+        painter.drawRoundedRect(iconFrame, iconSelectionRadius, iconSelectionRadius);
+    }
+    if (m_selected) {
+        const qreal distance = selectionBorderDistance;
+        painter.setPen(QPen(palette::accent, selectionBorderWidth));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(QRectF(iconFrame).adjusted(-distance, -distance, distance, distance),
+                                selectionBorderRadius, selectionBorderRadius);
+    } else if (m_current) {
+        drawFocusRing(painter, iconFrame, iconSelectionRadius);
+    }
+}
+
+void FileItemCell::paintPicture(QPainter &painter) const {
+    const QImage picture = image();
+    if (picture.isNull())
+        drawFileKindIcon(painter, m_path, iconFrame);
+    else
+        ScreenshotPreviewImageView::draw(painter, ScreenshotPreviewImageView::fitted(picture, iconFrame),
+                                         picture);
+}
+
+void FileItemCell::paintName(QPainter &painter) const {
+    painter.setFont(nameFont());
+    const QFontMetricsF metrics(nameFont());
+    QRectF line(0, nameTop, ShelfLayout::Grid::itemWidth, nameLineHeight);
+    for (const QString &text : m_nameLines) {
+        if (m_selected) {
+            const qreal width = metrics.horizontalAdvance(text) + 2 * nameHighlightMargin;
+            painter.setPen(Qt::NoPen);
+            painter.setBrush(palette::accent);
+            painter.drawRoundedRect(
+                QRectF(line.center().x() - width / 2, line.top() - 1, width, line.height() + 2),
+                nameHighlightRadius, nameHighlightRadius);
+        }
+        line.translate(0, nameLineHeight);
+    }
+    line.moveTop(nameTop);
+    painter.setPen(m_selected ? palette::onAccent : palette::itemText);
+    for (const QString &text : m_nameLines) {
+        painter.drawText(line, Qt::AlignCenter, text);
+        line.translate(0, nameLineHeight);
+    }
+}
+
+} // namespace tembra

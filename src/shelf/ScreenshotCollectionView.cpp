@@ -1,0 +1,292 @@
+#include "shelf/ScreenshotCollectionView.h"
+
+#include "shelf/NativeScreenshotCell.h"
+#include "shelf/ShelfLayout.h"
+
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QToolTip>
+
+#include <algorithm>
+#include <utility>
+
+namespace tembra {
+
+namespace {
+
+ScreenshotSelection::Mode selectionMode(Qt::KeyboardModifiers modifiers) {
+    if (modifiers & Qt::ShiftModifier)
+        return ScreenshotSelection::Mode::extend;
+    if (modifiers & Qt::ControlModifier)
+        return ScreenshotSelection::Mode::toggle;
+    return ScreenshotSelection::Mode::replace;
+}
+
+} // namespace
+
+ScreenshotCollectionView::ScreenshotCollectionView(const FilePresentation &presentation, QWidget *parent)
+    : QWidget(parent), m_cells(presentation, *this) {
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    setAccessibleName(tr("Screenshots"));
+}
+
+void ScreenshotCollectionView::apply(ScreenshotGridState state) {
+    if (m_state == state)
+        return;
+    m_state = std::move(state);
+    const bool selectionShrank = m_selection.retain(m_state);
+    m_hovered.reset();
+    m_press.reset();
+    fit(m_viewport);
+    changed(selectionShrank);
+}
+
+void ScreenshotCollectionView::fit(QSize viewport) {
+    m_viewport = viewport;
+    std::vector<ScreenshotGridLayout::Section> sections;
+    if (m_state.grouped) {
+        for (const ScreenshotSection &section : m_state.sections)
+            sections.push_back({static_cast<int>(section.shots.size()), true});
+    } else {
+        sections.push_back({m_state.count(), false});
+    }
+    m_layout = ScreenshotGridLayout(viewport.width(), sections, m_state.showFileNames);
+    resize(viewport.width(), std::max(m_layout.height(), viewport.height()));
+    arrange();
+}
+
+void ScreenshotCollectionView::setVisibleSpan(int top, int bottom) {
+    if (m_visibleTop == top && m_visibleBottom == bottom)
+        return;
+    m_visibleTop = top;
+    m_visibleBottom = bottom;
+    setHovered(std::nullopt);
+    arrange();
+}
+
+void ScreenshotCollectionView::arrange() {
+    m_cells.arrange(m_state, m_layout, m_layout.itemsWithin(m_visibleTop, m_visibleBottom));
+    arrangeHeaders();
+    updateAppearance();
+}
+
+void ScreenshotCollectionView::arrangeHeaders() {
+    const std::size_t count = m_state.grouped ? m_state.sections.size() : 0;
+    while (m_headers.size() < count)
+        m_headers.push_back(new ScreenshotSectionHeader(this));
+    for (std::size_t i = 0; i < m_headers.size(); ++i) {
+        const QRect place = i < count ? m_layout.headerRect(static_cast<int>(i)) : QRect();
+        if (!place.isEmpty()) {
+            m_headers[i]->setTitle(title(m_state.sections[i].kind));
+            m_headers[i]->setGeometry(place);
+        }
+        m_headers[i]->setVisible(!place.isEmpty());
+    }
+}
+
+void ScreenshotCollectionView::updateAppearance() {
+    const bool showsCurrent = hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange);
+    for (const auto &[index, cell] : m_cells.shown()) {
+        const Shot &shot = m_state.at(index);
+        cell->setSelected(m_selection.contains(shot));
+        cell->setCurrent(showsCurrent && m_selection.isCurrent(shot));
+        cell->setHighlighted(m_hovered == index);
+    }
+}
+
+void ScreenshotCollectionView::changed(bool didChange) {
+    updateAppearance();
+    if (didChange)
+        Q_EMIT selectionChanged();
+}
+
+void ScreenshotCollectionView::selectAll() {
+    changed(m_selection.selectAll(m_state));
+}
+
+void ScreenshotCollectionView::clearSelection() {
+    changed(m_selection.clear());
+}
+
+void ScreenshotCollectionView::choose(int index, ScreenshotSelection::Mode mode) {
+    changed(m_selection.choose(m_state, index, mode));
+}
+
+void ScreenshotCollectionView::setHovered(std::optional<int> index) {
+    if (m_hovered == index)
+        return;
+    m_hovered = index;
+    updateAppearance();
+}
+
+std::optional<int> ScreenshotCollectionView::currentIndex() const {
+    if (const auto current = m_selection.current(m_state))
+        return current;
+    for (int index = 0; !m_selection.isEmpty() && index < m_layout.count(); ++index) {
+        if (m_selection.contains(m_state.at(index)))
+            return index;
+    }
+    return std::nullopt;
+}
+
+bool ScreenshotCollectionView::event(QEvent *event) {
+    if (event->type() != QEvent::ToolTip)
+        return QWidget::event(event);
+    const auto *help = static_cast<const QHelpEvent *>(event);
+    const auto index = m_layout.itemAt(help->pos());
+    const auto cell = index ? m_cells.shown().find(*index) : m_cells.shown().end();
+    if (cell == m_cells.shown().end())
+        QToolTip::hideText();
+    else
+        QToolTip::showText(help->globalPos(), cell->second->toolTip(), this, m_layout.itemRect(*index));
+    return true;
+}
+
+void ScreenshotCollectionView::mousePressEvent(QMouseEvent *event) {
+    if (event->button() != Qt::LeftButton)
+        return;
+    const QPoint position = event->position().toPoint();
+    const auto index = m_layout.itemAt(position);
+    const auto mode = selectionMode(event->modifiers());
+    m_press.reset();
+    if (!index) {
+        if (mode == ScreenshotSelection::Mode::replace)
+            clearSelection();
+        return;
+    }
+    m_press = Press{position, std::nullopt};
+    // Pressing one of several selected shots may begin a drag of all of them.
+    if (mode == ScreenshotSelection::Mode::replace && m_selection.contains(m_state.at(*index)))
+        m_press->narrowsTo = index;
+    else
+        choose(*index, mode);
+}
+
+void ScreenshotCollectionView::mouseMoveEvent(QMouseEvent *event) {
+    const QPoint position = event->position().toPoint();
+    if (event->buttons() == Qt::NoButton)
+        setHovered(m_layout.itemAt(position));
+    const bool drags = m_press && (event->buttons() & Qt::LeftButton) &&
+                       (position - m_press->position).manhattanLength() >= QApplication::startDragDistance();
+    if (!drags)
+        return;
+    m_press.reset();
+    if (!m_selection.isEmpty())
+        Q_EMIT dragRequested();
+}
+
+void ScreenshotCollectionView::mouseReleaseEvent(QMouseEvent *event) {
+    if (event->button() != Qt::LeftButton || !m_press)
+        return;
+    const auto press = std::exchange(m_press, std::nullopt);
+    if (press->narrowsTo)
+        choose(*press->narrowsTo, ScreenshotSelection::Mode::replace);
+}
+
+void ScreenshotCollectionView::mouseDoubleClickEvent(QMouseEvent *event) {
+    const auto index = m_layout.itemAt(event->position().toPoint());
+    if (event->button() != Qt::LeftButton || !index ||
+        selectionMode(event->modifiers()) != ScreenshotSelection::Mode::replace) {
+        mousePressEvent(event);
+        return;
+    }
+    m_press.reset();
+    choose(*index, ScreenshotSelection::Mode::replace);
+    const Shot shot = m_state.at(*index);
+    Q_EMIT activated(shot);
+}
+
+void ScreenshotCollectionView::leaveEvent(QEvent *) {
+    setHovered(std::nullopt);
+}
+
+void ScreenshotCollectionView::contextMenuEvent(QContextMenuEvent *event) {
+    const bool byKeyboard = event->reason() == QContextMenuEvent::Keyboard;
+    const auto index = byKeyboard ? currentIndex() : m_layout.itemAt(event->pos());
+    event->accept();
+    if (!index) {
+        Q_EMIT backgroundMenuRequested(event->globalPos());
+        return;
+    }
+    const Shot shot = m_state.at(*index);
+    if (!m_selection.contains(shot))
+        choose(*index, ScreenshotSelection::Mode::replace);
+    const QPoint place = byKeyboard ? mapToGlobal(m_layout.itemRect(*index).center()) : event->globalPos();
+    Q_EMIT contextMenuRequested(shot, place);
+}
+
+int ScreenshotCollectionView::indexAfterPage(int index, int rows) const {
+    using Direction = ScreenshotGridLayout::Direction;
+    for (int row = 0; row < std::abs(rows); ++row)
+        index = m_layout.neighbour(index, rows < 0 ? Direction::up : Direction::down);
+    return index;
+}
+
+std::optional<int> ScreenshotCollectionView::target(const QKeyEvent &event) const {
+    using Direction = ScreenshotGridLayout::Direction;
+    const auto current = currentIndex();
+    const int from = current.value_or(0);
+    const int page = std::max(1, m_viewport.height() / ShelfLayout::Grid::itemHeight);
+    const auto step = [&](Direction direction) {
+        return current ? m_layout.neighbour(from, direction) : from;
+    };
+    switch (event.key()) {
+    case Qt::Key_Left:
+        return step(Direction::left);
+    case Qt::Key_Right:
+        return step(Direction::right);
+    case Qt::Key_Up:
+        return step(Direction::up);
+    case Qt::Key_Down:
+        return step(Direction::down);
+    case Qt::Key_PageUp:
+        return indexAfterPage(from, -page);
+    case Qt::Key_PageDown:
+        return indexAfterPage(from, page);
+    case Qt::Key_Home:
+        return 0;
+    case Qt::Key_End:
+        return m_layout.count() - 1;
+    default:
+        return std::nullopt;
+    }
+}
+
+void ScreenshotCollectionView::moveTo(int index, bool extending) {
+    choose(index, extending ? ScreenshotSelection::Mode::extend : ScreenshotSelection::Mode::replace);
+    Q_EMIT revealRequested(m_layout.itemRect(index));
+}
+
+void ScreenshotCollectionView::keyPressEvent(QKeyEvent *event) {
+    const Qt::KeyboardModifiers modifiers = event->modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier);
+    if (m_layout.count() == 0 || modifiers != Qt::NoModifier) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    if (const auto index = target(*event)) {
+        moveTo(*index, event->modifiers() & Qt::ShiftModifier);
+        return;
+    }
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const auto current = isReturn ? currentIndex() : std::nullopt;
+    if (!current) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    const Shot shot = m_state.at(*current);
+    Q_EMIT activated(shot);
+}
+
+void ScreenshotCollectionView::focusInEvent(QFocusEvent *) {
+    updateAppearance();
+}
+
+void ScreenshotCollectionView::focusOutEvent(QFocusEvent *) {
+    updateAppearance();
+}
+
+} // namespace tembra

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "screenshots/ScreenshotSection.h"
+#include "shelf/CaptureNotification.h"
+#include "shelf/ScreenshotMessage.h"
+#include "shelf/ShelfServices.h"
+#include "shelf/ShelfTab.h"
+
+#include <QSet>
+#include <QWidget>
+
+#include <optional>
+#include <vector>
+
+namespace tembra {
+
+class CaptureNotificationView;
+class NativeScreenshotGrid;
+class ScreenshotMessageView;
+class ShelfHeader;
+
+// Everything inside the shelf's outline: the header with the tabs, the content of the active tab, and, while the shelf
+// is closed, the notification. It moves from one display's window to another's. View space, main thread.
+class ShelfContent final : public QWidget {
+    Q_OBJECT
+
+public:
+    // What is shown, as one value; the view is a function of it.
+    struct State {
+        std::vector<ShelfTab> tabs;
+        ShelfTab activeTab = ShelfTab::screenshots;
+        // Shown in place of the grid.
+        std::optional<ScreenshotMessage> message;
+        std::vector<ScreenshotSection> sections;
+        QSet<QString> pinnedPaths;
+        bool isGrouped = false;
+        bool showsFileNames = true;
+        // Shown in place of everything else.
+        std::optional<CaptureNotification> notification;
+    };
+
+    explicit ShelfContent(const ShelfServices &services);
+    ~ShelfContent() override;
+
+    void apply(const State &state);
+    [[nodiscard]] const State &state() const { return m_state; }
+    [[nodiscard]] QStringList selectedPaths() const;
+
+Q_SIGNALS:
+    void tabClicked(ShelfTab tab);
+    void tabHovered(ShelfTab tab);
+    void tabLeft(ShelfTab tab);
+    // The button of the message.
+    void messageActed();
+    void selectionChanged();
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    void build(const ShelfServices &services);
+    void layOut();
+
+    State m_state;
+    ShelfHeader *m_header = nullptr;
+    NativeScreenshotGrid *m_grid = nullptr;
+    ScreenshotMessageView *m_message = nullptr;
+    CaptureNotificationView *m_notification = nullptr;
+};
+
+} // namespace tembra

@@ -1,0 +1,382 @@
+#include "shelf/ShelfController.h"
+
+#include "base/MainThread.h"
+#include "screenshots/ScreenshotLocationMonitor.h"
+#include "screenshots/ScreenshotTimeline.h"
+#include "session/ShelfSession.h"
+#include "settings/AppSettings.h"
+#include "shelf/FolderNotification.h"
+#include "shelf/ScreenshotFolderMessage.h"
+#include "shelf/ShelfContent.h"
+#include "shelf/ShelfSurfaces.h"
+#include "shelf/ShelfTabs.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QFileDialog>
+#include <QTimeZone>
+
+#include <algorithm>
+
+namespace tembra {
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr double panelWidth = 744;
+constexpr double panelHeight = 256;
+constexpr double notificationWidth = 360;
+constexpr double notificationHeight = 84;
+
+// Screens come and go in bursts while a desktop rearranges itself.
+constexpr auto displaySettling = 200ms;
+
+// The tabs whose content there is.
+const std::vector<ShelfTab> builtTabs{ShelfTab::screenshots};
+
+QString text(const char *source) {
+    return QCoreApplication::translate("ShelfController", source);
+}
+
+} // namespace
+
+ShelfController::ShelfController(AppSettings &settings, std::unique_ptr<ShelfSession> session,
+                                 std::unique_ptr<ScreenshotLocationMonitor> locationMonitor,
+                                 const ShelfServices &services)
+    : m_settings(settings), m_services(services), m_session(std::move(session)),
+      m_locationMonitor(std::move(locationMonitor)), m_hover(services.scheduler, services.uptime, services.inputMonitor),
+      m_tabHover(services.scheduler), m_announcer(services.scheduler) {
+    onError = [](const QString &title, const QString &message) {
+        qWarning("%s: %s", qUtf8Printable(title), qUtf8Printable(message));
+    };
+}
+
+ShelfController::~ShelfController() = default;
+
+void ShelfController::start() {
+    requireMainThread();
+    if (m_started)
+        return;
+    m_started = true;
+    m_session->isRunning = true;
+    m_content = std::make_unique<ShelfContent>(m_services);
+    m_surfaces = std::make_unique<ShelfSurfaces>(m_services, *m_content);
+    connectContent();
+    connectHover();
+    connectAnnouncer();
+    connectSession();
+    connect(&m_settings, &AppSettings::updates, this, &ShelfController::applySettings);
+    m_workspaceObservation = m_services.workspace.observe([this](Workspace::Event event) { workspaceChanged(event); });
+    m_displayObservation = m_services.displays.observe([this] { scheduleDisplayReconciliation(); });
+    reconcileDisplayWindows();
+    refreshWatchers();
+    m_hover.start();
+    m_locationMonitor->onRead = [this](const ScreenshotDestination &destination) {
+        m_destination = destination;
+        updateFolderState();
+    };
+    m_locationMonitor->start();
+    scheduleTimelineRefresh();
+    updateFolderState();
+}
+
+void ShelfController::stop() {
+    requireMainThread();
+    if (!m_started)
+        return;
+    m_started = false;
+    m_session->isRunning = false;
+    disconnect(&m_settings, nullptr, this, nullptr);
+    m_displayReconcileWork.cancel();
+    m_timelineRefreshWork.cancel();
+    m_tabHover.cancelTabHover();
+    m_announcer.dismiss();
+    m_locationMonitor->stop();
+    m_hover.stop();
+    m_session->stopWatcher();
+    m_displayObservation.reset();
+    m_workspaceObservation.reset();
+    m_surfaces->removeAll();
+}
+
+void ShelfController::connectContent() {
+    connect(m_content.get(), &ShelfContent::tabClicked, this, &ShelfController::activateTab);
+    connect(m_content.get(), &ShelfContent::tabHovered, this, [this](ShelfTab tab) { m_tabHover.hoverTab(tab); });
+    connect(m_content.get(), &ShelfContent::tabLeft, this, [this](ShelfTab tab) { m_tabHover.cancelTabHover(tab); });
+    connect(m_content.get(), &ShelfContent::messageActed, this, &ShelfController::chooseFolder);
+    m_tabHover.canSwitchTo = [this](ShelfTab tab) { return canSwitchTabsWithHover(tab); };
+    m_tabHover.onActivate = [this](ShelfTab tab) { activateTab(tab); };
+}
+
+void ShelfController::connectHover() {
+    m_hover.snapshot = [this] { return hoverSnapshot(); };
+    m_hover.mouseLocation = [this] { return m_services.inputMonitor.pointer(); };
+    m_hover.onSetExpanded = [this](bool expanded) { setExpanded(expanded); };
+    m_surfaces->onPointerActivity = [this] { m_hover.requestPointerEvaluation(); };
+    m_surfaces->onActivationPressed = [this] { openManually(); };
+}
+
+void ShelfController::connectAnnouncer() {
+    m_announcer.canShow = [this] { return m_started && !m_expanded; };
+    m_announcer.onShow = [this](const auto &notification) { showNotification(notification); };
+}
+
+void ShelfController::connectSession() {
+    m_session->onFolderChange = [this](FolderShelf &, bool, int) { updateFolderState(); };
+    m_session->onNewFiles = [this](const std::vector<Shot> &shots) { receiveNewFiles(shots); };
+}
+
+void ShelfController::setExpanded(bool expanded) {
+    requireMainThread();
+    if (!m_started || expanded == m_expanded)
+        return;
+    if (expanded)
+        showExpanded();
+    else
+        hideSurface();
+}
+
+void ShelfController::showExpanded() {
+    if (!m_surfaces->activateForOpening(m_settings.state().displayPreference, m_services.inputMonitor.pointer()))
+        return;
+    m_expanded = true;
+    m_announcer.dismiss();
+    // The tool's setting may have been changed since: nobody tells, so it is asked when somebody looks.
+    m_locationMonitor->check();
+    render();
+    m_surfaces->present(ShelfPresentation::expanded(panelWidth, targetPanelHeight()));
+}
+
+void ShelfController::hideSurface() {
+    m_expanded = false;
+    m_tabHover.cancelTabHover();
+    m_surfaces->present(ShelfPresentation::collapsed());
+    m_hover.didCollapse();
+    m_announcer.flushFolderNotification();
+}
+
+void ShelfController::openManually() {
+    m_hover.openManually();
+}
+
+void ShelfController::toggleFromShortcut() {
+    if (m_expanded)
+        collapse();
+    else
+        openManually();
+}
+
+void ShelfController::reopenFromDock() {
+    openManually();
+}
+
+bool ShelfController::activateTab(ShelfTab tab) {
+    if (std::ranges::find(tabs(), tab) == tabs().end())
+        return false;
+    m_activeTab = tab;
+    render();
+    return true;
+}
+
+std::vector<ShelfTab> ShelfController::tabs() const {
+    return shownTabs(m_settings.state(), builtTabs);
+}
+
+bool ShelfController::canSwitchTabsWithHover(ShelfTab tab) const {
+    return m_settings.state().hoverOnTabToOpen && m_expanded && std::ranges::find(tabs(), tab) != tabs().end();
+}
+
+double ShelfController::targetPanelHeight() const {
+    return panelHeight;
+}
+
+void ShelfController::applySettings(const AppSettingsState &state) {
+    if (state.screenshotsFolder != m_session->folderShelf().url)
+        refreshWatchers();
+    if (std::ranges::find(tabs(), m_activeTab) == tabs().end())
+        m_activeTab = ShelfTab::screenshots;
+    reconcileDisplayWindows();
+    updateFolderState();
+}
+
+void ShelfController::refreshWatchers() {
+    m_session->refreshWatcher();
+}
+
+void ShelfController::updateFolderState() {
+    const FolderShelf &shelf = m_session->folderShelf();
+    const ScreenshotFolderState state = screenshotFolderState({.folder = m_settings.state().screenshotsFolder,
+                                                               .unavailable = shelf.errorText.has_value(),
+                                                               .destination = m_destination,
+                                                               .hasCompletedInitialScan = shelf.hasCompletedInitialScan});
+    const auto notification = folderNotification(m_folderState, state);
+    m_folderState = state;
+    render();
+    if (notification && m_settings.state().screenshotNotifications)
+        m_announcer.announceFolder(*notification);
+}
+
+// Nothing is drawn for a shelf that nobody sees: opening renders it.
+void ShelfController::render() {
+    if (!m_started || !m_expanded)
+        return;
+    ShelfContent::State state{.tabs = tabs(), .activeTab = m_activeTab};
+    const AppSettingsState &settings = m_settings.state();
+    state.message = screenshotFolderMessage(m_folderState.value_or(ScreenshotFolderState::none));
+    if (!state.message) {
+        state.pinnedPaths = m_settings.pinnedScreenshotPaths();
+        state.sections = ScreenshotTimeline::sections(m_session->folderShelf().shots, state.pinnedPaths,
+                                                      m_services.now(), QTimeZone::systemTimeZone());
+    }
+    state.isGrouped = settings.groupScreenshotsByDate;
+    state.showsFileNames = settings.showFileNames;
+    m_content->apply(state);
+}
+
+void ShelfController::receiveNewFiles(const std::vector<Shot> &shots) {
+    if (shots.empty())
+        return;
+    m_lastCapture = ShelfStatus::Capture{shots.front().location, shots.front().createdAt};
+    const bool isFirst = !m_settings.state().hasCaughtFirstScreenshot;
+    m_settings.markFirstScreenshotCaught();
+    if (!m_settings.state().screenshotNotifications)
+        return;
+    std::vector<CaptureNews> news;
+    for (const Shot &shot : shots)
+        news.push_back({.path = shot.location, .isRecording = m_session->isRecording(shot), .isFirst = isFirst});
+    m_announcer.announceCaptures(news);
+}
+
+void ShelfController::showNotification(const std::optional<CaptureNotification> &notification) {
+    if (!notification) {
+        if (!m_expanded)
+            m_surfaces->present(ShelfPresentation::collapsed());
+        return;
+    }
+    if (!m_surfaces->activateForOpening(m_settings.state().displayPreference, m_services.inputMonitor.pointer()))
+        return;
+    m_content->apply({.notification = notification});
+    m_surfaces->present(ShelfPresentation::notification(notificationWidth, notificationHeight));
+}
+
+HoverSnapshot ShelfController::hoverSnapshot() const {
+    HoverSnapshot snapshot;
+    snapshot.activationMode = m_settings.state().activationMode;
+    snapshot.expanded = m_expanded;
+    snapshot.compact = !m_expanded && m_announcer.showing().has_value();
+    snapshot.choosingFolder = m_choosingFolder;
+    snapshot.activationNotches = m_surfaces->activationNotches();
+    if (const ShelfDisplayWindow *active = m_surfaces->active()) {
+        snapshot.notch = active->display().activationRect();
+        snapshot.interactionPanel = active->interactionPanel();
+        snapshot.visiblePanel = active->visiblePanel();
+        snapshot.scale = active->display().scale;
+        snapshot.panelWindow = active->panelWindow();
+    }
+    return snapshot;
+}
+
+void ShelfController::workspaceChanged(Workspace::Event event) {
+    switch (event) {
+    case Workspace::Event::activeSpaceChanged:
+        m_hover.activeSpaceChanged();
+        break;
+    case Workspace::Event::didWake:
+        refreshTimeline();
+        m_hover.requestPointerEvaluation();
+        break;
+    case Workspace::Event::didMount:
+    case Workspace::Event::didUnmount:
+        m_session->refreshWatcher();
+        break;
+    case Workspace::Event::willSleep:
+    case Workspace::Event::compositingChanged:
+        break;
+    }
+}
+
+void ShelfController::scheduleDisplayReconciliation() {
+    if (!m_displayReconcileWork.isPending())
+        m_displayReconcileWork = m_services.scheduler.schedule(displaySettling, [this] { reconcileDisplayWindows(); });
+}
+
+void ShelfController::reconcileDisplayWindows() {
+    m_surfaces->reconcileDisplayWindows(m_settings.state().displayPreference);
+    m_hover.requestPointerEvaluation();
+}
+
+void ShelfController::refreshTimeline() {
+    render();
+    scheduleTimelineRefresh();
+}
+
+// At midnight today's captures become yesterday's.
+void ShelfController::scheduleTimelineRefresh() {
+    const auto now = std::chrono::floor<std::chrono::milliseconds>(m_services.now().time_since_epoch());
+    const QDateTime local = QDateTime::fromMSecsSinceEpoch(now.count());
+    const QDateTime midnight = local.date().addDays(1).startOfDay();
+    const std::chrono::milliseconds delay(local.msecsTo(midnight));
+    m_timelineRefreshWork = m_services.scheduler.schedule(delay, [this] { refreshTimeline(); }, 1s);
+}
+
+QString ShelfController::suggestedScreenshotFolder() const {
+    if (m_destination && m_destination->kind == ScreenshotDestination::Kind::folder)
+        return m_destination->folder;
+    return m_settings.state().screenshotsFolder.value_or(QString());
+}
+
+void ShelfController::chooseFolder() {
+    if (m_choosingFolder)
+        return;
+    m_choosingFolder = true;
+    const std::optional<QString> chosen = askForFolder(suggestedScreenshotFolder());
+    m_choosingFolder = false;
+    if (chosen) {
+        if (const auto accepted = acceptScreenshotFolder(*chosen, false); !accepted)
+            onError(accepted.error().message, accepted.error().recoverySuggestion);
+    }
+    m_hover.requestPointerEvaluation();
+}
+
+Result<void> ShelfController::acceptScreenshotFolder(const QString &folder, bool adopting) {
+    const auto granted = m_settings.grantScreenshotsFolder(folder, !adopting, false);
+    if (!granted)
+        return granted;
+    // What the monitor is reading now may still be the old place.
+    m_locationMonitor->generation += 1;
+    m_locationMonitor->check();
+    refreshWatchers();
+    return {};
+}
+
+ShelfStatus ShelfController::status() const {
+    ShelfStatus status;
+    const FolderShelf &shelf = m_session->folderShelf();
+    status.expanded = m_expanded;
+    status.tab = m_activeTab;
+    if (const ShelfDisplayWindow *active = m_surfaces->active()) {
+        status.display = m_expanded ? active->display().name : QString();
+        status.frame = active->visiblePanel();
+    }
+    status.folder = m_settings.state().screenshotsFolder;
+    status.folderState = m_folderState.value_or(ScreenshotFolderState::none);
+    status.screenshotCount = static_cast<int>(shelf.shots.size());
+    const QSet<QString> pinned = m_settings.pinnedScreenshotPaths();
+    for (const ScreenshotSection &section :
+         ScreenshotTimeline::sections(shelf.shots, pinned, m_services.now(), QTimeZone::systemTimeZone())) {
+        status.sections.push_back({title(section.kind), static_cast<int>(section.shots.size())});
+        if (section.kind == ScreenshotSectionKind::pinned)
+            status.pinnedCount = static_cast<int>(section.shots.size());
+    }
+    status.selected = m_content->selectedPaths();
+    if (const auto &showing = m_announcer.showing()) {
+        status.showingNotification = true;
+        status.notificationText = showing->text;
+        status.notificationCount = showing->captureCount;
+    }
+    status.lastCapture = m_lastCapture;
+    return status;
+}
+
+} // namespace tembra

@@ -1,0 +1,115 @@
+#pragma once
+
+#include "base/Generation.h"
+#include "base/Result.h"
+#include "screenshots/ScreenshotDestination.h"
+#include "shelf/CaptureAnnouncer.h"
+#include "shelf/HoverController.h"
+#include "shelf/ScreenshotFolderState.h"
+#include "shelf/ShelfServices.h"
+#include "shelf/ShelfStatus.h"
+#include "shelf/ShelfTab.h"
+#include "shelf/TabHover.h"
+
+#include <QObject>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace tembra {
+
+class AppSettings;
+struct AppSettingsState;
+class ScreenshotLocationMonitor;
+class ShelfContent;
+class ShelfSession;
+class ShelfSurfaces;
+
+// Joins the models to the screen: the shelf's surfaces on each display, its tabs and their content, what it announces,
+// and when it opens and closes. Main thread; owned by OnboardingCoordinator, which starts and stops it.
+class ShelfController final : public QObject {
+    Q_OBJECT
+
+public:
+    ShelfController(AppSettings &settings, std::unique_ptr<ShelfSession> session,
+                    std::unique_ptr<ScreenshotLocationMonitor> locationMonitor, const ShelfServices &services);
+    ~ShelfController() override;
+
+    // Asks the user for a folder, starting at the one suggested; nothing when the user changed their mind. Replaceable.
+    std::function<std::optional<QString>(const QString &suggested)> askForFolder;
+    // Shows a failure as title and message. Replaceable.
+    std::function<void(const QString &title, const QString &message)> onError;
+
+    void start();
+    void stop();
+
+    void setExpanded(bool expanded);
+    void collapse() { setExpanded(false); }
+    // An open made by the user: it stays until closed by the user.
+    void openManually();
+    void toggleFromShortcut();
+    void reopenFromDock();
+    // Whether the tab is shown.
+    bool activateTab(ShelfTab tab);
+
+    void chooseFolder();
+    // Makes the folder the one that is shown; `adopting` leaves the screenshot tool's own setting as it is, since the
+    // folder came from there.
+    Result<void> acceptScreenshotFolder(const QString &folder, bool adopting);
+    [[nodiscard]] QString suggestedScreenshotFolder() const;
+
+    [[nodiscard]] bool isExpanded() const { return m_expanded; }
+    [[nodiscard]] ShelfStatus status() const;
+
+private:
+    void connectHover();
+    void connectAnnouncer();
+    void connectSession();
+    void connectContent();
+
+    void applySettings(const AppSettingsState &state);
+    void refreshWatchers();
+    void refreshTimeline();
+    void scheduleTimelineRefresh();
+    void render();
+    void updateFolderState();
+    void receiveNewFiles(const std::vector<Shot> &shots);
+    void showNotification(const std::optional<CaptureNotification> &notification);
+    void showExpanded();
+    void hideSurface();
+    void workspaceChanged(Workspace::Event event);
+    void scheduleDisplayReconciliation();
+    void reconcileDisplayWindows();
+
+    [[nodiscard]] HoverSnapshot hoverSnapshot() const;
+    [[nodiscard]] bool canSwitchTabsWithHover(ShelfTab tab) const;
+    [[nodiscard]] std::vector<ShelfTab> tabs() const;
+    [[nodiscard]] double targetPanelHeight() const;
+
+    AppSettings &m_settings;
+    ShelfServices m_services;
+    std::unique_ptr<ShelfSession> m_session;
+    std::unique_ptr<ScreenshotLocationMonitor> m_locationMonitor;
+    std::unique_ptr<ShelfSurfaces> m_surfaces;
+    std::unique_ptr<ShelfContent> m_content;
+    HoverController m_hover;
+    TabHover m_tabHover;
+    CaptureAnnouncer m_announcer;
+
+    bool m_started = false;
+    bool m_expanded = false;
+    bool m_choosingFolder = false;
+    ShelfTab m_activeTab = ShelfTab::screenshots;
+    std::optional<ScreenshotDestination> m_destination;
+    std::optional<ScreenshotFolderState> m_folderState;
+    std::optional<ShelfStatus::Capture> m_lastCapture;
+
+    std::unique_ptr<Workspace::Observation> m_workspaceObservation;
+    std::unique_ptr<Displays::Observation> m_displayObservation;
+    WorkItem m_displayReconcileWork;
+    WorkItem m_timelineRefreshWork;
+};
+
+} // namespace tembra

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "base/Clocks.h"
+#include "base/Scheduler.h"
+#include "platform/Displays.h"
+#include "platform/HotZones.h"
+#include "platform/InputMonitor.h"
+#include "platform/PanelWindows.h"
+#include "platform/Thumbnails.h"
+#include "platform/Workspace.h"
+
+namespace tembra {
+
+// What the shelf takes from the platform; everything outlives it.
+struct ShelfServices {
+    Scheduler &scheduler;
+    UptimeClock uptime;
+    WallClock now;
+    Displays &displays;
+    Workspace &workspace;
+    InputMonitor &inputMonitor;
+    PanelWindows &panelWindows;
+    HotZones &hotZones;
+    Thumbnails &thumbnails;
+};
+
+} // namespace tembra

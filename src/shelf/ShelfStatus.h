@@ -1,0 +1,48 @@
+#pragma once
+
+#include "base/Clocks.h"
+#include "platform/ScreenGeometry.h"
+#include "shelf/ScreenshotFolderState.h"
+#include "shelf/ShelfTab.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+#include <vector>
+
+namespace tembra {
+
+// What the shelf shows and knows, as one value, for scripts and for the tests that drive the program.
+struct ShelfStatus {
+    struct Section {
+        QString title;
+        int count = 0;
+    };
+    struct Capture {
+        QString path;
+        Instant at{};
+    };
+
+    bool expanded = false;
+    ShelfTab tab = ShelfTab::screenshots;
+    // Name of the display that has the shelf; empty when it is closed.
+    QString display;
+    // The visible panel, or the hot zone while closed.
+    ScreenRect frame;
+
+    std::optional<QString> folder;
+    ScreenshotFolderState folderState = ScreenshotFolderState::none;
+    int screenshotCount = 0;
+    int pinnedCount = 0;
+    QStringList selected;
+    std::vector<Section> sections;
+
+    bool showingNotification = false;
+    QString notificationText;
+    int notificationCount = 0;
+
+    std::optional<Capture> lastCapture;
+};
+
+} // namespace tembra
