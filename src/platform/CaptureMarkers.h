@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Result.h"
+#include "platform/OpenFile.h"
 
 #include <QString>
 #include <QStringView>
@@ -15,13 +16,13 @@ class CaptureMarkers {
 public:
     virtual ~CaptureMarkers() = default;
     // The screen-capture marker attached to the file: yes, no, or none.
-    [[nodiscard]] virtual std::optional<bool> marker(const QString &path) const = 0;
+    [[nodiscard]] virtual std::optional<bool> marker(const OpenFile &file) const = 0;
     virtual Result<void> setMarker(const QString &path, bool isCapture) const = 0;
     // Whether data inside the file names a screenshot tool as its maker.
-    [[nodiscard]] virtual bool metadataSaysCapture(const QString &path) const = 0;
-    // Whether the name (without folder) is one that a tool of this platform gives to its captures. A tool
-    // whose names carry no word of their own counts only in the folder that it saves into.
-    [[nodiscard]] virtual bool nameSaysCapture(QStringView fileName, const QString &folder) const = 0;
+    [[nodiscard]] virtual bool metadataSaysCapture(const OpenFile &file) const = 0;
+    // Whether the name (without folder) is one that a tool of this platform gives to its captures.
+    // `customPrefix` is how the user lets the names begin; empty when that is not changed.
+    [[nodiscard]] virtual bool nameSaysCapture(QStringView fileName, QStringView customPrefix) const = 0;
     // Extensions of recordings, lower case, that tools write on this platform beside those known everywhere.
     [[nodiscard]] virtual bool isPlatformVideoExtension(QStringView extension) const = 0;
 };

@@ -45,6 +45,8 @@ public:
     [[nodiscard]] virtual Result<FileFacts> facts(const QString &path) const = 0;
     // As above, following links.
     [[nodiscard]] virtual Result<FileFacts> targetFacts(const QString &path) const = 0;
+    // Whether a folder can be opened for reading and, with `enumerateContents`, its entries be listed.
+    [[nodiscard]] virtual Result<void> canReadFolder(const QString &path, bool enumerateContents) const = 0;
     // Notes the date that `createdAt` is to tell from now on, whatever is written over the file's bytes
     // later.
     virtual Result<void> recordCreationDate(const QString &path, Instant createdAt) const = 0;

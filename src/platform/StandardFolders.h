@@ -16,6 +16,8 @@ struct StandardFolders {
     QString videos;
     QString music;
     QString publicShare;
+    // Where programs keep data of the user's that the user does not look at.
+    QString library;
     QString applications;
     // Where users share files with each other, and the root of the file system.
     QString shared;

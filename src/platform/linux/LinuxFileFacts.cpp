@@ -7,7 +7,9 @@
 
 #include <algorithm>
 #include <array>
+#include <dirent.h>
 #include <fcntl.h>
+#include <memory>
 #include <new>
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
@@ -28,21 +30,32 @@ std::uint64_t deviceNumber(const struct statx &status) {
     return makedev(status.stx_dev_major, status.stx_dev_minor);
 }
 
-std::uint64_t generation(const QByteArray &path, bool followsLinks) {
+// A file as system calls name it: by its path, with links followed or not, or by its descriptor.
+struct Place {
+    int folder = AT_FDCWD;
+    QByteArray path;
+    bool followsLinks = false;
+
+    [[nodiscard]] bool isOpen() const { return folder != AT_FDCWD; }
+};
+
+std::uint64_t generation(const Place &place) {
     alignas(file_handle) std::array<char, sizeof(file_handle) + MAX_HANDLE_SZ> storage{};
     auto *handle = new (storage.data()) file_handle;
     handle->handle_bytes = MAX_HANDLE_SZ;
     int mountId = 0;
-    const int flags = followsLinks ? AT_SYMLINK_FOLLOW : 0;
-    if (::name_to_handle_at(AT_FDCWD, path.constData(), handle, &mountId, flags) != 0)
+    const int flags = place.isOpen() ? AT_EMPTY_PATH : (place.followsLinks ? AT_SYMLINK_FOLLOW : 0);
+    if (::name_to_handle_at(place.folder, place.path.constData(), handle, &mountId, flags) != 0)
         return 0;
     return stableHash({storage.data() + sizeof(file_handle), handle->handle_bytes});
 }
 
-std::optional<Instant> recordedCreation(const QByteArray &path, bool followsLinks) {
+std::optional<Instant> recordedCreation(const Place &place) {
     std::array<char, 32> digits{};
-    const auto read = followsLinks ? ::getxattr : ::lgetxattr;
-    const ssize_t length = read(path.constData(), creationAttribute, digits.data(), digits.size());
+    const auto read = place.followsLinks ? ::getxattr : ::lgetxattr;
+    const ssize_t length =
+        place.isOpen() ? ::fgetxattr(place.folder, creationAttribute, digits.data(), digits.size())
+                       : read(place.path.constData(), creationAttribute, digits.data(), digits.size());
     if (length <= 0)
         return std::nullopt;
     bool isNumber = false;
@@ -50,20 +63,34 @@ std::optional<Instant> recordedCreation(const QByteArray &path, bool followsLink
     return isNumber ? std::optional(Instant(std::chrono::nanoseconds(nanoseconds))) : std::nullopt;
 }
 
-std::optional<Instant> creation(const struct statx &status, const QByteArray &path, bool followsLinks) {
-    if (const auto recorded = recordedCreation(path, followsLinks))
+std::optional<Instant> creation(const struct statx &status, const std::optional<Instant> &recorded) {
+    if (recorded)
         return recorded;
     if (!(status.stx_mask & STATX_BTIME))
         return std::nullopt;
     return std::min(instant(status.stx_btime), modificationTime(status));
 }
 
-Result<struct statx> status(const QByteArray &path, bool followsLinks) {
+Result<struct statx> status(const Place &place) {
     struct statx status {};
-    const int flags = AT_STATX_SYNC_AS_STAT | AT_NO_AUTOMOUNT | (followsLinks ? 0 : AT_SYMLINK_NOFOLLOW);
-    if (::statx(AT_FDCWD, path.constData(), flags, wantedFacts, &status) != 0)
+    const int flags = AT_NO_AUTOMOUNT | (place.isOpen() ? AT_EMPTY_PATH : 0) |
+                      (place.followsLinks ? 0 : AT_SYMLINK_NOFOLLOW);
+    if (::statx(place.folder, place.path.constData(), flags, wantedFacts, &status) != 0)
         return failure(posixError());
     return status;
+}
+
+FileFacts assemble(const struct statx &found, const LinuxVolume &volume, std::uint64_t generation,
+                   const std::optional<Instant> &createdAt) {
+    FileFacts facts;
+    facts.kind = fileKind(found);
+    facts.createdAt = createdAt;
+    facts.modifiedAt = modificationTime(found);
+    facts.changedAt = changeTime(found);
+    facts.size = found.stx_size;
+    if (volume.hasLastingInodes)
+        facts.resource = FileResource{volume.id, found.stx_ino, generation};
+    return facts;
 }
 
 } // namespace
@@ -93,22 +120,35 @@ Result<FileFacts> LinuxFileFactsReader::targetFacts(const QString &path) const {
 }
 
 Result<FileFacts> LinuxFileFactsReader::read(const QString &path, bool followsLinks) const {
-    const QByteArray encoded = QFile::encodeName(path);
-    const auto found = status(encoded, followsLinks);
-    if (!found)
-        return failure(found.error());
-    const LinuxVolume volume = m_volumes.of(deviceNumber(*found), found->stx_mnt_id, encoded, followsLinks);
-    FileFacts facts;
-    facts.kind = fileKind(*found);
-    facts.createdAt = creation(*found, encoded, followsLinks);
-    facts.modifiedAt = modificationTime(*found);
-    facts.changedAt = changeTime(*found);
-    facts.size = found->stx_size;
-    if (volume.hasLastingInodes) {
-        facts.resource = FileResource{volume.id, found->stx_ino,
-                                      volume.hasLastingHandles ? generation(encoded, followsLinks) : 0};
-    }
-    return facts;
+    const Place place{.path = QFile::encodeName(path), .followsLinks = followsLinks};
+    return status(place).map([&](const struct statx &found) {
+        const LinuxVolume volume =
+            m_volumes.of(deviceNumber(found), found.stx_mnt_id, place.path, followsLinks);
+        return assemble(found, volume, volume.hasLastingHandles ? generation(place) : 0,
+                        creation(found, recordedCreation(place)));
+    });
+}
+
+Result<FileFacts> LinuxFileFactsReader::factsOfOpen(int descriptor, bool hasAttributes) const {
+    const Place place{.folder = descriptor, .path = QByteArray("")};
+    return status(place).map([&](const struct statx &found) {
+        const LinuxVolume volume = m_volumes.of(deviceNumber(found), found.stx_mnt_id,
+                                                "/proc/self/fd/" + QByteArray::number(descriptor), true);
+        return assemble(found, volume, volume.hasLastingHandles ? generation(place) : 0,
+                        creation(found, hasAttributes ? recordedCreation(place) : std::nullopt));
+    });
+}
+
+Result<void> LinuxFileFactsReader::canReadFolder(const QString &path, bool enumerateContents) const {
+    const std::unique_ptr<DIR, int (*)(DIR *)> folder(::opendir(QFile::encodeName(path).constData()),
+                                                      ::closedir);
+    if (!folder)
+        return failure(posixError());
+    errno = 0;
+    // One entry proves it: the kernel reads them by the buffer.
+    if (enumerateContents && !::readdir(folder.get()) && errno != 0)
+        return failure(posixError());
+    return {};
 }
 
 Result<void> LinuxFileFactsReader::recordCreationDate(const QString &path, Instant createdAt) const {
@@ -122,7 +162,7 @@ Result<void> LinuxFileFactsReader::recordCreationDate(const QString &path, Insta
 
 Result<LinuxVolume> LinuxFileFactsReader::volumeOf(const QString &path) const {
     const QByteArray encoded = QFile::encodeName(path);
-    return status(encoded, true).map([&](const struct statx &found) {
+    return status({.path = encoded, .followsLinks = true}).map([&](const struct statx &found) {
         return m_volumes.of(deviceNumber(found), found.stx_mnt_id, encoded, true);
     });
 }

@@ -14,7 +14,11 @@ class LinuxFileFactsReader final : public FileFactsReader {
 public:
     [[nodiscard]] Result<FileFacts> facts(const QString &path) const override;
     [[nodiscard]] Result<FileFacts> targetFacts(const QString &path) const override;
+    [[nodiscard]] Result<void> canReadFolder(const QString &path, bool enumerateContents) const override;
     Result<void> recordCreationDate(const QString &path, Instant createdAt) const override;
+
+    // The facts of an open file. `hasAttributes` false spares looking for a recorded creation date.
+    [[nodiscard]] Result<FileFacts> factsOfOpen(int descriptor, bool hasAttributes) const;
 
     // The volume of FileResource for a file or folder there.
     [[nodiscard]] Result<std::uint64_t> volumeIdOf(const QString &path) const;

@@ -9,7 +9,8 @@ namespace tembra {
 
 // Who is told about something: each observer is a function that lives as long as its handle, which derives
 // from `Handle`. Observers may come and go while they are being told. Main thread.
-template <class Handle, class... Arguments> class Observers {
+template <class Handle, class... Arguments>
+class Observers {
 public:
     using Function = std::function<void(Arguments...)>;
 

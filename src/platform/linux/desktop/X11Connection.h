@@ -21,7 +21,8 @@ struct FreeReply {
 };
 
 // What an xcb request answered; empty when it failed.
-template <class Reply> using X11Reply = std::unique_ptr<Reply, FreeReply>;
+template <class Reply>
+using X11Reply = std::unique_ptr<Reply, FreeReply>;
 
 // The connection to the X server that Qt opened, and its one event filter. Main thread; ends before the
 // application object.

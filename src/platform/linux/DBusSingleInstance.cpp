@@ -1,0 +1,84 @@
+#include "platform/linux/DBusSingleInstance.h"
+
+#include "platform/linux/ApplicationAdaptor.h"
+#include "platform/linux/TembraAdaptor.h"
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <QDBusError>
+#include <QDBusMessage>
+
+namespace tembra {
+
+namespace {
+
+const QString serviceName = QStringLiteral("app.tembra.Tembra");
+const QString objectPath = QStringLiteral("/app/tembra/Tembra");
+const QString interfaceName = QStringLiteral("app.tembra.Tembra");
+
+QString translated(const char *text) {
+    return QCoreApplication::translate("SingleInstance", text);
+}
+
+tl::unexpected<Error> instanceFailure(SingleInstance::ErrorCode code, const QString &message) {
+    return failure({QStringLiteral("Tembra.SingleInstance"), code, message, {}});
+}
+
+tl::unexpected<Error> noBus() {
+    return instanceFailure(SingleInstance::noSessionBus,
+                           translated("There is no D-Bus session to reach Tembra through."));
+}
+
+} // namespace
+
+DBusSingleInstance::DBusSingleInstance() = default;
+
+DBusSingleInstance::~DBusSingleInstance() {
+    release();
+}
+
+Result<void> DBusSingleInstance::claim(Handler handler) {
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected())
+        return noBus();
+    // The object is there before the name is, so that a call that waited for the name finds it.
+    m_object = std::make_unique<QObject>();
+    new TembraAdaptor(m_object.get(), handler);
+    new ApplicationAdaptor(m_object.get(), std::move(handler));
+    bus.registerObject(objectPath, m_object.get());
+    if (bus.registerService(serviceName))
+        return {};
+    bus.unregisterObject(objectPath);
+    m_object.reset();
+    return instanceFailure(alreadyRunning, translated("Tembra is already running."));
+}
+
+void DBusSingleInstance::release() {
+    if (!m_object)
+        return;
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    bus.unregisterService(serviceName);
+    bus.unregisterObject(objectPath);
+    m_object.reset();
+}
+
+Result<QString> DBusSingleInstance::send(const QString &command, const QStringList &arguments,
+                                         bool startIfNeeded) {
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected())
+        return noBus();
+    QDBusMessage call =
+        QDBusMessage::createMethodCall(serviceName, objectPath, interfaceName, QStringLiteral("Command"));
+    call.setAutoStartService(startIfNeeded);
+    call << command << arguments;
+    const QDBusMessage reply = bus.call(call);
+    if (reply.type() == QDBusMessage::ReplyMessage)
+        return reply.arguments().value(0).toString();
+    const auto kind = QDBusError(reply).type();
+    if (kind == QDBusError::ServiceUnknown || kind == QDBusError::NameHasNoOwner)
+        return instanceFailure(notRunning, translated("Tembra is not running."));
+    return instanceFailure(refused, reply.errorMessage());
+}
+
+} // namespace tembra

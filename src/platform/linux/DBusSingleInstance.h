@@ -1,0 +1,27 @@
+#pragma once
+
+#include "platform/SingleInstance.h"
+
+#include <QObject>
+
+#include <memory>
+
+namespace tembra {
+
+// SingleInstance by the well-known name app.tembra.Tembra on the session bus, with the interfaces
+// app.tembra.Tembra and org.freedesktop.Application (Desktop Entry Specification, D-Bus activation) at
+// /app/tembra/Tembra.
+class DBusSingleInstance final : public SingleInstance {
+public:
+    DBusSingleInstance();
+    ~DBusSingleInstance() override;
+
+    Result<void> claim(Handler handler) override;
+    void release() override;
+    Result<QString> send(const QString &command, const QStringList &arguments, bool startIfNeeded) override;
+
+private:
+    std::unique_ptr<QObject> m_object;
+};
+
+} // namespace tembra

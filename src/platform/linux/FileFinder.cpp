@@ -1,0 +1,69 @@
+#include "platform/linux/FileFinder.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <dirent.h>
+#include <memory>
+
+namespace tembra {
+
+namespace {
+
+// Folders that are looked into at each step of the search.
+constexpr qsizetype mostFolders = 64;
+
+QStringList subfolders(const QString &folder) {
+    const QDir directory(folder);
+    QStringList paths;
+    const QStringList names = directory.entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks);
+    for (const QString &name : names.mid(0, mostFolders))
+        paths.append(directory.filePath(name));
+    return paths;
+}
+
+} // namespace
+
+FileFinder::FileFinder(const FileFactsReader &reader, QStringList furtherFolders)
+    : m_reader(reader), m_furtherFolders(std::move(furtherFolders)) {}
+
+std::optional<QString> FileFinder::find(const FileResource &resource, const QString &lastKnownPath) const {
+    if (isAt(lastKnownPath, resource))
+        return lastKnownPath;
+    const QString folder = QFileInfo(lastKnownPath).path();
+    QStringList places{folder};
+    places += subfolders(folder);
+    places += QFileInfo(folder).path();
+    places += subfolders(QFileInfo(folder).path());
+    places += m_furtherFolders;
+    places.removeDuplicates();
+    for (const QString &place : places) {
+        if (auto found = findIn(place, resource))
+            return found;
+    }
+    return std::nullopt;
+}
+
+bool FileFinder::isAt(const QString &path, const FileResource &resource) const {
+    const auto facts = m_reader.facts(path);
+    return facts && facts->resource == resource;
+}
+
+// The names of a folder come with their inodes, so that only those that can be the file are asked further.
+std::optional<QString> FileFinder::findIn(const QString &folder, const FileResource &resource) const {
+    const std::unique_ptr<DIR, int (*)(DIR *)> entries(::opendir(QFile::encodeName(folder).constData()),
+                                                       ::closedir);
+    if (!entries)
+        return std::nullopt;
+    while (const dirent *entry = ::readdir(entries.get())) {
+        if (entry->d_ino != resource.inode)
+            continue;
+        const QString path = QDir(folder).filePath(QFile::decodeName(entry->d_name));
+        if (isAt(path, resource))
+            return path;
+    }
+    return std::nullopt;
+}
+
+} // namespace tembra

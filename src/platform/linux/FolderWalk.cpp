@@ -1,0 +1,99 @@
+#include "platform/linux/FolderWalk.h"
+
+#include "platform/linux/LinuxOpenFile.h"
+#include "platform/linux/PosixError.h"
+
+#include <QFile>
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+
+namespace tembra {
+
+namespace {
+
+// Deeper folders are passed over: each level holds a descriptor.
+constexpr int deepest = 32;
+
+class ListedFile final : public FolderFiles::Listed {
+public:
+    ListedFile(int folder, const char *name, std::string_view relativePath, const FileVersion &version,
+               const LinuxFileFactsReader &reader)
+        : m_folder(folder),
+          m_name(name),
+          m_relativePath(relativePath),
+          m_version(version),
+          m_reader(reader) {}
+
+    [[nodiscard]] std::string_view relativePath() const override { return m_relativePath; }
+    [[nodiscard]] const FileVersion &version() const override { return m_version; }
+    [[nodiscard]] Result<std::unique_ptr<OpenFile>> open() const override {
+        return LinuxOpenFile::open(m_folder, m_name, m_reader);
+    }
+
+private:
+    int m_folder;
+    const char *m_name;
+    std::string_view m_relativePath;
+    const FileVersion &m_version;
+    const LinuxFileFactsReader &m_reader;
+};
+
+FileVersion fileVersion(const struct statx &facts) {
+    return {facts.stx_ino, facts.stx_size, modificationTime(facts), changeTime(facts)};
+}
+
+} // namespace
+
+FolderWalk::FolderWalk(const LinuxFileFactsReader &reader, const FolderFiles::Visit &visit)
+    : m_reader(reader), m_visit(visit) {}
+
+Result<void> FolderWalk::run(const QString &folder, bool subfolders) {
+    const int descriptor = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const int code = descriptor < 0 ? errno : walk(descriptor, {}, subfolders);
+    if (code != 0)
+        return failure(posixError(code));
+    return {};
+}
+
+int FolderWalk::walk(int folder, const std::string &prefix, bool subfolders) {
+    DIR *entries = ::fdopendir(folder);
+    if (!entries) {
+        const int code = errno;
+        ::close(folder);
+        return code;
+    }
+    ++m_depth;
+    errno = 0;
+    const dirent *entry = nullptr;
+    while (m_goesOn && (entry = ::readdir(entries))) {
+        const bool mayCount =
+            entry->d_type == DT_REG || entry->d_type == DT_UNKNOWN || (entry->d_type == DT_DIR && subfolders);
+        if (mayCount && entry->d_name[0] != '.')
+            meet(folder, entry->d_name, prefix, subfolders);
+        errno = 0;
+    }
+    const int code = errno;
+    --m_depth;
+    ::closedir(entries);
+    return code;
+}
+
+void FolderWalk::meet(int folder, const char *name, const std::string &prefix, bool subfolders) {
+    struct statx facts {};
+    constexpr unsigned wanted = STATX_TYPE | STATX_INO | STATX_SIZE | STATX_MTIME | STATX_CTIME;
+    if (::statx(folder, name, AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT, wanted, &facts) != 0)
+        return;
+    if (S_ISREG(facts.stx_mode)) {
+        const FileVersion version = fileVersion(facts);
+        const std::string relativePath = prefix + name;
+        m_goesOn = m_visit(ListedFile(folder, name, relativePath, version, m_reader));
+    } else if (S_ISDIR(facts.stx_mode) && subfolders && m_depth < deepest) {
+        const int below = ::openat(folder, name, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+        if (below >= 0)
+            walk(below, prefix + name + '/', subfolders);
+    }
+}
+
+} // namespace tembra

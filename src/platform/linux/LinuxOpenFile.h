@@ -1,0 +1,33 @@
+#pragma once
+
+#include "base/Result.h"
+#include "platform/OpenFile.h"
+#include "platform/linux/Descriptor.h"
+#include "platform/linux/LinuxFileFacts.h"
+
+#include <memory>
+
+namespace tembra {
+
+// OpenFile on a descriptor.
+class LinuxOpenFile final : public OpenFile {
+public:
+    // Opens the regular file `name` relative to the folder's descriptor (AT_FDCWD for a path). Error:
+    // "POSIX".
+    [[nodiscard]] static Result<std::unique_ptr<OpenFile>> open(int folder, const char *name,
+                                                                const LinuxFileFactsReader &reader);
+
+    LinuxOpenFile(Descriptor descriptor, const LinuxFileFactsReader &reader);
+
+    [[nodiscard]] FileFacts facts() const override;
+    [[nodiscard]] std::optional<QByteArray> attribute(const char *name) const override;
+    [[nodiscard]] std::size_t read(std::uint64_t offset, std::span<char> into) const override;
+
+private:
+    Descriptor m_descriptor;
+    const LinuxFileFactsReader &m_reader;
+    // Most files have no attributes at all: one call tells, and spares one a name.
+    bool m_hasAttributes = false;
+};
+
+} // namespace tembra
