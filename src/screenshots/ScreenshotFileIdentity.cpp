@@ -1,6 +1,14 @@
 #include "screenshots/ScreenshotFileIdentity.h"
 
+#include <QDir>
+
 namespace tembra {
+
+ScreenshotFileIdentity ScreenshotFileIdentity::of(const QString &path, const FileFacts &facts) {
+    if (facts.resource)
+        return {Resource{*facts.resource, facts.createdAt}};
+    return {Path{QDir::cleanPath(path), facts.createdAt}};
+}
 
 size_t qHash(const ScreenshotFileIdentity &identity, size_t seed) {
     const auto createdAt = [](const std::optional<Instant> &date) {

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QStringView>
+
+#include <array>
+
+namespace tembra {
+
+// The extensions of screenshots and recordings, lower case, known on every platform.
+struct CaptureMedia {
+    static constexpr std::array<QStringView, 5> imageExtensions{u"png", u"jpg", u"jpeg", u"heic", u"tiff"};
+    static constexpr std::array<QStringView, 3> videoExtensions{u"mov", u"mp4", u"m4v"};
+
+    // The extension of a file name in lower case; empty when there is none.
+    [[nodiscard]] static QString extension(QStringView fileName);
+    [[nodiscard]] static bool isImageExtension(QStringView extension);
+    [[nodiscard]] static bool isVideoExtension(QStringView extension);
+};
+
+} // namespace tembra

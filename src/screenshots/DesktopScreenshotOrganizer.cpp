@@ -1,0 +1,79 @@
+#include "screenshots/DesktopScreenshotOrganizer.h"
+
+#include "screenshots/ScreenshotCaptureDetector.h"
+#include "settings/CocoaError.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+namespace tembra {
+
+namespace {
+
+QString sentence(const char *text, const QString &path) {
+    return QCoreApplication::translate("DesktopScreenshotOrganizer", text).arg(path);
+}
+
+// The name itself, then with a counter from 2 on.
+QString candidate(const QDir &folder, const QString &name, int number) {
+    if (number == 1)
+        return folder.filePath(name);
+    const qsizetype dot = name.lastIndexOf(u'.');
+    const QString base = dot > 0 ? name.left(dot) : name;
+    const QString extension = dot > 0 ? name.mid(dot) : QString();
+    return folder.filePath(QStringLiteral("%1 (%2)%3").arg(base).arg(number).arg(extension));
+}
+
+// Renaming refuses a name that is taken, also one taken since it was looked at.
+bool moveInto(const QDir &folder, const QFileInfo &file) {
+    for (int number = 1;; ++number) {
+        const QString target = candidate(folder, file.fileName(), number);
+        if (QFileInfo::exists(target) || QFileInfo(target).isSymLink())
+            continue;
+        if (QFile::rename(file.filePath(), target))
+            return true;
+        if (!QFileInfo::exists(target))
+            return false;
+    }
+}
+
+} // namespace
+
+Result<void> DesktopScreenshotOrganizer::createFolder(const QString &folder) {
+    const QFileInfo info(folder);
+    if (info.isDir() && !info.isSymLink())
+        return {};
+    if (info.exists() || info.isSymLink())
+        return cocoaFailure(CocoaError::fileWriteFileExists,
+                            sentence(QT_TRANSLATE_NOOP("DesktopScreenshotOrganizer",
+                                                       "“%1” is there already and is no folder."),
+                                     folder));
+    if (QDir().mkpath(folder))
+        return {};
+    return cocoaFailure(
+        CocoaError::fileWriteNoPermission,
+        sentence(QT_TRANSLATE_NOOP("DesktopScreenshotOrganizer", "The folder “%1” cannot be made."), folder));
+}
+
+Result<DesktopScreenshotOrganizer::Report>
+DesktopScreenshotOrganizer::moveScreenshots(const QString &from, const QString &to,
+                                            const ScreenshotCaptureDetector &detector) {
+    const QDir source(from);
+    if (!source.exists() || !QFileInfo(from).isReadable())
+        return cocoaFailure(
+            CocoaError::fileReadNoPermission,
+            sentence(QT_TRANSLATE_NOOP("DesktopScreenshotOrganizer", "The folder “%1” cannot be read."),
+                     from));
+    Report report;
+    const QFileInfoList entries = source.entryInfoList(QDir::Files | QDir::Hidden | QDir::NoSymLinks);
+    for (const QFileInfo &file : entries) {
+        if (detector.isVideoName(file.fileName()) || !detector.isCapture(file.filePath()))
+            continue;
+        ++(moveInto(QDir(to), file) ? report.moved : report.failed);
+    }
+    return report;
+}
+
+} // namespace tembra

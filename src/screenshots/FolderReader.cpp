@@ -1,0 +1,154 @@
+#include "screenshots/FolderReader.h"
+
+#include "screenshots/CaptureMedia.h"
+#include "screenshots/ImageCompleteness.h"
+#include "screenshots/ScreenshotTimeline.h"
+#include "screenshots/VideoCompleteness.h"
+
+#include <QFile>
+
+#include <algorithm>
+
+namespace tembra {
+
+using namespace std::chrono_literals;
+
+namespace {
+
+// An image changed within this time is decoded to see whether it is whole.
+constexpr auto justWritten = 3s;
+// A file that was made longer ago than this was moved here, it is no new capture.
+constexpr auto fresh = 2min;
+
+QString stampOf(const FileVersion &version) {
+    return QStringLiteral("%1-%2-%3-%4")
+        .arg(version.size, 0, 16)
+        .arg(version.modifiedAt.time_since_epoch().count(), 0, 16)
+        .arg(version.changedAt.time_since_epoch().count(), 0, 16)
+        .arg(version.inode, 0, 16);
+}
+
+// Whether the name's ending is as long as those of images and recordings are: most other files need no closer
+// look.
+bool mayBeMedia(std::string_view path) {
+    const auto dot = path.rfind('.');
+    return dot != std::string_view::npos && path.size() - dot >= 4 && path.size() - dot <= 5;
+}
+
+QStringView lastPart(QStringView path) {
+    return path.sliced(path.lastIndexOf(u'/') + 1);
+}
+
+} // namespace
+
+FolderReader::FolderReader(const FolderFiles &files, const ScreenshotCaptureDetector &detector,
+                           std::function<QString()> customPrefix)
+    : m_files(files), m_detector(detector), m_askCustomPrefix(std::move(customPrefix)) {}
+
+FolderScanResult FolderReader::readFolder(const FolderScanRequest &request) {
+    begin(request);
+    FolderScanResult result;
+    const auto listed =
+        m_files.list(request.folder, request.includesSubfolders, [&](const FolderFiles::Listed &file) {
+            visit(file, request, result);
+            return !(request.cancellation && *request.cancellation);
+        });
+    if (!listed) {
+        result.error = listed.error();
+        return result;
+    }
+    std::erase_if(m_entries, [this](const auto &entry) { return entry.second.lastScan != m_scan; });
+    collect(request, result);
+    return result;
+}
+
+// What was judged of another folder, or by other names, is of no use.
+void FolderReader::begin(const FolderScanRequest &request) {
+    const QString customPrefix = m_askCustomPrefix();
+    if (request.folder != m_folder || customPrefix != m_customPrefix)
+        m_entries.clear();
+    m_folder = request.folder;
+    m_customPrefix = customPrefix;
+    ++m_scan;
+}
+
+void FolderReader::visit(const FolderFiles::Listed &listed, const FolderScanRequest &request,
+                         FolderScanResult &result) {
+    if (!mayBeMedia(listed.relativePath()))
+        return;
+    auto found = m_entries.find(listed.relativePath());
+    const bool isKnown = found != m_entries.end();
+    if (!isKnown)
+        found = m_entries.try_emplace(std::string(listed.relativePath())).first;
+    Entry &entry = found->second;
+    entry.lastScan = m_scan;
+    const bool isSame = isKnown && entry.version == listed.version();
+    const bool isSettled = entry.verdict == Verdict::notCapture || entry.verdict == Verdict::complete ||
+                           entry.retries >= retryBudget;
+    if (isSame && isSettled)
+        return;
+    const bool wasShown = isKnown && entry.verdict == Verdict::complete;
+    entry.retries = isSame ? entry.retries + 1 : 0;
+    entry.version = listed.version();
+    judge(entry, listed, request);
+    if (entry.verdict == Verdict::complete && entry.isFresh && !wasShown)
+        result.arrivals.push_back(entry.shot);
+}
+
+void FolderReader::judge(Entry &entry, const FolderFiles::Listed &listed, const FolderScanRequest &request) {
+    entry.verdict = Verdict::notCapture;
+    const QByteArray relativePath(listed.relativePath().data(),
+                                  static_cast<qsizetype>(listed.relativePath().size()));
+    const QString location = request.folder + u'/' + QFile::decodeName(relativePath);
+    const QStringView fileName = lastPart(location);
+    const bool isMedia = m_detector.isImageName(fileName) || m_detector.isVideoName(fileName);
+    if (!isMedia)
+        return;
+    const auto file = listed.open();
+    if (!file || !m_detector.classify(fileName, **file, m_customPrefix))
+        return;
+    entry.verdict = verdict(**file, fileName, entry.version, request.now);
+    if (entry.verdict != Verdict::complete)
+        return;
+    const FileFacts facts = (*file)->facts();
+    entry.shot = {.location = location,
+                  .identity = ScreenshotFileIdentity::of(location, facts),
+                  .stamp = stampOf(entry.version),
+                  .createdAt = facts.createdAt.value_or(entry.version.modifiedAt)};
+    entry.isFresh = std::max(entry.shot.createdAt, entry.version.modifiedAt) > request.now - fresh;
+}
+
+FolderReader::Verdict FolderReader::verdict(const OpenFile &file, QStringView fileName,
+                                            const FileVersion &version, Instant now) const {
+    const QString extension = CaptureMedia::extension(fileName);
+    const auto stillFor = now - version.modifiedAt;
+    if (m_detector.isVideoName(fileName))
+        return VideoCompleteness::isCompleteVideo(file, extension, stillFor) ? Verdict::complete
+                                                                             : Verdict::unfinishedVideo;
+    // A date in the future is a clock that was wrong: the file is as old as it gets.
+    const bool wasJustWritten = stillFor < justWritten && stillFor > -justWritten;
+    return ImageCompleteness::isCompleteImage(file, extension, wasJustWritten) ? Verdict::complete
+                                                                               : Verdict::unfinishedImage;
+}
+
+void FolderReader::collect(const FolderScanRequest &request, FolderScanResult &result) {
+    std::vector<const Shot *> shown;
+    shown.reserve(m_entries.size());
+    for (const auto &[path, entry] : m_entries) {
+        if (entry.verdict == Verdict::complete && !request.dismissed.contains(entry.shot.stamp))
+            shown.push_back(&entry.shot);
+        const bool isAwaited = entry.retries < retryBudget;
+        result.hasUnfinishedImages |= isAwaited && entry.verdict == Verdict::unfinishedImage;
+        result.hasUnfinishedVideos |= isAwaited && entry.verdict == Verdict::unfinishedVideo;
+    }
+    const auto isShownBefore = [](const Shot *a, const Shot *b) {
+        return ScreenshotTimeline::isShownBefore(*a, *b);
+    };
+    std::ranges::sort(shown, isShownBefore);
+    result.shots.reserve(shown.size());
+    for (const Shot *shot : shown)
+        result.shots.push_back(*shot);
+    std::ranges::sort(result.arrivals, ScreenshotTimeline::isShownBefore);
+}
+
+} // namespace tembra

@@ -1,0 +1,27 @@
+#include "screenshots/Shot.h"
+
+#include "platform/FileFacts.h"
+#include "platform/FileReferences.h"
+
+namespace tembra {
+
+namespace {
+
+bool isFileOf(const Shot &shot, const QString &path, const FileFactsReader &facts) {
+    const auto known = facts.facts(path);
+    return known && ScreenshotFileIdentity::of(path, *known) == shot.identity;
+}
+
+} // namespace
+
+QString Shot::currentPath(const FileFactsReader &facts, const FileReferences &references) const {
+    if (isFileOf(*this, location, facts))
+        return location;
+    const auto *file = std::get_if<ScreenshotFileIdentity::Resource>(&identity.value);
+    if (!file)
+        return {};
+    const auto found = references.path(file->resource, location);
+    return found && isFileOf(*this, *found, facts) ? *found : QString();
+}
+
+} // namespace tembra

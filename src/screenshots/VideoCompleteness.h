@@ -1,0 +1,20 @@
+#pragma once
+
+#include "platform/OpenFile.h"
+
+#include <QStringView>
+
+#include <chrono>
+
+namespace tembra {
+
+// Whether a recording is finished. Any thread.
+struct VideoCompleteness {
+    // `stillFor` is how long this version of the file has stood unchanged. The container must be as long as
+    // it says; one that says nothing about its length, as recorders leave it when they are killed, counts
+    // after a while.
+    [[nodiscard]] static bool isCompleteVideo(const OpenFile &file, QStringView extension,
+                                              std::chrono::nanoseconds stillFor);
+};
+
+} // namespace tembra

@@ -1,0 +1,206 @@
+#include "settings/AppSettings.h"
+
+#include "base/MainThread.h"
+#include "platform/UserDefaults.h"
+#include "settings/SettingsKeys.h"
+#include "settings/SettingsLoading.h"
+#include "settings/SettingsMigration.h"
+
+#include <QFileInfo>
+
+namespace tembra {
+
+AppSettings::AppSettings(UserDefaults &defaults, FolderPreferences folderPreferences,
+                         ScreenshotFolderAccess folderAccess, Functions functions)
+    : m_defaults(defaults),
+      m_folderPreferences(std::move(folderPreferences)),
+      m_folderAccess(std::move(folderAccess)),
+      m_functions(std::move(functions)) {
+    requireMainThread();
+    migrateExistingInstall(m_defaults, m_folderPreferences);
+    markAutoCleanSafetyReview(m_defaults);
+    loadPins();
+    m_state = loadSettings(m_defaults);
+    loadFolder();
+    m_state.screenshotPreviewDisabled = m_functions.thumbnailPreference.read() == false;
+}
+
+void AppSettings::loadFolder() {
+    adoptLegacyFolder();
+    const auto renewed = m_folderAccess.restore(m_defaults.data(m_folderPreferences.bookmarkKey));
+    if (renewed && *renewed)
+        m_defaults.setData(m_folderPreferences.bookmarkKey, **renewed);
+    applyFolderAccess();
+}
+
+void AppSettings::adoptLegacyFolder() {
+    if (m_defaults.boolean(m_folderPreferences.legacyCheckedKey()).value_or(false))
+        return;
+    const auto path = m_defaults.string(m_folderPreferences.legacyFolderKey);
+    if (path && !m_defaults.data(m_folderPreferences.bookmarkKey) && QFileInfo(*path).isDir()) {
+        if (const auto bookmark = m_functions.createBookmark(*path))
+            m_defaults.setData(m_folderPreferences.bookmarkKey, *bookmark);
+    }
+    m_defaults.setBoolean(m_folderPreferences.legacyCheckedKey(), true);
+}
+
+void AppSettings::applyFolderAccess() {
+    m_state.screenshotsFolder = m_folderAccess.folder();
+    m_state.hasFolderAccess = m_folderAccess.scopedURL().has_value();
+}
+
+bool AppSettings::isFolderAccessLost() const {
+    return !m_state.hasFolderAccess && m_defaults.data(m_folderPreferences.bookmarkKey).has_value();
+}
+
+void AppSettings::change(const AppSettingsState &next) {
+    if (next == m_state)
+        return;
+    m_state = next;
+    Q_EMIT updates(m_state);
+}
+
+void AppSettings::setFlag(bool AppSettingsState::*field, const QString &key, bool value) {
+    requireMainThread();
+    if (m_state.*field == value)
+        return;
+    m_defaults.setBoolean(key, value);
+    AppSettingsState next = m_state;
+    next.*field = value;
+    change(next);
+}
+
+void AppSettings::setActivationMode(ActivationMode mode) {
+    requireMainThread();
+    if (m_state.activationMode == mode)
+        return;
+    m_defaults.setString(settingsKey::activationMode, rawValue(mode));
+    AppSettingsState next = m_state;
+    next.activationMode = mode;
+    change(next);
+}
+
+void AppSettings::setShortcutEnabled(bool enabled) {
+    setFlag(&AppSettingsState::shortcutEnabled, settingsKey::shortcutEnabled, enabled);
+}
+
+void AppSettings::setActivationShortcut(const ActivationShortcut &shortcut) {
+    requireMainThread();
+    if (!shortcut.isValid() || m_state.activationShortcut == shortcut)
+        return;
+    m_defaults.setData(settingsKey::activationShortcut, shortcut.toJson());
+    AppSettingsState next = m_state;
+    next.activationShortcut = shortcut;
+    change(next);
+}
+
+void AppSettings::setHoverOnTabToOpen(bool opens) {
+    setFlag(&AppSettingsState::hoverOnTabToOpen, settingsKey::hoverOnTabToOpen, opens);
+}
+
+void AppSettings::setFileTrayEnabled(bool enabled) {
+    setFlag(&AppSettingsState::fileTrayEnabled, settingsKey::fileTrayEnabled, enabled);
+}
+
+void AppSettings::setImageToTextEnabled(bool enabled) {
+    setFlag(&AppSettingsState::imageToTextEnabled, settingsKey::imageToTextEnabled, enabled);
+}
+
+void AppSettings::setDisplayPreference(DisplayPreference preference) {
+    requireMainThread();
+    if (m_state.displayPreference == preference)
+        return;
+    m_defaults.setString(settingsKey::displayPreference, rawValue(preference));
+    AppSettingsState next = m_state;
+    next.displayPreference = preference;
+    change(next);
+}
+
+void AppSettings::setScreenshotNotifications(bool shown) {
+    setFlag(&AppSettingsState::screenshotNotifications, settingsKey::screenshotNotifications, shown);
+}
+
+void AppSettings::setAutomaticallyCopyScreenshots(bool copies) {
+    setFlag(&AppSettingsState::automaticallyCopyScreenshots, settingsKey::automaticallyCopyScreenshots,
+            copies);
+}
+
+void AppSettings::setAutomaticallyOpenEditor(bool opens) {
+    setFlag(&AppSettingsState::automaticallyOpenEditor, settingsKey::automaticallyOpenEditor, opens);
+}
+
+void AppSettings::setShowFileNames(bool shown) {
+    setFlag(&AppSettingsState::showFileNames, settingsKey::showFileNames, shown);
+}
+
+void AppSettings::setGroupScreenshotsByDate(bool grouped) {
+    setFlag(&AppSettingsState::groupScreenshotsByDate, settingsKey::groupScreenshotsByDate, grouped);
+}
+
+void AppSettings::setScreenshotAutoClean(ScreenshotAutoCleanPeriod period) {
+    requireMainThread();
+    if (m_state.screenshotAutoClean == period)
+        return;
+    m_defaults.setInteger(settingsKey::screenshotAutoCleanDays, static_cast<int>(period));
+    if (period == ScreenshotAutoCleanPeriod::never)
+        m_defaults.setInteger(settingsKey::autoCleanSafetyReview, 2);
+    AppSettingsState next = m_state;
+    next.screenshotAutoClean = period;
+    change(next);
+}
+
+Result<void> AppSettings::grantScreenshotsFolder(const QString &folder, bool updateSystemLocation,
+                                                 bool resetAutoClean) {
+    requireMainThread();
+    ScreenshotFolderAccess access = m_folderAccess;
+    const auto bookmark = access.grant(folder);
+    if (!bookmark)
+        return failure(bookmark.error());
+    if (updateSystemLocation) {
+        if (const auto updated = m_functions.updateSystemFolder(*access.folder()); !updated)
+            return updated;
+    }
+    m_folderAccess = access;
+    m_defaults.setData(m_folderPreferences.bookmarkKey, *bookmark);
+    AppSettingsState next = m_state;
+    next.screenshotsFolder = m_folderAccess.folder();
+    next.hasFolderAccess = true;
+    if (resetAutoClean) {
+        m_defaults.setInteger(settingsKey::screenshotAutoCleanDays, 0);
+        next.screenshotAutoClean = ScreenshotAutoCleanPeriod::never;
+    }
+    change(next);
+    return {};
+}
+
+void AppSettings::refreshFolderAccess() {
+    requireMainThread();
+    ScreenshotFolderAccess access = m_folderAccess;
+    const auto renewed = access.restore(m_defaults.data(m_folderPreferences.bookmarkKey));
+    if (!renewed || !access.folder())
+        return;
+    if (*renewed)
+        m_defaults.setData(m_folderPreferences.bookmarkKey, **renewed);
+    m_folderAccess = access;
+    AppSettingsState next = m_state;
+    next.screenshotsFolder = m_folderAccess.folder();
+    next.hasFolderAccess = true;
+    change(next);
+}
+
+void AppSettings::beginOnboarding() {
+    if (!m_state.hasCompletedOnboarding)
+        setFlag(&AppSettingsState::hasCaughtFirstScreenshot, settingsKey::hasCaughtFirstScreenshot, false);
+}
+
+void AppSettings::completeOnboarding() {
+    if (m_state.hasFolderAccess)
+        setFlag(&AppSettingsState::hasCompletedOnboarding, settingsKey::hasCompletedOnboarding, true);
+}
+
+void AppSettings::markFirstScreenshotCaught() {
+    if (m_state.hasFolderAccess)
+        setFlag(&AppSettingsState::hasCaughtFirstScreenshot, settingsKey::hasCaughtFirstScreenshot, true);
+}
+
+} // namespace tembra

@@ -1,0 +1,127 @@
+// Pins, and the screenshots that auto-clean spares after they came back from the Trash.
+
+#include "base/MainThread.h"
+#include "platform/UserDefaults.h"
+#include "settings/AppSettings.h"
+#include "settings/AutoCleanGrace.h"
+#include "settings/SettingsKeys.h"
+
+#include <algorithm>
+
+namespace tembra {
+
+void AppSettings::loadPins() {
+    const auto bookmarks =
+        m_defaults.dataArray(settingsKey::pinnedScreenshotBookmarks).value_or(QList<QByteArray>());
+    for (const QByteArray &bookmark : bookmarks)
+        m_pinnedScreenshots.push_back({bookmark, m_functions.resolvePinnedBookmark(bookmark)});
+}
+
+void AppSettings::storePins() {
+    QList<QByteArray> bookmarks;
+    for (const PinnedScreenshot &pin : m_pinnedScreenshots)
+        bookmarks.append(pin.bookmark);
+    m_defaults.setDataArray(settingsKey::pinnedScreenshotBookmarks, bookmarks);
+}
+
+QSet<QString> AppSettings::pinnedScreenshotPaths() const {
+    QSet<QString> paths;
+    for (const PinnedScreenshot &pin : m_pinnedScreenshots) {
+        if (pin.resolved)
+            paths.insert(pin.resolved->path);
+    }
+    return paths;
+}
+
+Result<PinnedScreenshot> AppSettings::pin(const QString &path) const {
+    const auto bookmark = m_functions.createBookmark(path);
+    if (!bookmark)
+        return failure(bookmark.error());
+    const auto resolved = m_functions.resolvePinnedBookmark(*bookmark);
+    return PinnedScreenshot{*bookmark, resolved.value_or(PinnedScreenshot::Resolved{path, {}})};
+}
+
+Result<void> AppSettings::setScreenshotsPinned(const QStringList &paths, bool pinned) {
+    requireMainThread();
+    std::vector<PinnedScreenshot> next = m_pinnedScreenshots;
+    for (const QString &path : paths) {
+        const auto isIt = [&path](const PinnedScreenshot &pin) {
+            return pin.resolved && pin.resolved->path == path;
+        };
+        if (!pinned) {
+            std::erase_if(next, isIt);
+        } else if (std::ranges::none_of(next, isIt)) {
+            const auto made = pin(path);
+            if (!made)
+                return failure(made.error());
+            next.push_back(*made);
+        }
+    }
+    if (next == m_pinnedScreenshots)
+        return {};
+    m_pinnedScreenshots = std::move(next);
+    storePins();
+    Q_EMIT updates(m_state);
+    return {};
+}
+
+Result<void> AppSettings::rebindScreenshotPin(const QString &path, const QString &newPath) {
+    requireMainThread();
+    const auto found = std::ranges::find_if(m_pinnedScreenshots, [&path](const PinnedScreenshot &pin) {
+        return pin.resolved && pin.resolved->path == path;
+    });
+    if (found == m_pinnedScreenshots.end())
+        return {};
+    const auto made = pin(newPath);
+    if (!made)
+        return failure(made.error());
+    *found = *made;
+    storePins();
+    Q_EMIT updates(m_state);
+    return {};
+}
+
+void AppSettings::refreshUnresolvedPins() {
+    requireMainThread();
+    bool found = false;
+    for (PinnedScreenshot &pin : m_pinnedScreenshots) {
+        if (pin.resolved)
+            continue;
+        pin.resolved = m_functions.resolvePinnedBookmark(pin.bookmark);
+        found = found || pin.resolved;
+    }
+    if (found)
+        Q_EMIT updates(m_state);
+}
+
+Result<void> AppSettings::protectRestoredScreenshots(const QStringList &paths, Instant now) {
+    requireMainThread();
+    auto list =
+        AutoCleanGrace::fromJson(m_defaults.data(settingsKey::autoCleanRestoredFiles).value_or(QByteArray()));
+    for (const QString &path : paths) {
+        const auto bookmark = m_functions.createBookmark(path);
+        if (!bookmark)
+            return failure(bookmark.error());
+        std::erase_if(list, [&path](const AutoCleanGrace &grace) { return grace.path == path; });
+        list.push_back({*bookmark, path, now});
+    }
+    m_defaults.setData(settingsKey::autoCleanRestoredFiles, AutoCleanGrace::toJson(list));
+    return {};
+}
+
+QHash<QString, Instant> AppSettings::autoCleanGraceDates(Instant now) {
+    requireMainThread();
+    auto list =
+        AutoCleanGrace::fromJson(m_defaults.data(settingsKey::autoCleanRestoredFiles).value_or(QByteArray()));
+    const auto dropped = std::erase_if(list, [now](const AutoCleanGrace &grace) {
+        return grace.restoredAt + AutoCleanGrace::period <= now;
+    });
+    if (dropped > 0)
+        m_defaults.setData(settingsKey::autoCleanRestoredFiles, AutoCleanGrace::toJson(list));
+    QHash<QString, Instant> dates;
+    for (const AutoCleanGrace &grace : list)
+        dates.insert(grace.path, grace.restoredAt + AutoCleanGrace::period);
+    return dates;
+}
+
+} // namespace tembra
