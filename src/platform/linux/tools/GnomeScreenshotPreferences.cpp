@@ -54,7 +54,7 @@ std::optional<QString> GnomeScreenshotPreferences::location() const {
 }
 
 std::optional<QString> GnomeScreenshotPreferences::name() const {
-    constexpr char text[] = "Screenshot from %s";
+    constexpr char text[] = "Screenshot from %s.%s";
     const QString translated = m_translations("gnome-screenshot", text);
     return translated == QLatin1StringView(text) ? std::nullopt : fixedBeginning(translated, u'%');
 }
