@@ -1,9 +1,6 @@
-#include "platform/linux/tools/SpectaclePreferences.h"
 #include "platform/tools/Session.h"
 
 #include <gtest/gtest.h>
-
-#include <algorithm>
 
 using namespace tembra;
 
@@ -15,59 +12,39 @@ using Text = std::optional<QString>;
 struct FileTool {
     QString name;
     QString file;
-    // A file that the tool wrote, and the keys of the folder in it.
+    // A file that the tool wrote, and the key of the folder in it.
     QString data;
-    QByteArrayList keys;
+    QByteArray key;
     Text location;
     Text target;
     Text namesBegin;
 };
 
 const FileTool fileTools[]{
-    {QStringLiteral("spectacle"),
-     QStringLiteral("settings/spectaclerc"),
-     QStringLiteral("spectaclerc-22"),
-     {"defaultSaveLocation"},
-     QStringLiteral("/home/ada/Bilder, neu"),
-     QStringLiteral("file"),
+    {QStringLiteral("spectacle"), QStringLiteral("settings/spectaclerc"), QStringLiteral("spectaclerc-22"),
+     "defaultSaveLocation", QStringLiteral("/home/ada/Bilder, neu"), QStringLiteral("file"),
      QStringLiteral("Bild")},
-    {QStringLiteral("spectacle"),
-     QStringLiteral("settings/spectaclerc"),
-     QStringLiteral("spectaclerc-24"),
-     {"imageSaveLocation"},
-     QStringLiteral("/home/ada/Bildschirmfotos für später"),
-     QStringLiteral("clipboard"),
+    {QStringLiteral("spectacle"), QStringLiteral("settings/spectaclerc"), QStringLiteral("spectaclerc-24"),
+     "imageSaveLocation", QStringLiteral("/home/ada/Bildschirmfotos für später"), QStringLiteral("clipboard"),
      QStringLiteral("Foto")},
-    {QStringLiteral("xfce4-screenshooter"),
-     QStringLiteral("settings/xfce4/xfce4-screenshooter"),
-     QStringLiteral("xfce4-screenshooter"),
-     {"screenshot_dir"},
-     QStringLiteral("/home/ada/Bilder"),
-     QStringLiteral("clipboard"),
+    {QStringLiteral("xfce4-screenshooter"), QStringLiteral("settings/xfce4/xfce4-screenshooter"),
+     QStringLiteral("xfce4-screenshooter"), "screenshot_dir", QStringLiteral("/home/ada/für später, 50%"),
+     QStringLiteral("clipboard"), QStringLiteral("Bild")},
+    {QStringLiteral("flameshot"), QStringLiteral("settings/flameshot/flameshot.ini"),
+     QStringLiteral("flameshot.ini"), "savePath", QStringLiteral("/home/ada/Bilder, neu"), std::nullopt,
      QStringLiteral("Bild")},
-    {QStringLiteral("flameshot"),
-     QStringLiteral("settings/flameshot/flameshot.ini"),
-     QStringLiteral("flameshot.ini"),
-     {"savePath"},
-     QStringLiteral("/home/ada/Bilder, neu"),
-     std::nullopt,
-     QStringLiteral("Bild")},
-    {QStringLiteral("ksnip"),
-     QStringLiteral("settings/ksnip/ksnip.conf"),
-     QStringLiteral("ksnip.conf"),
-     {"SaveDirectory"},
-     QStringLiteral("/home/ada/Bilder"),
-     QStringLiteral("file"),
+    {QStringLiteral("ksnip"), QStringLiteral("settings/ksnip/ksnip.conf"), QStringLiteral("ksnip.conf"),
+     "SaveDirectory", QStringLiteral("/home/ada/Bilder, neu"), QStringLiteral("file"),
      QStringLiteral("Bild")},
 };
 
-QByteArrayList linesWithoutKeys(const QByteArray &content, const QByteArrayList &keys) {
+// Their places in the table.
+enum { oldSpectacle, newSpectacle, xfce, flameshot, ksnip };
+
+QByteArrayList linesWithoutKey(const QByteArray &content, const QByteArray &key) {
     QByteArrayList lines = content.split('\n');
-    lines.removeIf([&](const QByteArray &line) {
-        return std::ranges::any_of(keys, [&](const QByteArray &key) {
-            return line.startsWith(key + '=') || line.startsWith(key + '[');
-        });
-    });
+    lines.removeIf(
+        [&](const QByteArray &line) { return line.startsWith(key + '=') || line.startsWith(key + '['); });
     return lines;
 }
 
@@ -91,17 +68,17 @@ TEST(SettingsFiles, takeAFolderAndKeepEverythingElse) {
         const QByteArray before = "# mine\n" + Session::data(tool.data);
         session.write(tool.file, before);
         const auto preferences = session.preferences(tool.name);
-        preferences->setLocation(QStringLiteral("~/für später, 50%"));
+        preferences->setLocation(QStringLiteral("~/für später, 6% #1"));
         EXPECT_EQ(session.read(tool.file), before) << tool.data.toStdString();
         preferences->synchronize();
-        EXPECT_EQ(session.preferences(tool.name)->location(), QStringLiteral("/home/ada/für später, 50%"))
+        EXPECT_EQ(session.preferences(tool.name)->location(), QStringLiteral("/home/ada/für später, 6% #1"))
             << tool.data.toStdString();
-        EXPECT_EQ(linesWithoutKeys(session.read(tool.file), tool.keys), linesWithoutKeys(before, tool.keys))
+        EXPECT_EQ(linesWithoutKey(session.read(tool.file), tool.key), linesWithoutKey(before, tool.key))
             << tool.data.toStdString();
 
         preferences->setLocation(std::nullopt);
         preferences->synchronize();
-        EXPECT_EQ(session.read(tool.file).split('\n'), linesWithoutKeys(before, tool.keys))
+        EXPECT_EQ(session.read(tool.file).split('\n'), linesWithoutKey(before, tool.key))
             << tool.data.toStdString();
     }
 }
@@ -131,8 +108,10 @@ TEST(SettingsFiles, ofNoUseMeanTheToolsDefaults) {
             const Session session;
             session.write(tool.file, content);
             const auto preferences = session.preferences(tool.name);
-            const QString subfolder = tool.name == u"spectacle" ? QStringLiteral("/Screenshots") : QString();
-            EXPECT_EQ(preferences->location(), session.folders.pictures + subfolder)
+            const QHash<QString, QString> others{
+                {QStringLiteral("spectacle"), session.folders.pictures + QStringLiteral("/Screenshots")},
+                {QStringLiteral("ksnip"), session.folders.home}};
+            EXPECT_EQ(preferences->location(), others.value(tool.name, session.folders.pictures))
                 << tool.name.toStdString() << content.constData();
             EXPECT_EQ(preferences->target(), std::nullopt) << tool.name.toStdString() << content.constData();
             EXPECT_EQ(preferences->name(), std::nullopt) << tool.name.toStdString() << content.constData();
@@ -176,22 +155,23 @@ TEST(SettingsFiles, takeADestination) {
     const Text file = QStringLiteral("file");
     const Text clipboard = QStringLiteral("clipboard");
     const Case cases[]{
-        {0, clipboard, "[General]\nautoSaveImage=true\n",
+        {oldSpectacle, clipboard, "[General]\nautoSaveImage=true\n",
          "[General]\nautoSaveImage=false\nclipboardGroup=PostScreenshotCopyImage\n", clipboard},
-        {0, file, "[General]\nclipboardGroup=PostScreenshotCopyImage\n",
+        {oldSpectacle, file, "[General]\nclipboardGroup=PostScreenshotCopyImage\n",
          "[General]\nclipboardGroup=PostScreenshotCopyImage\nautoSaveImage=true\n", file},
-        {0, std::nullopt, "[General]\nautoSaveImage=false\nclipboardGroup=PostScreenshotCopyImage\n",
-         "[General]\n", std::nullopt},
-        {2, clipboard, "action=1\n", "action=2\n", clipboard},
-        {2, file, "action=6\n", "action=5\n", file},
-        {2, std::nullopt, "action=2\n", "", std::nullopt},
-        {2, QStringLiteral("printer"), "action=4\n", "action=4\n", QStringLiteral("application")},
-        {3, clipboard, "[General]\n", "[General]\n", std::nullopt},
-        {4, clipboard, "[Application]\n",
+        {oldSpectacle, std::nullopt,
+         "[General]\nautoSaveImage=false\nclipboardGroup=PostScreenshotCopyImage\n", "[General]\n",
+         std::nullopt},
+        {xfce, clipboard, "action=1\n", "action=2\n", clipboard},
+        {xfce, file, "action=6\n", "action=5\n", file},
+        {xfce, std::nullopt, "action=2\n", "", std::nullopt},
+        {xfce, QStringLiteral("printer"), "action=4\n", "action=4\n", QStringLiteral("application")},
+        {flameshot, clipboard, "[General]\n", "[General]\n", std::nullopt},
+        {ksnip, clipboard, "[Application]\n",
          "[Application]\nAutoSaveNewCaptures=false\nAutoCopyToClipboardNewCaptures=true\n", clipboard},
-        {4, file, "[Application]\nAutoSaveNewCaptures=false\n", "[Application]\nAutoSaveNewCaptures=true\n",
-         file},
-        {4, std::nullopt, "[Application]\nAutoSaveNewCaptures=true\n", "[Application]\n", std::nullopt},
+        {ksnip, file, "[Application]\nAutoSaveNewCaptures=false\n",
+         "[Application]\nAutoSaveNewCaptures=true\n", file},
+        {ksnip, std::nullopt, "[Application]\nAutoSaveNewCaptures=true\n", "[Application]\n", std::nullopt},
     };
     for (const Case &c : cases) {
         const Session session;
@@ -212,15 +192,17 @@ TEST(SettingsFiles, tellTheBeginningOfNamesOnlyWhenItWasChanged) {
         Text name;
     };
     const Case cases[]{
-        {0, "[Save]\nsaveFilenameFormat=Screenshot_%Y%M%D_%H%m%S\n", std::nullopt},
-        {0, "[ImageSave]\nimageFilenameTemplate=Screenshot_<yyyy><MM><dd>_<HH><mm><ss>\n", std::nullopt},
-        {0, "[ImageSave]\nimageFilenameTemplate=<yyyy>-<MM>\n", std::nullopt},
-        {0, "[ImageSave]\nimageFilenameTemplate=<yyyy>/Mein\\sBild - <dd>\n", QStringLiteral("Mein Bild")},
-        {2, "title=Screenshot\n", std::nullopt},
-        {2, "title=Mein\\sBild\n", QStringLiteral("Mein Bild")},
-        {3, "[General]\nfilenamePattern=%F_%H-%M\n", std::nullopt},
-        {4, "[Application]\nSaveFilename=ksnip_$Y$M$D-$T\n", std::nullopt},
-        {4, "[Application]\nSaveFilename=\"Bild, ####_$T\"\n", QStringLiteral("Bild,")},
+        {oldSpectacle, "[Save]\nsaveFilenameFormat=Screenshot_%Y%M%D_%H%m%S\n", std::nullopt},
+        {oldSpectacle, "[ImageSave]\nimageFilenameTemplate=Screenshot_<yyyy><MM><dd>_<HH><mm><ss>\n",
+         std::nullopt},
+        {oldSpectacle, "[ImageSave]\nimageFilenameTemplate=<yyyy>-<MM>\n", std::nullopt},
+        {oldSpectacle, "[ImageSave]\nimageFilenameTemplate=<yyyy>/Mein\\sBild - <dd>\n",
+         QStringLiteral("Mein Bild")},
+        {xfce, "title=Screenshot\n", std::nullopt},
+        {xfce, "title=Mein\\sBild\n", QStringLiteral("Mein Bild")},
+        {flameshot, "[General]\nfilenamePattern=%F_%H-%M\n", std::nullopt},
+        {ksnip, "[Application]\nSaveFilename=ksnip_$Y$M$D-$T\n", std::nullopt},
+        {ksnip, "[Application]\nSaveFilename=\"Bild, ####_$T\"\n", QStringLiteral("Bild,")},
     };
     for (const Case &c : cases) {
         const Session session;
@@ -257,12 +239,12 @@ TEST(Spectacle, keepsItsFolderWhereItsVersionHasIt) {
                       c.version.isEmpty() ? QByteArray()
                                           : "<releases>\n <release date=\"x\" version=\"" + c.version +
                                                 "\"/>\n <release version=\"1.0\"/>\n</releases>");
-        session.write(fileTools[0].file, c.content);
+        session.write(fileTools[oldSpectacle].file, c.content);
         const auto preferences = session.preferences(QStringLiteral("spectacle"));
         EXPECT_EQ(preferences->location(), c.location) << c.version.constData() << c.content.constData();
         preferences->setLocation(QStringLiteral("/x"));
         preferences->synchronize();
-        EXPECT_TRUE(session.read(fileTools[0].file).contains(c.written))
+        EXPECT_TRUE(session.read(fileTools[oldSpectacle].file).contains(c.written))
             << c.version.constData() << c.content.constData();
     }
 }
@@ -271,12 +253,12 @@ TEST(Spectacle, keepsWhatTheAdministratorLocked) {
     for (const QByteArray content : {"[ImageSave]\nimageSaveLocation[$i]=file:///srv/\n",
                                      "[ImageSave][$i]\nimageSaveLocation=file:///srv/\n"}) {
         const Session session;
-        session.write(fileTools[0].file, content);
+        session.write(fileTools[oldSpectacle].file, content);
         const auto preferences = session.preferences(QStringLiteral("spectacle"));
         preferences->setLocation(QStringLiteral("/x"));
         preferences->synchronize();
         EXPECT_EQ(preferences->location(), QStringLiteral("/srv"));
-        EXPECT_EQ(session.read(fileTools[0].file), content);
+        EXPECT_EQ(session.read(fileTools[oldSpectacle].file), content);
     }
 }
 
@@ -291,11 +273,11 @@ TEST(Flameshot, savesWithoutAskingUnlessTheUserWantsToBeAsked) {
     };
     for (const Case &c : cases) {
         const Session session;
-        session.write(fileTools[3].file, c.before);
+        session.write(fileTools[flameshot].file, c.before);
         const auto preferences = session.preferences(QStringLiteral("flameshot"));
         preferences->setLocation(QStringLiteral("/x"));
         preferences->synchronize();
-        EXPECT_EQ(session.read(fileTools[3].file), c.after);
+        EXPECT_EQ(session.read(fileTools[flameshot].file), c.after);
     }
 }
 

@@ -91,12 +91,16 @@ TEST(SettingsText, findsTheFolderThatASettingMeans) {
     const Case cases[]{
         {QStringLiteral("file:///srv/a%20b/"), QStringLiteral("/srv/a b")},
         {QStringLiteral("file:///srv/a b"), QStringLiteral("/srv/a b")},
+        {QStringLiteral("file:///srv/a#b?c%23"), QStringLiteral("/srv/a#b?c#")},
+        {QStringLiteral("file:/srv/für später, 50%"), QStringLiteral("/srv/für später, 50%")},
         {QStringLiteral("file:/srv"), QStringLiteral("/srv")},
         {QStringLiteral("file://localhost/srv"), QStringLiteral("/srv")},
         {QStringLiteral("/srv//100%"), QStringLiteral("/srv/100%")},
         {QStringLiteral("~/x"), QStringLiteral("~/x")},
         {QStringLiteral("sftp://host/srv"), std::nullopt},
         {QStringLiteral("file://server/share"), std::nullopt},
+        {QStringLiteral("file://server"), std::nullopt},
+        {QStringLiteral("file:"), std::nullopt},
         {QStringLiteral("relative"), std::nullopt},
         {QString(), std::nullopt},
     };

@@ -22,7 +22,7 @@ std::optional<QString> GenericPreferences::location() const {
 
 QString GenericPreferences::defaultLocation() const {
     for (const QString &variable : {QStringLiteral("GRIM_DEFAULT_DIR"), QStringLiteral("HYPRSHOT_DIR")}) {
-        const QString folder = m_environment.value(variable);
+        QString folder = m_environment.value(variable);
         if (folder.startsWith(u'/'))
             return folder;
     }

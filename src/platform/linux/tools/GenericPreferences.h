@@ -10,8 +10,8 @@ namespace tembra {
 // program's own choice, which it keeps itself.
 class GenericPreferences final : public RcFilePreferences {
 public:
-    GenericPreferences(QString path, StandardFolders folders, QProcessEnvironment environment)
-        : RcFilePreferences(std::move(path), std::move(folders)), m_environment(std::move(environment)) {}
+    GenericPreferences(QString path, StandardFolders folders, const QProcessEnvironment &environment)
+        : RcFilePreferences(std::move(path), std::move(folders)), m_environment(environment) {}
 
     [[nodiscard]] std::optional<QString> location() const override;
     void setLocation(const std::optional<QString> &path) override;

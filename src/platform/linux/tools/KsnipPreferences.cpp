@@ -17,7 +17,7 @@ const QByteArray copyAtOnceKey = QByteArrayLiteral("AutoCopyToClipboardNewCaptur
 std::optional<QString> KsnipPreferences::location() const {
     const auto stored = settings().value(application, locationKey);
     const auto path = stored ? fromQtIni(*stored) : std::nullopt;
-    return path && path->startsWith(u'/') ? folderPath(*path) : folders().pictures;
+    return path && path->startsWith(u'/') ? folderPath(*path) : folders().home;
 }
 
 std::optional<QString> KsnipPreferences::target() const {

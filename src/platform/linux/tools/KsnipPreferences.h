@@ -4,7 +4,7 @@
 
 namespace tembra {
 
-// The file "ksnip/ksnip.conf".
+// The file "ksnip/ksnip.conf". Without a setting ksnip saves into the home folder.
 class KsnipPreferences final : public RcFilePreferences {
 public:
     KsnipPreferences(QString path, StandardFolders folders)

@@ -1,5 +1,6 @@
 #include "platform/linux/tools/RcFile.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -26,9 +27,8 @@ Error fileError(const QFileDevice &file) {
 }
 
 Error foreignFile(const QString &path) {
-    return Error{QStringLiteral("Tembra.RcFile"), 0,
-                 QStringLiteral("“%1” is not a settings file.").arg(QDir::toNativeSeparators(path)),
-                 QString()};
+    const QString message = QCoreApplication::translate("RcFile", "“%1” is not a settings file.");
+    return Error{QStringLiteral("Tembra.RcFile"), 0, message.arg(QDir::toNativeSeparators(path)), QString()};
 }
 
 // "name[$e]" without its flags. A name with another suffix, such as a language, is left whole.
@@ -69,7 +69,7 @@ Result<RcFile> RcFile::read(const QString &path) {
     QFile file(path);
     if (!QFileInfo(path).exists())
         return result;
-    if (QFileInfo(path).isDir())
+    if (!QFileInfo(path).isFile())
         return failure(foreignFile(path));
     if (!file.open(QIODevice::ReadOnly))
         return failure(fileError(file));
@@ -193,8 +193,8 @@ void RcFile::setValue(const QByteArray &group, const QByteArray &key, const QByt
 
 void RcFile::remove(const QByteArray &group, const QByteArray &key) {
     const QList<qsizetype> lines = linesOf(group, key);
-    for (auto line = lines.crbegin(); line != lines.crend(); ++line)
-        m_lines.removeAt(*line);
+    for (qsizetype i = lines.size() - 1; i >= 0; --i)
+        m_lines.removeAt(lines[i]);
 }
 
 Result<void> RcFile::save() const {

@@ -65,6 +65,21 @@ qsizetype addQtEscape(const QByteArray &value, qsizetype i, Decoded &decoded) {
     return i;
 }
 
+// The path of what follows "file:". Tools write such URIs without encoding them all, so "#" and "?" are taken
+// for a part of the path, as is a lone "%".
+QString pathOfUri(QString rest) {
+    if (rest.startsWith(u"//")) {
+        const qsizetype slash = rest.indexOf(u'/', 2);
+        const QString host = rest.mid(2, slash < 0 ? -1 : slash - 2);
+        if (slash < 0 || (!host.isEmpty() && host != u"localhost"))
+            return {};
+        rest.remove(0, slash);
+    }
+    QUrl uri;
+    uri.setPath(rest, QUrl::TolerantMode);
+    return uri.path(QUrl::FullyDecoded);
+}
+
 } // namespace
 
 QString fromKConfig(const QByteArray &value) {
@@ -179,10 +194,7 @@ QByteArray toQtIni(const QString &text) {
 std::optional<QString> folderPath(const QString &pathOrUri) {
     if (pathOrUri == u"~" || pathOrUri.startsWith(u"~/"))
         return pathOrUri;
-    const QUrl uri(pathOrUri.startsWith(u"file:") ? pathOrUri : QString());
-    if (!uri.host().isEmpty() && uri.host() != u"localhost")
-        return std::nullopt;
-    const QString path = uri.isEmpty() ? pathOrUri : uri.path(QUrl::FullyDecoded);
+    const QString path = pathOrUri.startsWith(u"file:") ? pathOfUri(pathOrUri.mid(5)) : pathOrUri;
     return path.startsWith(u'/') ? std::optional(QDir::cleanPath(path)) : std::nullopt;
 }
 

@@ -27,9 +27,9 @@ const QByteArray copyPicture = QByteArrayLiteral("PostScreenshotCopyImage");
 } // namespace
 
 SpectaclePreferences::SpectaclePreferences(QString path, StandardFolders folders,
-                                           QProcessEnvironment environment, int installedVersion)
+                                           const QProcessEnvironment &environment, int installedVersion)
     : RcFilePreferences(std::move(path), std::move(folders)),
-      m_environment(std::move(environment)),
+      m_environment(environment),
       m_installedVersion(installedVersion) {}
 
 const SpectaclePreferences::Form &SpectaclePreferences::form(const RcFile &file) const {

@@ -12,7 +12,7 @@ class SpectaclePreferences final : public RcFilePreferences {
 public:
     // `installedVersion` is the tool's major version, 0 when it is not known; it decides about a file that
     // has the settings of neither or of both forms.
-    SpectaclePreferences(QString path, StandardFolders folders, QProcessEnvironment environment,
+    SpectaclePreferences(QString path, StandardFolders folders, const QProcessEnvironment &environment,
                          int installedVersion);
 
     [[nodiscard]] std::optional<QString> location() const override;
