@@ -17,8 +17,7 @@ ScreenshotMessage asking(const char *title, const char *detail) {
             .action = text(QT_TRANSLATE_NOOP("ScreenshotFolderMessage", "Choose Folder"))};
 }
 
-constexpr const char *question =
-    QT_TRANSLATE_NOOP("ScreenshotFolderMessage", "Where should screenshots go?");
+constexpr const char *question = QT_TRANSLATE_NOOP("ScreenshotFolderMessage", "Where should screenshots go?");
 
 } // namespace
 
@@ -30,21 +29,24 @@ std::optional<ScreenshotMessage> screenshotFolderMessage(ScreenshotFolderState s
         return asking(question, nullptr);
     case ScreenshotFolderState::loading:
         return ScreenshotMessage{
-            .text = text(QT_TRANSLATE_NOOP("ScreenshotFolderMessage", "Loading screenshots…")), .isLoading = true};
+            .text = text(QT_TRANSLATE_NOOP("ScreenshotFolderMessage", "Loading screenshots…")),
+            .isLoading = true};
     case ScreenshotFolderState::elsewhere:
         return asking(question, QT_TRANSLATE_NOOP("ScreenshotFolderMessage",
                                                   "Screenshots are saved elsewhere. Choose the new folder."));
     case ScreenshotFolderState::clipboard:
-        return asking(question, QT_TRANSLATE_NOOP("ScreenshotFolderMessage",
-                                                  "Screenshots go to the clipboard. Choose a folder to save them."));
-    case ScreenshotFolderState::other:
         return asking(question,
                       QT_TRANSLATE_NOOP("ScreenshotFolderMessage",
-                                        "Screenshots aren’t saved to a folder. Choose one to use with Tembra."));
+                                        "Screenshots go to the clipboard. Choose a folder to save them."));
+    case ScreenshotFolderState::other:
+        return asking(question, QT_TRANSLATE_NOOP(
+                                    "ScreenshotFolderMessage",
+                                    "Screenshots aren’t saved to a folder. Choose one to use with Tembra."));
     case ScreenshotFolderState::missing:
-        return asking(QT_TRANSLATE_NOOP("ScreenshotFolderMessage", "Where did the folder go?"),
-                      QT_TRANSLATE_NOOP("ScreenshotFolderMessage",
-                                        "I lost track of your screenshots folder. Pick a new one to keep going"));
+        return asking(
+            QT_TRANSLATE_NOOP("ScreenshotFolderMessage", "Where did the folder go?"),
+            QT_TRANSLATE_NOOP("ScreenshotFolderMessage",
+                              "I lost track of your screenshots folder. Pick a new one to keep going"));
     }
     return std::nullopt;
 }

@@ -9,10 +9,10 @@ ScreenshotFolderState screenshotFolderState(const ScreenshotFolderFacts &facts) 
         return ScreenshotFolderState::clipboard;
     if (kind == Kind::other)
         return ScreenshotFolderState::other;
-    if (!facts.folder)
-        return ScreenshotFolderState::none;
     if (facts.unavailable)
         return ScreenshotFolderState::missing;
+    if (!facts.folder)
+        return ScreenshotFolderState::none;
     if (facts.destination && facts.destination->folder != *facts.folder)
         return ScreenshotFolderState::elsewhere;
     return facts.hasCompletedInitialScan ? ScreenshotFolderState::ready : ScreenshotFolderState::loading;

@@ -2,6 +2,7 @@
 
 #include "screenshots/ScreenshotSection.h"
 #include "shelf/CaptureNotification.h"
+#include "shelf/FileThumbnailCache.h"
 #include "shelf/ScreenshotMessage.h"
 #include "shelf/ShelfServices.h"
 #include "shelf/ShelfTab.h"
@@ -19,8 +20,9 @@ class NativeScreenshotGrid;
 class ScreenshotMessageView;
 class ShelfHeader;
 
-// Everything inside the shelf's outline: the header with the tabs, the content of the active tab, and, while the shelf
-// is closed, the notification. It moves from one display's window to another's. View space, main thread.
+// Everything inside the shelf's outline: the header with the tabs, the content of the active tab, and, while
+// the shelf is closed, the notification. It moves from one display's window to another's. View space, main
+// thread.
 class ShelfContent final : public QWidget {
     Q_OBJECT
 
@@ -45,11 +47,12 @@ public:
     void apply(const State &state);
     [[nodiscard]] const State &state() const { return m_state; }
     [[nodiscard]] QStringList selectedPaths() const;
+    [[nodiscard]] QSet<ScreenshotFileIdentity> selection() const;
 
 Q_SIGNALS:
-    void tabClicked(ShelfTab tab);
-    void tabHovered(ShelfTab tab);
-    void tabLeft(ShelfTab tab);
+    void tabClicked(tembra::ShelfTab tab);
+    void tabHovered(tembra::ShelfTab tab);
+    void tabLeft(tembra::ShelfTab tab);
     // The button of the message.
     void messageActed();
     void selectionChanged();
@@ -62,6 +65,7 @@ private:
     void layOut();
 
     State m_state;
+    FileThumbnailCache m_thumbnailCache;
     ShelfHeader *m_header = nullptr;
     NativeScreenshotGrid *m_grid = nullptr;
     ScreenshotMessageView *m_message = nullptr;

@@ -1,19 +1,20 @@
 #include "shelf/ShelfController.h"
 
 #include "base/MainThread.h"
+#include "screenshots/CaptureMedia.h"
 #include "screenshots/ScreenshotLocationMonitor.h"
 #include "screenshots/ScreenshotTimeline.h"
 #include "session/ShelfSession.h"
 #include "settings/AppSettings.h"
+#include "shelf/FolderChooser.h"
 #include "shelf/FolderNotification.h"
 #include "shelf/ScreenshotFolderMessage.h"
 #include "shelf/ShelfContent.h"
 #include "shelf/ShelfSurfaces.h"
 #include "shelf/ShelfTabs.h"
 
-#include <QCoreApplication>
 #include <QDateTime>
-#include <QFileDialog>
+#include <QFileInfo>
 #include <QTimeZone>
 
 #include <algorithm>
@@ -24,10 +25,8 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr double panelWidth = 744;
-constexpr double panelHeight = 256;
-constexpr double notificationWidth = 360;
-constexpr double notificationHeight = 84;
+constexpr QSize panelSize{744, 256};
+constexpr QSize notificationSize{360, 84};
 
 // Screens come and go in bursts while a desktop rearranges itself.
 constexpr auto displaySettling = 200ms;
@@ -35,8 +34,17 @@ constexpr auto displaySettling = 200ms;
 // The tabs whose content there is.
 const std::vector<ShelfTab> builtTabs{ShelfTab::screenshots};
 
-QString text(const char *source) {
-    return QCoreApplication::translate("ShelfController", source);
+bool isShown(const std::vector<ShelfTab> &tabs, ShelfTab tab) {
+    return std::ranges::find(tabs, tab) != tabs.end();
+}
+
+// The same path, or a link to the same folder.
+bool isSameFolder(const QString &a, const QString &b) {
+    return a == b || (QFileInfo(a).canonicalFilePath() == QFileInfo(b).canonicalFilePath() && QFileInfo::exists(a));
+}
+
+bool isRecording(const Shot &shot) {
+    return !CaptureMedia::isImageExtension(CaptureMedia::extension(shot.location));
 }
 
 } // namespace
@@ -44,9 +52,14 @@ QString text(const char *source) {
 ShelfController::ShelfController(AppSettings &settings, std::unique_ptr<ShelfSession> session,
                                  std::unique_ptr<ScreenshotLocationMonitor> locationMonitor,
                                  const ShelfServices &services)
-    : m_settings(settings), m_services(services), m_session(std::move(session)),
-      m_locationMonitor(std::move(locationMonitor)), m_hover(services.scheduler, services.uptime, services.inputMonitor),
-      m_tabHover(services.scheduler), m_announcer(services.scheduler) {
+    : m_settings(settings),
+      m_services(services),
+      m_session(std::move(session)),
+      m_locationMonitor(std::move(locationMonitor)),
+      m_hover(services.scheduler, services.uptime, services.inputMonitor),
+      m_tabHover(services.scheduler),
+      m_announcer(services.scheduler) {
+    askForFolder = askForScreenshotsFolder;
     onError = [](const QString &title, const QString &message) {
         qWarning("%s: %s", qUtf8Printable(title), qUtf8Printable(message));
     };
@@ -60,25 +73,24 @@ void ShelfController::start() {
         return;
     m_started = true;
     m_session->isRunning = true;
-    m_content = std::make_unique<ShelfContent>(m_services);
-    m_surfaces = std::make_unique<ShelfSurfaces>(m_services, *m_content);
-    connectContent();
+    m_surfaces = std::make_unique<ShelfSurfaces>(m_services, [this]() -> QWidget & { return content(); });
     connectHover();
     connectAnnouncer();
     connectSession();
-    connect(&m_settings, &AppSettings::updates, this, &ShelfController::applySettings);
-    m_workspaceObservation = m_services.workspace.observe([this](Workspace::Event event) { workspaceChanged(event); });
-    m_displayObservation = m_services.displays.observe([this] { scheduleDisplayReconciliation(); });
+    startObserving();
     reconcileDisplayWindows();
     refreshWatchers();
     m_hover.start();
-    m_locationMonitor->onRead = [this](const ScreenshotDestination &destination) {
-        m_destination = destination;
-        updateFolderState();
-    };
     m_locationMonitor->start();
     scheduleTimelineRefresh();
     updateFolderState();
+}
+
+void ShelfController::startObserving() {
+    connect(&m_settings, &AppSettings::updates, this, &ShelfController::applySettings);
+    m_workspaceObservation = m_services.workspace.observe([this](Workspace::Event event) { workspaceChanged(event); });
+    m_displayObservation = m_services.displays.observe([this] { scheduleDisplayReconciliation(); });
+    m_locationMonitor->onRead = [this](const ScreenshotDestination &destination) { receiveDestination(destination); };
 }
 
 void ShelfController::stop() {
@@ -100,13 +112,19 @@ void ShelfController::stop() {
     m_surfaces->removeAll();
 }
 
-void ShelfController::connectContent() {
+ShelfContent &ShelfController::content() {
+    if (m_content)
+        return *m_content;
+    m_content = std::make_unique<ShelfContent>(m_services);
     connect(m_content.get(), &ShelfContent::tabClicked, this, &ShelfController::activateTab);
     connect(m_content.get(), &ShelfContent::tabHovered, this, [this](ShelfTab tab) { m_tabHover.hoverTab(tab); });
     connect(m_content.get(), &ShelfContent::tabLeft, this, [this](ShelfTab tab) { m_tabHover.cancelTabHover(tab); });
     connect(m_content.get(), &ShelfContent::messageActed, this, &ShelfController::chooseFolder);
+    connect(m_content.get(), &ShelfContent::selectionChanged, this,
+            [this] { m_session->selected = m_content->selection(); });
     m_tabHover.canSwitchTo = [this](ShelfTab tab) { return canSwitchTabsWithHover(tab); };
     m_tabHover.onActivate = [this](ShelfTab tab) { activateTab(tab); };
+    return *m_content;
 }
 
 void ShelfController::connectHover() {
@@ -115,6 +133,7 @@ void ShelfController::connectHover() {
     m_hover.onSetExpanded = [this](bool expanded) { setExpanded(expanded); };
     m_surfaces->onPointerActivity = [this] { m_hover.requestPointerEvaluation(); };
     m_surfaces->onActivationPressed = [this] { openManually(); };
+    m_surfaces->onEscape = [this] { collapse(); };
 }
 
 void ShelfController::connectAnnouncer() {
@@ -123,7 +142,7 @@ void ShelfController::connectAnnouncer() {
 }
 
 void ShelfController::connectSession() {
-    m_session->onFolderChange = [this](FolderShelf &, bool, int) { updateFolderState(); };
+    m_session->onFolderChange = [this](FolderShelf &shelf, bool, int) { receiveFolderChange(shelf); };
     m_session->onNewFiles = [this](const std::vector<Shot> &shots) { receiveNewFiles(shots); };
 }
 
@@ -138,14 +157,15 @@ void ShelfController::setExpanded(bool expanded) {
 }
 
 void ShelfController::showExpanded() {
-    if (!m_surfaces->activateForOpening(m_settings.state().displayPreference, m_services.inputMonitor.pointer()))
+    if (!m_surfaces->activateForOpening(m_settings.state().displayPreference,
+                                        m_services.inputMonitor.pointer()))
         return;
     m_expanded = true;
     m_announcer.dismiss();
     // The tool's setting may have been changed since: nobody tells, so it is asked when somebody looks.
     m_locationMonitor->check();
     render();
-    m_surfaces->present(ShelfPresentation::expanded(panelWidth, targetPanelHeight()));
+    m_surfaces->present(ShelfPresentation::expanded(QSize(panelSize.width(), targetPanelHeight())));
 }
 
 void ShelfController::hideSurface() {
@@ -172,7 +192,7 @@ void ShelfController::reopenFromDock() {
 }
 
 bool ShelfController::activateTab(ShelfTab tab) {
-    if (std::ranges::find(tabs(), tab) == tabs().end())
+    if (!isShown(tabs(), tab))
         return false;
     m_activeTab = tab;
     render();
@@ -184,17 +204,17 @@ std::vector<ShelfTab> ShelfController::tabs() const {
 }
 
 bool ShelfController::canSwitchTabsWithHover(ShelfTab tab) const {
-    return m_settings.state().hoverOnTabToOpen && m_expanded && std::ranges::find(tabs(), tab) != tabs().end();
+    return m_settings.state().hoverOnTabToOpen && m_expanded && isShown(tabs(), tab);
 }
 
-double ShelfController::targetPanelHeight() const {
-    return panelHeight;
+int ShelfController::targetPanelHeight() const {
+    return panelSize.height();
 }
 
 void ShelfController::applySettings(const AppSettingsState &state) {
     if (state.screenshotsFolder != m_session->folderShelf().url)
         refreshWatchers();
-    if (std::ranges::find(tabs(), m_activeTab) == tabs().end())
+    if (!isShown(tabs(), m_activeTab))
         m_activeTab = ShelfTab::screenshots;
     reconcileDisplayWindows();
     updateFolderState();
@@ -204,12 +224,33 @@ void ShelfController::refreshWatchers() {
     m_session->refreshWatcher();
 }
 
-void ShelfController::updateFolderState() {
+void ShelfController::receiveFolderChange(const FolderShelf &shelf) {
+    // A folder that was renamed or moved is found again by its bookmark.
+    if (shelf.errorText)
+        m_settings.refreshFolderAccess();
+    updateFolderState();
+}
+
+void ShelfController::receiveDestination(const ScreenshotDestination &destination) {
+    m_destination = destination;
+    if (onDestinationRead)
+        onDestinationRead(destination);
+    updateFolderState();
+}
+
+ScreenshotFolderFacts ShelfController::folderFacts() const {
     const FolderShelf &shelf = m_session->folderShelf();
-    const ScreenshotFolderState state = screenshotFolderState({.folder = m_settings.state().screenshotsFolder,
-                                                               .unavailable = shelf.errorText.has_value(),
-                                                               .destination = m_destination,
-                                                               .hasCompletedInitialScan = shelf.hasCompletedInitialScan});
+    ScreenshotFolderFacts facts{.folder = m_settings.state().screenshotsFolder,
+                                .unavailable = shelf.errorText.has_value() || m_settings.isFolderAccessLost(),
+                                .destination = m_destination,
+                                .hasCompletedInitialScan = shelf.hasCompletedInitialScan};
+    if (facts.folder && facts.destination && isSameFolder(facts.destination->folder, *facts.folder))
+        facts.destination->folder = *facts.folder;
+    return facts;
+}
+
+void ShelfController::updateFolderState() {
+    const ScreenshotFolderState state = screenshotFolderState(folderFacts());
     const auto notification = folderNotification(m_folderState, state);
     m_folderState = state;
     render();
@@ -231,7 +272,7 @@ void ShelfController::render() {
     }
     state.isGrouped = settings.groupScreenshotsByDate;
     state.showsFileNames = settings.showFileNames;
-    m_content->apply(state);
+    content().apply(state);
 }
 
 void ShelfController::receiveNewFiles(const std::vector<Shot> &shots) {
@@ -244,7 +285,8 @@ void ShelfController::receiveNewFiles(const std::vector<Shot> &shots) {
         return;
     std::vector<CaptureNews> news;
     for (const Shot &shot : shots)
-        news.push_back({.path = shot.location, .isRecording = m_session->isRecording(shot), .isFirst = isFirst});
+        news.push_back(
+            {.path = shot.location, .isRecording = isRecording(shot), .isFirst = isFirst});
     m_announcer.announceCaptures(news);
 }
 
@@ -254,10 +296,11 @@ void ShelfController::showNotification(const std::optional<CaptureNotification> 
             m_surfaces->present(ShelfPresentation::collapsed());
         return;
     }
-    if (!m_surfaces->activateForOpening(m_settings.state().displayPreference, m_services.inputMonitor.pointer()))
+    if (!m_surfaces->activateForOpening(m_settings.state().displayPreference,
+                                        m_services.inputMonitor.pointer()))
         return;
-    m_content->apply({.notification = notification});
-    m_surfaces->present(ShelfPresentation::notification(notificationWidth, notificationHeight));
+    content().apply({.notification = notification});
+    m_surfaces->present(ShelfPresentation::notification(notificationSize));
 }
 
 HoverSnapshot ShelfController::hoverSnapshot() const {
@@ -287,18 +330,25 @@ void ShelfController::workspaceChanged(Workspace::Event event) {
         m_hover.requestPointerEvaluation();
         break;
     case Workspace::Event::didMount:
+        m_settings.refreshFolderAccess();
+        m_settings.refreshUnresolvedPins();
+        updateFolderState();
+        break;
     case Workspace::Event::didUnmount:
-        m_session->refreshWatcher();
+        m_session->fileWatcher().scanNow();
+        break;
+    case Workspace::Event::compositingChanged:
+        m_surfaces->compositingChanged();
         break;
     case Workspace::Event::willSleep:
-    case Workspace::Event::compositingChanged:
         break;
     }
 }
 
 void ShelfController::scheduleDisplayReconciliation() {
     if (!m_displayReconcileWork.isPending())
-        m_displayReconcileWork = m_services.scheduler.schedule(displaySettling, [this] { reconcileDisplayWindows(); });
+        m_displayReconcileWork =
+            m_services.scheduler.schedule(displaySettling, [this] { reconcileDisplayWindows(); });
 }
 
 void ShelfController::reconcileDisplayWindows() {
@@ -317,7 +367,8 @@ void ShelfController::scheduleTimelineRefresh() {
     const QDateTime local = QDateTime::fromMSecsSinceEpoch(now.count());
     const QDateTime midnight = local.date().addDays(1).startOfDay();
     const std::chrono::milliseconds delay(local.msecsTo(midnight));
-    m_timelineRefreshWork = m_services.scheduler.schedule(delay, [this] { refreshTimeline(); }, 1s);
+    m_timelineRefreshWork = m_services.scheduler.schedule(
+        delay, [this] { refreshTimeline(); }, 1s);
 }
 
 QString ShelfController::suggestedScreenshotFolder() const {
@@ -330,13 +381,15 @@ void ShelfController::chooseFolder() {
     if (m_choosingFolder)
         return;
     m_choosingFolder = true;
+    // The panel is above every other window, also above the dialog.
+    collapse();
     const std::optional<QString> chosen = askForFolder(suggestedScreenshotFolder());
     m_choosingFolder = false;
-    if (chosen) {
-        if (const auto accepted = acceptScreenshotFolder(*chosen, false); !accepted)
-            onError(accepted.error().message, accepted.error().recoverySuggestion);
-    }
-    m_hover.requestPointerEvaluation();
+    if (!chosen)
+        return;
+    if (const auto accepted = acceptScreenshotFolder(*chosen, false); !accepted)
+        return onError(accepted.error().message, accepted.error().recoverySuggestion);
+    openManually();
 }
 
 Result<void> ShelfController::acceptScreenshotFolder(const QString &folder, bool adopting) {
@@ -344,9 +397,10 @@ Result<void> ShelfController::acceptScreenshotFolder(const QString &folder, bool
     if (!granted)
         return granted;
     // What the monitor is reading now may still be the old place.
-    m_locationMonitor->generation += 1;
+    m_locationMonitor->raiseGeneration();
     m_locationMonitor->check();
     refreshWatchers();
+    updateFolderState();
     return {};
 }
 
@@ -355,6 +409,8 @@ ShelfStatus ShelfController::status() const {
     const FolderShelf &shelf = m_session->folderShelf();
     status.expanded = m_expanded;
     status.tab = m_activeTab;
+    if (!m_surfaces)
+        return status;
     if (const ShelfDisplayWindow *active = m_surfaces->active()) {
         status.display = m_expanded ? active->display().name : QString();
         status.frame = active->visiblePanel();
@@ -369,7 +425,7 @@ ShelfStatus ShelfController::status() const {
         if (section.kind == ScreenshotSectionKind::pinned)
             status.pinnedCount = static_cast<int>(section.shots.size());
     }
-    status.selected = m_content->selectedPaths();
+    status.selected = m_content ? m_content->selectedPaths() : QStringList();
     if (const auto &showing = m_announcer.showing()) {
         status.showingNotification = true;
         status.notificationText = showing->text;

@@ -3,6 +3,7 @@
 #include "base/Generation.h"
 #include "base/Result.h"
 #include "screenshots/ScreenshotDestination.h"
+#include "screenshots/Shot.h"
 #include "shelf/CaptureAnnouncer.h"
 #include "shelf/HoverController.h"
 #include "shelf/ScreenshotFolderState.h"
@@ -22,25 +23,31 @@ namespace tembra {
 
 class AppSettings;
 struct AppSettingsState;
+struct FolderShelf;
 class ScreenshotLocationMonitor;
 class ShelfContent;
 class ShelfSession;
 class ShelfSurfaces;
 
-// Joins the models to the screen: the shelf's surfaces on each display, its tabs and their content, what it announces,
-// and when it opens and closes. Main thread; owned by OnboardingCoordinator, which starts and stops it.
+// Joins the models to the screen: the shelf's surfaces on each display, its tabs and their content, what it
+// announces, and when it opens and closes. Main thread; owned by OnboardingCoordinator, which starts and
+// stops it.
 class ShelfController final : public QObject {
     Q_OBJECT
 
 public:
     ShelfController(AppSettings &settings, std::unique_ptr<ShelfSession> session,
-                    std::unique_ptr<ScreenshotLocationMonitor> locationMonitor, const ShelfServices &services);
+                    std::unique_ptr<ScreenshotLocationMonitor> locationMonitor,
+                    const ShelfServices &services);
     ~ShelfController() override;
 
-    // Asks the user for a folder, starting at the one suggested; nothing when the user changed their mind. Replaceable.
+    // Asks the user for a folder, starting at the one suggested; nothing when the user changed their mind.
+    // Replaceable.
     std::function<std::optional<QString>(const QString &suggested)> askForFolder;
     // Shows a failure as title and message. Replaceable.
     std::function<void(const QString &title, const QString &message)> onError;
+    // Where the screenshot tool saves was read.
+    std::function<void(const ScreenshotDestination &)> onDestinationRead;
 
     void start();
     void stop();
@@ -55,8 +62,8 @@ public:
     bool activateTab(ShelfTab tab);
 
     void chooseFolder();
-    // Makes the folder the one that is shown; `adopting` leaves the screenshot tool's own setting as it is, since the
-    // folder came from there.
+    // Makes the folder the one that is shown; `adopting` leaves the screenshot tool's own setting as it is,
+    // since the folder came from there.
     Result<void> acceptScreenshotFolder(const QString &folder, bool adopting);
     [[nodiscard]] QString suggestedScreenshotFolder() const;
 
@@ -67,7 +74,9 @@ private:
     void connectHover();
     void connectAnnouncer();
     void connectSession();
-    void connectContent();
+    void startObserving();
+    // Made when it is first shown: a shelf that nobody opens costs nothing.
+    ShelfContent &content();
 
     void applySettings(const AppSettingsState &state);
     void refreshWatchers();
@@ -75,6 +84,9 @@ private:
     void scheduleTimelineRefresh();
     void render();
     void updateFolderState();
+    void receiveFolderChange(const FolderShelf &shelf);
+    void receiveDestination(const ScreenshotDestination &destination);
+    [[nodiscard]] ScreenshotFolderFacts folderFacts() const;
     void receiveNewFiles(const std::vector<Shot> &shots);
     void showNotification(const std::optional<CaptureNotification> &notification);
     void showExpanded();
@@ -86,14 +98,15 @@ private:
     [[nodiscard]] HoverSnapshot hoverSnapshot() const;
     [[nodiscard]] bool canSwitchTabsWithHover(ShelfTab tab) const;
     [[nodiscard]] std::vector<ShelfTab> tabs() const;
-    [[nodiscard]] double targetPanelHeight() const;
+    [[nodiscard]] int targetPanelHeight() const;
 
     AppSettings &m_settings;
     ShelfServices m_services;
     std::unique_ptr<ShelfSession> m_session;
     std::unique_ptr<ScreenshotLocationMonitor> m_locationMonitor;
-    std::unique_ptr<ShelfSurfaces> m_surfaces;
+    // The surfaces show the content, so they go first.
     std::unique_ptr<ShelfContent> m_content;
+    std::unique_ptr<ShelfSurfaces> m_surfaces;
     HoverController m_hover;
     TabHover m_tabHover;
     CaptureAnnouncer m_announcer;

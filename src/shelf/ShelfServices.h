@@ -3,6 +3,7 @@
 #include "base/Clocks.h"
 #include "base/Scheduler.h"
 #include "platform/Displays.h"
+#include "platform/FileFacts.h"
 #include "platform/HotZones.h"
 #include "platform/InputMonitor.h"
 #include "platform/PanelWindows.h"
@@ -22,6 +23,7 @@ struct ShelfServices {
     PanelWindows &panelWindows;
     HotZones &hotZones;
     Thumbnails &thumbnails;
+    const FileFactsReader &files;
 };
 
 } // namespace tembra

@@ -18,8 +18,8 @@ namespace tembra {
 // thread; owned by ShelfController.
 class ShelfSurfaces {
 public:
-    // `content` moves between the windows and must outlive this.
-    ShelfSurfaces(const ShelfServices &services, QWidget &content);
+    // `content` makes what the windows show when it is first shown; it moves between them and must outlive this.
+    ShelfSurfaces(const ShelfServices &services, std::function<QWidget &()> content);
     ~ShelfSurfaces();
     ShelfSurfaces(const ShelfSurfaces &) = delete;
     ShelfSurfaces &operator=(const ShelfSurfaces &) = delete;
@@ -27,30 +27,29 @@ public:
     // The pointer crossed a boundary of a window or of its hot zone.
     std::function<void()> onPointerActivity;
     std::function<void()> onActivationPressed;
-    // A closing motion has ended.
-    std::function<void()> onCollapsed;
+    std::function<void()> onEscape;
 
-    // Brings the windows in step with the displays. When the active one's display has gone, its place and what it
-    // presents go to a remaining one.
+    // Brings the windows in step with the displays. When the active one's display has gone, what it presents goes to a
+    // remaining one.
     void reconcileDisplayWindows(DisplayPreference preference);
     void removeAll();
+    void compositingChanged();
 
-    // Chooses the display by the pointer and brings the content there; nothing when there is no display.
+    // Chooses the display by the pointer and brings the content there; false when there is no display.
     bool activateForOpening(DisplayPreference preference, ScreenPoint pointer);
     // On the active surface; without one nothing happens.
     void present(const ShelfPresentation &presentation);
 
     [[nodiscard]] ShelfDisplayWindow *active() const { return m_active; }
     [[nodiscard]] std::vector<ScreenRect> activationNotches() const;
-    [[nodiscard]] std::optional<ShelfDisplay> displayForOpening(DisplayPreference preference,
-                                                                ScreenPoint pointer) const;
 
 private:
     void add(const ShelfDisplay &display);
-    void transferContent(ShelfDisplayWindow *window);
+    void removeVanished(const std::vector<ShelfDisplay> &displays);
+    void transferContent(ShelfDisplayWindow &window);
 
     ShelfServices m_services;
-    QWidget &m_content;
+    const std::function<QWidget &()> m_content;
     ShelfDisplaySelection m_selection;
     std::map<std::uint32_t, std::unique_ptr<ShelfDisplayWindow>> m_windows;
     ShelfDisplayWindow *m_active = nullptr;

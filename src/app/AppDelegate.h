@@ -1,0 +1,41 @@
+#pragma once
+
+#include "platform/Platform.h"
+
+#include <memory>
+
+namespace tembra {
+
+class AppFlowCoordinator;
+class AppSettings;
+class CommandService;
+
+// The composition root: makes the settings, then the flow, and answers the program's life-cycle questions. Main thread;
+// lives in main().
+class AppDelegate {
+public:
+    AppDelegate(Platform &platform, Scheduler &scheduler);
+    ~AppDelegate();
+    AppDelegate(const AppDelegate &) = delete;
+    AppDelegate &operator=(const AppDelegate &) = delete;
+
+    void applicationDidFinishLaunching();
+    // Whether the system should do anything further.
+    bool applicationShouldHandleReopen();
+    [[nodiscard]] bool applicationShouldTerminate() const;
+    void applicationWillTerminate();
+    // Ends the program if it may end.
+    void terminate();
+
+    // What a command of another process does here.
+    [[nodiscard]] Result<QString> perform(const QString &command, const QStringList &arguments);
+
+private:
+    Platform &m_platform;
+    Scheduler &m_scheduler;
+    std::unique_ptr<AppSettings> m_settings;
+    std::unique_ptr<AppFlowCoordinator> m_coordinator;
+    std::unique_ptr<CommandService> m_commands;
+};
+
+} // namespace tembra

@@ -1,0 +1,44 @@
+#include "app/AppFlowCoordinator.h"
+
+#include "app/MainMenu.h"
+#include "app/OnboardingCoordinator.h"
+#include "settings/AppSettings.h"
+#include "shelf/ShelfController.h"
+
+namespace tembra {
+
+AppFlowCoordinator::AppFlowCoordinator(AppSettings &settings, Workspace &workspace,
+                                       std::unique_ptr<ShelfController> shelf)
+    : m_settings(settings), m_workspace(workspace),
+      m_onboarding(std::make_unique<OnboardingCoordinator>(settings, std::move(shelf))) {}
+
+AppFlowCoordinator::~AppFlowCoordinator() = default;
+
+void AppFlowCoordinator::start() {
+    installMainMenu();
+    // What others changed while the machine slept is asked again.
+    m_observation = m_workspace.observe([this](Workspace::Event event) {
+        if (event == Workspace::Event::didWake)
+            m_settings.refreshScreenshotPreview();
+    });
+    m_onboarding->start();
+}
+
+void AppFlowCoordinator::reopen() {
+    m_onboarding->reopen();
+}
+
+void AppFlowCoordinator::stop() {
+    m_observation.reset();
+    m_onboarding->stop();
+}
+
+ShelfController &AppFlowCoordinator::shelfController() {
+    return m_onboarding->shelfController();
+}
+
+void AppFlowCoordinator::installMainMenu() {
+    m_mainMenu = std::make_unique<MainMenu>();
+}
+
+} // namespace tembra

@@ -1,0 +1,91 @@
+#include "app/CommandLine.h"
+
+#include <QCoreApplication>
+#include <QHash>
+
+#include <optional>
+
+namespace tembra {
+
+namespace {
+
+QString translated(const char *text) {
+    return QCoreApplication::translate("CommandLine", text);
+}
+
+tl::unexpected<Error> wrongUsage(const QString &message) {
+    return failure({QStringLiteral("Tembra.CommandLine"), 2, message, {}});
+}
+
+std::optional<CommandLine::Verb> verbNamed(const QString &word) {
+    using Verb = CommandLine::Verb;
+    static const QHash<QString, Verb> verbs{
+        {QStringLiteral("open"), Verb::open},     {QStringLiteral("close"), Verb::close},
+        {QStringLiteral("toggle"), Verb::toggle}, {QStringLiteral("status"), Verb::status},
+        {QStringLiteral("scan"), Verb::scan},     {QStringLiteral("quit"), Verb::quit},
+        {QStringLiteral("help"), Verb::help},     {QStringLiteral("--help"), Verb::help},
+        {QStringLiteral("-h"), Verb::help},       {QStringLiteral("--version"), Verb::version}};
+    const auto found = verbs.constFind(word);
+    return found == verbs.cend() ? std::nullopt : std::optional(*found);
+}
+
+bool isTab(const QString &word) {
+    return QStringList{QStringLiteral("tray"), QStringLiteral("screenshots"), QStringLiteral("text")}
+        .contains(word);
+}
+
+// Takes one word after the verb, and its value where it has one.
+Result<void> takeWord(CommandLine &line, QStringList &words) {
+    using Verb = CommandLine::Verb;
+    const QString word = words.takeFirst();
+    if (word == u"--json" && (line.verb == Verb::status || line.verb == Verb::scan)) {
+        line.json = true;
+        return {};
+    }
+    if (word == u"--tab" && line.verb == Verb::open) {
+        if (words.isEmpty() || !isTab(words.constFirst()))
+            return wrongUsage(translated("--tab takes tray, screenshots or text."));
+        line.tab = words.takeFirst();
+        return {};
+    }
+    if (line.verb == Verb::scan && line.path.isEmpty() && !word.startsWith(u'-')) {
+        line.path = word;
+        return {};
+    }
+    return wrongUsage(translated("Unexpected word on the command line: %1").arg(word));
+}
+
+} // namespace
+
+Result<CommandLine> CommandLine::parse(const QStringList &words) {
+    CommandLine line;
+    if (words.isEmpty())
+        return line;
+    const auto verb = verbNamed(words.constFirst());
+    if (!verb)
+        return wrongUsage(translated("There is no command “%1”.").arg(words.constFirst()));
+    line.verb = *verb;
+    QStringList rest = words.mid(1);
+    while (!rest.isEmpty()) {
+        if (const auto taken = takeWord(line, rest); !taken)
+            return failure(taken.error());
+    }
+    if (line.verb == Verb::scan && line.path.isEmpty())
+        return wrongUsage(translated("scan takes the folder to look at."));
+    return line;
+}
+
+QString CommandLine::usage() {
+    return translated("Usage: tembra [COMMAND]\n"
+                      "\n"
+                      "  tembra                       start, or show the shelf of the running one\n"
+                      "  tembra open [--tab TAB]      open the shelf (TAB: tray, screenshots or text)\n"
+                      "  tembra close                 close the shelf\n"
+                      "  tembra toggle                open or close the shelf\n"
+                      "  tembra status [--json]       tell the state of the running one\n"
+                      "  tembra scan FOLDER [--json]  tell what is recognised as a capture, and why\n"
+                      "  tembra quit                  end the running one\n"
+                      "  tembra --version, --help\n");
+}
+
+} // namespace tembra

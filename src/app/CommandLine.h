@@ -1,0 +1,28 @@
+#pragma once
+
+#include "base/Result.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace tembra {
+
+// What the words of the command line ask for. A value; parsing has no effects.
+struct CommandLine {
+    enum class Verb { start, open, close, toggle, status, scan, quit, help, version };
+
+    Verb verb = Verb::start;
+    // The folder of `scan`.
+    QString path;
+    // The tab of `open`: "tray", "screenshots" or "text"; empty when none is named.
+    QString tab;
+    bool json = false;
+
+    // `words` without the program's own name. Error: one sentence that says what is wrong with the words.
+    [[nodiscard]] static Result<CommandLine> parse(const QStringList &words);
+    [[nodiscard]] static QString usage();
+
+    bool operator==(const CommandLine &) const = default;
+};
+
+} // namespace tembra

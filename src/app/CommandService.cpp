@@ -1,0 +1,58 @@
+#include "app/CommandService.h"
+
+#include "app/StatusReport.h"
+#include "shelf/ShelfController.h"
+
+#include <QCoreApplication>
+
+namespace tembra {
+
+namespace {
+
+tl::unexpected<Error> refused(const QString &message) {
+    return failure({QStringLiteral("Tembra.CommandService"), 1, message, {}});
+}
+
+} // namespace
+
+CommandService::CommandService(ShelfController &shelf, std::function<void()> reopen,
+                               std::function<void()> quit)
+    : m_shelf(shelf), m_reopen(std::move(reopen)), m_quit(std::move(quit)) {}
+
+Result<QString> CommandService::perform(const QString &command, const QStringList &arguments) {
+    if (command == u"open")
+        return open(arguments);
+    if (command == u"status")
+        return status(arguments);
+    if (command == u"reopen")
+        m_reopen();
+    else if (command == u"close")
+        m_shelf.collapse();
+    else if (command == u"toggle")
+        m_shelf.toggleFromShortcut();
+    else if (command == u"quit")
+        m_quit();
+    else
+        return refused(QCoreApplication::translate("CommandService", "Tembra does not know the command “%1”.")
+                           .arg(command));
+    return QString();
+}
+
+Result<QString> CommandService::open(const QStringList &arguments) {
+    if (!arguments.isEmpty()) {
+        const auto tab = shelfTabNamed(arguments.constFirst());
+        if (!tab || !m_shelf.activateTab(*tab))
+            return refused(QCoreApplication::translate("CommandService", "This tab is not shown."));
+    }
+    m_shelf.openManually();
+    return QString();
+}
+
+Result<QString> CommandService::status(const QStringList &arguments) const {
+    const ShelfStatus now = m_shelf.status();
+    if (arguments.contains(QStringLiteral("--json")))
+        return QString::fromUtf8(statusJson(now, QCoreApplication::applicationVersion()));
+    return statusText(now);
+}
+
+} // namespace tembra

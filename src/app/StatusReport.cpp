@@ -1,0 +1,68 @@
+#include "app/StatusReport.h"
+
+#include "app/IsoDate.h"
+#include "shelf/ShelfStatus.h"
+
+#include <QCoreApplication>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace tembra {
+
+namespace {
+
+QJsonObject shelfObject(const ShelfStatus &status) {
+    const ScreenRect &frame = status.frame;
+    return {{QStringLiteral("expanded"), status.expanded},
+            {QStringLiteral("tab"), commandName(status.tab)},
+            {QStringLiteral("display"), status.display},
+            {QStringLiteral("frame"), QJsonArray{frame.x, frame.y, frame.width, frame.height}}};
+}
+
+QJsonObject screenshotsObject(const ShelfStatus &status) {
+    QJsonArray sections;
+    for (const ShelfStatus::Section &section : status.sections)
+        sections.append(
+            QJsonObject{{QStringLiteral("title"), section.title}, {QStringLiteral("count"), section.count}});
+    return {{QStringLiteral("count"), status.screenshotCount},
+            {QStringLiteral("pinned"), status.pinnedCount},
+            {QStringLiteral("selected"), QJsonArray::fromStringList(status.selected)},
+            {QStringLiteral("sections"), sections}};
+}
+
+QJsonValue lastCaptureValue(const ShelfStatus &status) {
+    if (!status.lastCapture)
+        return QJsonValue::Null;
+    return QJsonObject{{QStringLiteral("path"), status.lastCapture->path},
+                       {QStringLiteral("at"), isoDate(status.lastCapture->at)}};
+}
+
+} // namespace
+
+QByteArray statusJson(const ShelfStatus &status, const QString &version) {
+    const QJsonObject report{
+        {QStringLiteral("version"), version},
+        {QStringLiteral("shelf"), shelfObject(status)},
+        {QStringLiteral("folder"),
+         QJsonObject{{QStringLiteral("path"),
+                      status.folder ? QJsonValue(*status.folder) : QJsonValue(QJsonValue::Null)},
+                     {QStringLiteral("state"), statusName(status.folderState)}}},
+        {QStringLiteral("screenshots"), screenshotsObject(status)},
+        {QStringLiteral("notification"), QJsonObject{{QStringLiteral("showing"), status.showingNotification},
+                                                     {QStringLiteral("text"), status.notificationText},
+                                                     {QStringLiteral("count"), status.notificationCount}}},
+        {QStringLiteral("lastCapture"), lastCaptureValue(status)}};
+    return QJsonDocument(report).toJson(QJsonDocument::Indented);
+}
+
+QString statusText(const ShelfStatus &status) {
+    const QString folder =
+        status.folder.value_or(QCoreApplication::translate("StatusReport", "No folder selected"));
+    return QCoreApplication::translate("StatusReport", "Shelf: %1\nFolder: %2 (%3)\nScreenshots: %4\n")
+        .arg(status.expanded ? QCoreApplication::translate("StatusReport", "open")
+                             : QCoreApplication::translate("StatusReport", "closed"),
+             folder, statusName(status.folderState), QString::number(status.screenshotCount));
+}
+
+} // namespace tembra

@@ -1,0 +1,130 @@
+#include "app/AppDelegate.h"
+#include "app/CommandLine.h"
+#include "app/ScanCommand.h"
+#include "app/Version.h"
+#include "base/QtScheduler.h"
+#include "platform/Platform.h"
+#include "platform/SingleInstance.h"
+
+#include <QApplication>
+#include <QTranslator>
+
+#include <cstdio>
+
+using namespace tembra;
+
+namespace {
+
+enum ExitStatus { done = 0, failed = 1, wrongUsage = 2 };
+
+void print(std::FILE *stream, const QString &text) {
+    std::fputs(text.toUtf8().constData(), stream);
+    if (!text.isEmpty() && !text.endsWith(u'\n'))
+        std::fputc('\n', stream);
+}
+
+int finish(const Result<QString> &answer) {
+    print(answer ? stdout : stderr, answer ? *answer : answer.error().message);
+    return answer ? done : failed;
+}
+
+QStringList wordsOf(int argc, char **argv) {
+    QStringList words;
+    for (int i = 1; i < argc; ++i)
+        words.append(QString::fromLocal8Bit(argv[i]));
+    return words;
+}
+
+void describeProgram() {
+    QCoreApplication::setApplicationName(QStringLiteral("Tembra"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(TEMBRA_VERSION));
+}
+
+void loadWording(QTranslator &wording) {
+    if (wording.load(platformWordingCatalogue()))
+        QCoreApplication::installTranslator(&wording);
+}
+
+Result<QString> sendToRunning(const CommandLine &line) {
+    using Verb = CommandLine::Verb;
+    const auto instance = makeSingleInstance();
+    switch (line.verb) {
+    case Verb::open:
+        return instance->send(QStringLiteral("open"), line.tab.isEmpty() ? QStringList() : QStringList{line.tab}, true);
+    case Verb::toggle:
+        return instance->send(QStringLiteral("toggle"), {}, true);
+    case Verb::close:
+        return instance->send(QStringLiteral("close"), {}, false);
+    case Verb::status:
+        return instance->send(QStringLiteral("status"), line.json ? QStringList{QStringLiteral("--json")} : QStringList(),
+                              false);
+    case Verb::quit:
+        return instance->send(QStringLiteral("quit"), {}, false);
+    case Verb::start:
+    case Verb::scan:
+    case Verb::help:
+    case Verb::version:
+        break;
+    }
+    return QString();
+}
+
+// A command that ends by itself, without windows.
+int runCommand(const CommandLine &line, int argc, char **argv) {
+    const QCoreApplication application(argc, argv);
+    QTranslator wording;
+    loadWording(wording);
+    switch (line.verb) {
+    case CommandLine::Verb::help:
+        print(stdout, CommandLine::usage());
+        return done;
+    case CommandLine::Verb::version:
+        print(stdout, QStringLiteral("Tembra ") + QStringLiteral(TEMBRA_VERSION));
+        return done;
+    case CommandLine::Verb::scan:
+        return finish(scanFolder(line.path, line.json));
+    default:
+        return finish(sendToRunning(line));
+    }
+}
+
+// The program itself, until it quits.
+int runShelf(int argc, char **argv) {
+    preparePlatformEnvironment();
+    const QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    QTranslator wording;
+    loadWording(wording);
+
+    QtScheduler scheduler;
+    Platform platform = makePlatform(scheduler);
+    AppDelegate delegate(platform, scheduler);
+    const auto instance = makeSingleInstance();
+    const auto claimed = instance->claim([&delegate](const QString &command, const QStringList &arguments) {
+        return delegate.perform(command, arguments);
+    });
+    if (!claimed && claimed.error().code == SingleInstance::alreadyRunning)
+        return finish(instance->send(QStringLiteral("reopen"), {}, false));
+    if (!claimed)
+        qWarning("%s", qUtf8Printable(claimed.error().message));
+
+    QObject::connect(&application, &QCoreApplication::aboutToQuit, &application, [&] {
+        delegate.applicationWillTerminate();
+        instance->release();
+    });
+    delegate.applicationDidFinishLaunching();
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+    describeProgram();
+    const auto line = CommandLine::parse(wordsOf(argc, argv));
+    if (!line) {
+        print(stderr, line.error().message);
+        print(stderr, CommandLine::usage());
+        return wrongUsage;
+    }
+    return line->verb == CommandLine::Verb::start ? runShelf(argc, argv) : runCommand(*line, argc, argv);
+}

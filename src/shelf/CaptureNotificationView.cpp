@@ -1,0 +1,117 @@
+#include "shelf/CaptureNotificationView.h"
+
+#include "controls/Palette.h"
+#include "controls/Typography.h"
+#include "shelf/ScreenshotPreviewImageView.h"
+
+#include <QPainter>
+
+#include <array>
+
+namespace tembra {
+
+namespace {
+
+constexpr QSizeF previewSize{72, 50};
+constexpr double previewSide = 72;
+constexpr int textLeft = 150;
+constexpr int textLeftWithoutPreviews = 26;
+
+// How the pictures lie, the foremost first: their middle and their turn in degrees.
+struct Pose {
+    QPointF middle;
+    double degrees = 0;
+};
+constexpr std::array<Pose, 3> stack{Pose{{91, 42}, 4}, Pose{{74, 44}, -2}, Pose{{57, 45}, -5}};
+constexpr Pose alone{{74, 42}, -3};
+
+} // namespace
+
+CaptureNotificationView::CaptureNotificationView(Thumbnails &thumbnails, QWidget *parent)
+    : QWidget(parent), m_thumbnails(thumbnails) {}
+
+void CaptureNotificationView::apply(const CaptureNotification &notification) {
+    if (notification == m_notification)
+        return;
+    m_notification = notification;
+    setAccessibleName(notification.text);
+    setAccessibleDescription(notification.detail);
+    std::erase_if(m_requests, [&](const auto &entry) { return !notification.previews.contains(entry.first); });
+    m_images.removeIf([&](const auto &entry) { return !notification.previews.contains(entry.key()); });
+    for (const QString &path : notification.previews)
+        requestPreview(path);
+    update();
+}
+
+void CaptureNotificationView::requestPreview(const QString &path) {
+    if (m_images.contains(path) || m_requests.contains(path))
+        return;
+    m_requests[path] = m_thumbnails.request(path, previewSide, devicePixelRatioF(),
+                                            [this, path](const Result<Thumbnails::Thumbnail> &thumbnail) {
+                                                if (!thumbnail)
+                                                    return;
+                                                m_images.insert(path, thumbnail->image);
+                                                update();
+                                            });
+}
+
+void CaptureNotificationView::paintEvent(QPaintEvent *) {
+    QPainter painter(this);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    paintPreviews(painter);
+    paintOverflow(painter);
+    paintText(painter);
+}
+
+void CaptureNotificationView::paintPreviews(QPainter &painter) const {
+    const QStringList &paths = m_notification.previews;
+    for (qsizetype i = paths.size() - 1; i >= 0; --i) {
+        const Pose &pose = paths.size() == 1 ? alone : stack.at(static_cast<std::size_t>(i));
+        const QImage image = m_images.value(paths[i]);
+        painter.save();
+        painter.translate(pose.middle);
+        painter.rotate(pose.degrees);
+        const QRectF place({-previewSize.width() / 2, -previewSize.height() / 2}, previewSize);
+        if (image.isNull()) {
+            painter.setPen(Qt::NoPen);
+            painter.setBrush(palette::groupActive);
+            painter.drawRoundedRect(place, 4, 4);
+        } else {
+            ScreenshotPreviewImageView::draw(painter, ScreenshotPreviewImageView::fitted(image, place), image);
+        }
+        painter.restore();
+    }
+}
+
+// How many more there are than can be seen.
+void CaptureNotificationView::paintOverflow(QPainter &painter) const {
+    if (m_notification.previews.isEmpty() || m_notification.overflow() <= 0)
+        return;
+    painter.setFont(typography::font(typography::captionSize, QFont::DemiBold));
+    const QString text = QStringLiteral("+%1").arg(m_notification.overflow());
+    QRectF pill(0, 0, painter.fontMetrics().horizontalAdvance(text) + 10, 16);
+    pill.moveCenter({124, 64});
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(palette::accent);
+    painter.drawRoundedRect(pill, 8, 8);
+    painter.setPen(palette::onAccent);
+    painter.drawText(pill, Qt::AlignCenter, text);
+}
+
+void CaptureNotificationView::paintText(QPainter &painter) const {
+    const int left = m_notification.previews.isEmpty() ? textLeftWithoutPreviews : textLeft;
+    const int width = this->width() - left - 20;
+    const bool hasDetail = !m_notification.detail.isEmpty();
+    painter.setFont(typography::font(typography::headlineSize, QFont::DemiBold));
+    painter.setPen(palette::text);
+    const QRect title = hasDetail ? QRect(left, 24, width, 20) : QRect(left, 0, width, height());
+    painter.drawText(title, Qt::AlignLeft | Qt::AlignVCenter,
+                     painter.fontMetrics().elidedText(m_notification.text, Qt::ElideRight, width));
+    if (!hasDetail)
+        return;
+    painter.setFont(typography::font(typography::itemSize));
+    painter.setPen(palette::secondaryText);
+    painter.drawText(QRect(left, 44, width, 18), Qt::AlignLeft | Qt::AlignVCenter, m_notification.detail);
+}
+
+} // namespace tembra

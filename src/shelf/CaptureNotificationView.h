@@ -1,0 +1,40 @@
+#pragma once
+
+#include "platform/Thumbnails.h"
+#include "shelf/CaptureNotification.h"
+
+#include <QHash>
+#include <QImage>
+#include <QWidget>
+
+#include <map>
+#include <memory>
+
+namespace tembra {
+
+// The notification: the newest captures as a small stack of pictures, beside a line of text and one of detail. The
+// pictures come when they are made; until then their places are plain.
+class CaptureNotificationView final : public QWidget {
+    Q_OBJECT
+
+public:
+    CaptureNotificationView(Thumbnails &thumbnails, QWidget *parent);
+
+    void apply(const CaptureNotification &notification);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void requestPreview(const QString &path);
+    void paintPreviews(QPainter &painter) const;
+    void paintOverflow(QPainter &painter) const;
+    void paintText(QPainter &painter) const;
+
+    Thumbnails &m_thumbnails;
+    CaptureNotification m_notification;
+    QHash<QString, QImage> m_images;
+    std::map<QString, std::unique_ptr<Thumbnails::Request>> m_requests;
+};
+
+} // namespace tembra

@@ -1,0 +1,51 @@
+#include "shelf/ShelfButton.h"
+
+#include "controls/FocusRing.h"
+#include "controls/Palette.h"
+
+#include <QPainter>
+
+namespace tembra {
+
+namespace {
+
+constexpr qreal iconSide = 16;
+constexpr qreal cornerRadius = 7;
+
+} // namespace
+
+ShelfButton::ShelfButton(Icon icon, const QString &name, QWidget *parent) : QAbstractButton(parent), m_icon(icon) {
+    setCheckable(true);
+    setAccessibleName(name);
+    setToolTip(name);
+    setFocusPolicy(Qt::TabFocus);
+    resize(fieldSize);
+}
+
+void ShelfButton::paintEvent(QPaintEvent *) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    const bool isActive = isChecked() || isDown();
+    if (isActive || underMouse()) {
+        painter.setBrush(isActive ? palette::groupActive : palette::groupHovered);
+        painter.drawRoundedRect(QRectF(rect()), cornerRadius, cornerRadius);
+    }
+    drawIcon(painter, m_icon, rect(), iconSide, isActive ? palette::iconActive : palette::icon);
+    if (hasFocus())
+        drawFocusRing(painter, QRectF(rect()).adjusted(2, 2, -2, -2), cornerRadius - 1);
+}
+
+void ShelfButton::enterEvent(QEnterEvent *event) {
+    QAbstractButton::enterEvent(event);
+    update();
+    Q_EMIT entered();
+}
+
+void ShelfButton::leaveEvent(QEvent *event) {
+    QAbstractButton::leaveEvent(event);
+    update();
+    Q_EMIT left();
+}
+
+} // namespace tembra

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "controls/Icons.h"
+
+#include <QAbstractButton>
+
+namespace tembra {
+
+// A button of the shelf's header: an icon on a rounded field, which is filled while its tab is the active one.
+class ShelfButton final : public QAbstractButton {
+    Q_OBJECT
+
+public:
+    static constexpr QSize fieldSize{38, 26};
+
+    ShelfButton(Icon icon, const QString &name, QWidget *parent);
+
+    [[nodiscard]] QSize sizeHint() const override { return fieldSize; }
+
+Q_SIGNALS:
+    void entered();
+    void left();
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void enterEvent(QEnterEvent *event) override;
+    void leaveEvent(QEvent *event) override;
+
+private:
+    const Icon m_icon;
+};
+
+} // namespace tembra

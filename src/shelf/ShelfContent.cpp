@@ -1,0 +1,69 @@
+#include "shelf/ShelfContent.h"
+
+#include "shelf/CaptureNotificationView.h"
+#include "shelf/NativeScreenshotGrid.h"
+#include "shelf/ScreenshotMessageView.h"
+#include "shelf/ShelfHeader.h"
+
+namespace tembra {
+
+ShelfContent::ShelfContent(const ShelfServices &services) {
+    build(services);
+    connect(m_header, &ShelfHeader::tabClicked, this, &ShelfContent::tabClicked);
+    connect(m_header, &ShelfHeader::tabHovered, this, &ShelfContent::tabHovered);
+    connect(m_header, &ShelfHeader::tabLeft, this, &ShelfContent::tabLeft);
+    connect(m_message, &ScreenshotMessageView::acted, this, &ShelfContent::messageActed);
+    connect(m_grid, &NativeScreenshotGrid::selectionChanged, this, &ShelfContent::selectionChanged);
+}
+
+ShelfContent::~ShelfContent() = default;
+
+void ShelfContent::build(const ShelfServices &services) {
+    m_header = new ShelfHeader(this);
+    m_grid = new NativeScreenshotGrid({services.thumbnails, services.files, m_thumbnailCache}, this);
+    m_message = new ScreenshotMessageView(this);
+    m_notification = new CaptureNotificationView(services.thumbnails, this);
+}
+
+void ShelfContent::apply(const State &state) {
+    m_state = state;
+    const bool isNotification = state.notification.has_value();
+    m_notification->setVisible(isNotification);
+    m_header->setVisible(!isNotification);
+    m_grid->setVisible(!isNotification && !state.message);
+    m_message->setVisible(!isNotification && state.message);
+    if (isNotification)
+        return m_notification->apply(*state.notification);
+    m_header->apply(state.tabs, state.activeTab);
+    if (state.message)
+        return m_message->apply(*state.message);
+    m_grid->render({.sections = state.sections,
+                    .pinnedPaths = state.pinnedPaths,
+                    .showFileNames = state.showsFileNames,
+                    .grouped = state.isGrouped});
+}
+
+QStringList ShelfContent::selectedPaths() const {
+    return m_grid->selectedPaths();
+}
+
+QSet<ScreenshotFileIdentity> ShelfContent::selection() const {
+    QSet<ScreenshotFileIdentity> identities;
+    for (const Shot &shot : m_grid->selectedShots())
+        identities.insert(shot.identity);
+    return identities;
+}
+
+void ShelfContent::resizeEvent(QResizeEvent *) {
+    layOut();
+}
+
+void ShelfContent::layOut() {
+    m_header->setGeometry(0, 0, width(), ShelfHeader::height);
+    const QRect below(0, ShelfHeader::height, width(), height() - ShelfHeader::height);
+    m_grid->setGeometry(below);
+    m_message->setGeometry(below);
+    m_notification->setGeometry(rect());
+}
+
+} // namespace tembra

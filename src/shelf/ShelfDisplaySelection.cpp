@@ -1,0 +1,30 @@
+#include "shelf/ShelfDisplaySelection.h"
+
+#include <algorithm>
+
+namespace tembra {
+
+std::optional<ShelfDisplay> ShelfDisplaySelection::opening(const std::vector<ShelfDisplay> &displays,
+                                                           DisplayPreference preference, ScreenPoint pointer) {
+    if (displays.empty())
+        return std::nullopt;
+    if (preference == DisplayPreference::main)
+        return displays.front();
+    const auto isAtNotch = [pointer](const ShelfDisplay &display) {
+        return display.activationRect().widened(1 / std::max(display.scale, 1.0)).contains(pointer);
+    };
+    const auto isOnScreen = [pointer](const ShelfDisplay &display) { return display.screenFrame.contains(pointer); };
+    auto found = std::ranges::find_if(displays, isAtNotch);
+    if (found == displays.end())
+        found = std::ranges::find_if(displays, isOnScreen);
+    return found == displays.end() ? displays.front() : *found;
+}
+
+std::vector<ShelfDisplay> ShelfDisplaySelection::admitted(const std::vector<ShelfDisplay> &displays,
+                                                          DisplayPreference preference) {
+    if (preference == DisplayPreference::all || displays.empty())
+        return displays;
+    return {displays.front()};
+}
+
+} // namespace tembra

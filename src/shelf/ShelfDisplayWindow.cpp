@@ -1,0 +1,197 @@
+#include "shelf/ShelfDisplayWindow.h"
+
+#include "shelf/ShelfPanel.h"
+#include "shelf/ShelfPanelShape.h"
+#include "shelf/ShelfView.h"
+
+#include <QRegion>
+#include <QStyle>
+
+#include <cmath>
+
+namespace tembra {
+
+namespace {
+
+// The window is as large as the largest panel, so that it need not change while the panel grows in it.
+constexpr QSize largestPanel{744, 256};
+// A pointer this close to the panel still counts as in it; the window must hear it leave.
+constexpr int pointerTolerance = 2;
+
+QRect outwards(const QRectF &rect) {
+    return rect.toAlignedRect();
+}
+
+} // namespace
+
+ShelfDisplayWindow::ShelfDisplayWindow(const ShelfDisplay &display, const ShelfServices &services)
+    : m_services(services), m_display(display),
+      m_zone(services.hotZones.add(display.activationRect(), {.onEnter = [this] { onPointerActivity(); },
+                                                              .onLeave = [this] { onPointerActivity(); },
+                                                              .onPress = [this] { onActivationPressed(); }})),
+      m_width(display.activationRect().width) {
+    m_animation.setStartValue(0.0);
+    m_animation.setEndValue(1.0);
+    m_animation.setDuration(static_cast<int>(SpringMotion::settling.count() * 1000));
+    QObject::connect(&m_animation, &QVariantAnimation::valueChanged, &m_animation, [this] { placeBody(); });
+    QObject::connect(&m_animation, &QVariantAnimation::finished, &m_animation, [this] { settle(); });
+}
+
+ShelfDisplayWindow::~ShelfDisplayWindow() {
+    m_animation.stop();
+    if (m_content && m_content->parent() == m_viewport)
+        m_content->setParent(nullptr);
+}
+
+void ShelfDisplayWindow::makePanel() {
+    m_panel = std::make_unique<ShelfPanel>();
+    m_panel->onPress = [this] { takeKeyboardFocus(); };
+    m_panel->onEscape = [this] { onEscape(); };
+    m_root = new ShelfView(m_panel.get());
+    m_root->onPointerActivity = [this] { onPointerActivity(); };
+    m_viewport = new QWidget(m_root);
+    placePanel();
+    m_services.panelWindows.prepare(*m_panel);
+}
+
+void ShelfDisplayWindow::placePanel() {
+    const QSize largest = largestPanel.expandedTo(m_presentation.size);
+    const QSize canvas(largest.width() + 2 * ShelfShadow::reach, largest.height() + ShelfShadow::reach + 8);
+    const ScreenRect frame = hangingFromEdge(canvas);
+    m_panel->setGeometry(static_cast<int>(std::lround(frame.x)), static_cast<int>(std::lround(frame.y)),
+                         canvas.width(), canvas.height());
+    m_root->setGeometry(QRect(QPoint(), canvas));
+}
+
+void ShelfDisplayWindow::setDisplay(const ShelfDisplay &display) {
+    if (display == m_display)
+        return;
+    m_display = display;
+    m_zone->setRect(display.activationRect());
+    if (!m_panel)
+        return;
+    placePanel();
+    placeBody();
+    updateInputRegion();
+}
+
+void ShelfDisplayWindow::setContent(QWidget &content) {
+    if (!m_panel)
+        makePanel();
+    m_content = &content;
+    if (content.parentWidget() == m_viewport)
+        return;
+    content.setParent(m_viewport);
+    content.show();
+}
+
+void ShelfDisplayWindow::present(const ShelfPresentation &presentation, bool isAnimated) {
+    if (presentation.kind == ShelfPresentation::Kind::collapsed && !m_panel)
+        return;
+    if (!m_panel)
+        makePanel();
+    const auto now = elapsed();
+    m_presentation = presentation;
+    m_width.retarget(restingSize().width(), now);
+    m_height.retarget(restingSize().height(), now);
+    m_animation.stop();
+    placePanel();
+    if (m_content && presentation.kind != ShelfPresentation::Kind::collapsed)
+        m_content->resize(presentation.size);
+    updateInputRegion();
+    const bool hasMotion = isAnimated && m_panel->style()->styleHint(QStyle::SH_Widget_Animation_Duration) > 0;
+    if (hasMotion) {
+        m_animation.start();
+        placeBody();
+    } else {
+        m_width.jump(m_width.target());
+        m_height.jump(m_height.target());
+        settle();
+    }
+    if (presentation.kind != ShelfPresentation::Kind::collapsed)
+        m_panel->show();
+}
+
+void ShelfDisplayWindow::placeBody() {
+    const QSizeF size = bodySize();
+    const QRectF body((m_root->width() - size.width()) / 2, 0, size.width(), size.height());
+    const bool isComposited = m_services.workspace.isComposited();
+    m_root->setBody(body, isComposited);
+    m_viewport->setGeometry(outwards(body));
+    if (m_content)
+        m_content->move((m_viewport->width() - m_content->width()) / 2, 0);
+    // Without a compositor what is not the panel would be black.
+    if (isComposited)
+        m_panel->clearMask();
+    else
+        m_panel->setMask(QRegion(ShelfPanelShape::path(body).toFillPolygon().toPolygon()));
+}
+
+void ShelfDisplayWindow::updateInputRegion() {
+    QRegion region;
+    if (m_presentation.kind != ShelfPresentation::Kind::collapsed) {
+        const QSize size = m_presentation.size;
+        const QRect body((m_root->width() - size.width()) / 2, 0, size.width(), size.height());
+        region = body.adjusted(-pointerTolerance, 0, pointerTolerance, pointerTolerance);
+    }
+    m_services.panelWindows.setInputRegion(*m_panel, region);
+}
+
+void ShelfDisplayWindow::settle() {
+    placeBody();
+    if (m_presentation.kind != ShelfPresentation::Kind::collapsed)
+        return;
+    m_services.panelWindows.returnKeyboardFocus(*m_panel);
+    m_panel->hide();
+}
+
+void ShelfDisplayWindow::takeKeyboardFocus() {
+    if (m_presentation.kind == ShelfPresentation::Kind::expanded)
+        m_services.panelWindows.takeKeyboardFocus(*m_panel);
+}
+
+void ShelfDisplayWindow::compositingChanged() {
+    if (m_panel)
+        placeBody();
+}
+
+// The collapsed panel is as wide as the notch and has no height.
+QSizeF ShelfDisplayWindow::restingSize() const {
+    if (m_presentation.kind == ShelfPresentation::Kind::collapsed)
+        return {m_display.activationRect().width, 0};
+    return m_presentation.size;
+}
+
+QSizeF ShelfDisplayWindow::bodySize() const {
+    const auto now = elapsed();
+    return {m_width.value(now), m_height.value(now)};
+}
+
+SpringMotion::Time ShelfDisplayWindow::elapsed() const {
+    if (m_animation.state() != QAbstractAnimation::Running)
+        return SpringMotion::settling;
+    return std::chrono::milliseconds(m_animation.currentTime());
+}
+
+ScreenRect ShelfDisplayWindow::hangingFromEdge(const QSizeF &size) const {
+    return {m_display.screenFrame.midX() - size.width() / 2, m_display.screenFrame.y, size.width(), size.height()};
+}
+
+ScreenRect ShelfDisplayWindow::visiblePanel() const {
+    const QSizeF size = bodySize();
+    return m_panel && size.height() > 0 ? hangingFromEdge(size) : m_display.activationRect();
+}
+
+ScreenRect ShelfDisplayWindow::interactionPanel() const {
+    return hangingFromEdge(restingSize());
+}
+
+ScreenRect ShelfDisplayWindow::panelWindow() const {
+    if (!m_panel)
+        return m_display.screenFrame;
+    const QRect frame = m_panel->geometry();
+    return {static_cast<double>(frame.x()), static_cast<double>(frame.y()), static_cast<double>(frame.width()),
+            static_cast<double>(frame.height())};
+}
+
+} // namespace tembra

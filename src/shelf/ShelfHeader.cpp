@@ -1,0 +1,89 @@
+#include "shelf/ShelfHeader.h"
+
+#include "controls/Palette.h"
+#include "shelf/ShelfButton.h"
+
+#include <QPainter>
+
+namespace tembra {
+
+namespace {
+
+constexpr QPoint groupOrigin{18, 6};
+constexpr int groupInset = 3;
+constexpr int buttonSpacing = 4;
+constexpr qreal groupRadius = 10;
+
+Icon iconOf(ShelfTab tab) {
+    switch (tab) {
+    case ShelfTab::screenshots:
+        return Icon::photo;
+    case ShelfTab::imageToText:
+        return Icon::textViewfinder;
+    case ShelfTab::fileTray:
+        return Icon::folder;
+    }
+    Q_UNREACHABLE();
+}
+
+QString nameOf(ShelfTab tab) {
+    switch (tab) {
+    case ShelfTab::screenshots:
+        return ShelfHeader::tr("Screenshots");
+    case ShelfTab::imageToText:
+        return ShelfHeader::tr("Image to Text");
+    case ShelfTab::fileTray:
+        return ShelfHeader::tr("File Tray");
+    }
+    Q_UNREACHABLE();
+}
+
+} // namespace
+
+ShelfHeader::ShelfHeader(QWidget *parent) : QWidget(parent) {}
+
+void ShelfHeader::apply(const std::vector<ShelfTab> &tabs, ShelfTab active) {
+    if (tabs != m_tabs) {
+        m_tabs = tabs;
+        build();
+    }
+    for (std::size_t i = 0; i < m_tabs.size(); ++i)
+        m_buttons[i]->setChecked(m_tabs[i] == active);
+}
+
+void ShelfHeader::build() {
+    for (ShelfButton *button : m_buttons)
+        button->deleteLater();
+    m_buttons.clear();
+    QPoint at = groupOrigin + QPoint(groupInset, groupInset);
+    for (const ShelfTab tab : m_tabs) {
+        auto *button = new ShelfButton(iconOf(tab), nameOf(tab), this);
+        button->move(at);
+        button->show();
+        at.rx() += button->width() + buttonSpacing;
+        connect(button, &ShelfButton::clicked, this, [this, tab] { Q_EMIT tabClicked(tab); });
+        connect(button, &ShelfButton::entered, this, [this, tab] { Q_EMIT tabHovered(tab); });
+        connect(button, &ShelfButton::left, this, [this, tab] { Q_EMIT tabLeft(tab); });
+        m_buttons.push_back(button);
+    }
+    update();
+}
+
+QRect ShelfHeader::group() const {
+    const int count = static_cast<int>(m_tabs.size());
+    const QSize button = ShelfButton::fieldSize;
+    return {groupOrigin, QSize(count * button.width() + (count - 1) * buttonSpacing + 2 * groupInset,
+                               button.height() + 2 * groupInset)};
+}
+
+void ShelfHeader::paintEvent(QPaintEvent *) {
+    if (m_tabs.empty())
+        return;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(palette::group);
+    painter.drawRoundedRect(group(), groupRadius, groupRadius);
+}
+
+} // namespace tembra
