@@ -56,6 +56,11 @@ X11Connection::~X11Connection() {
         qGuiApp->removeNativeEventFilter(this);
 }
 
+bool X11Connection::owns(xcb_window_t window) const {
+    const xcb_setup_t *const setup = xcb_get_setup(m_xcb);
+    return window != XCB_WINDOW_NONE && (window & ~setup->resource_id_mask) == setup->resource_id_base;
+}
+
 xcb_atom_t X11Connection::atom(const QByteArray &name) const {
     const X11Reply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(
         m_xcb, xcb_intern_atom(m_xcb, false, static_cast<std::uint16_t>(name.size()), name.constData()),
@@ -83,10 +88,6 @@ X11Connection::watchRootProperty(xcb_atom_t property, std::function<void()> onCh
         if (change.window == root && change.atom == property)
             onChange();
     });
-}
-
-void X11Connection::ignoreError(xcb_void_cookie_t checkedRequest) const {
-    xcb_discard_reply(m_xcb, checkedRequest.sequence);
 }
 
 bool X11Connection::nativeEventFilter(const QByteArray &eventType, void *message, qintptr *) {

@@ -21,7 +21,8 @@ struct FreeReply {
 };
 
 // What an xcb request answered; empty when it failed.
-template <class Reply> using X11Reply = std::unique_ptr<Reply, FreeReply>;
+template <class Reply>
+using X11Reply = std::unique_ptr<Reply, FreeReply>;
 
 // The connection to the X server that Qt opened, and its one event filter. Main thread; ends before the
 // application object.
@@ -41,6 +42,8 @@ public:
     [[nodiscard]] xcb_connection_t *xcb() const { return m_xcb; }
     [[nodiscard]] xcb_window_t root() const { return m_root; }
     [[nodiscard]] int screenNumber() const { return m_screenNumber; }
+    // The window was made through this connection: by Qt or by us.
+    [[nodiscard]] bool owns(xcb_window_t window) const;
     [[nodiscard]] xcb_atom_t atom(const QByteArray &name) const;
     [[nodiscard]] xcb_window_t selectionOwner(xcb_atom_t selection) const;
 
@@ -50,8 +53,6 @@ public:
     // Called when that property of the root window changes.
     [[nodiscard]] std::unique_ptr<Subscription> watchRootProperty(xcb_atom_t property,
                                                                   std::function<void()> onChange);
-    // The request may fail because another program's window went away: that is not worth a word.
-    void ignoreError(xcb_void_cookie_t checkedRequest) const;
 
     bool nativeEventFilter(const QByteArray &eventType, void *message, qintptr *result) override;
 

@@ -12,8 +12,10 @@ class X11HotZone final : public HotZones::Zone {
 public:
     X11HotZone(std::shared_ptr<X11Connection> connection, std::shared_ptr<X11Stacking> stacking,
                const ScreenRect &rect, HotZones::Callbacks callbacks)
-        : m_connection(std::move(connection)), m_stacking(std::move(stacking)),
-          m_callbacks(std::move(callbacks)), m_window(xcb_generate_id(m_connection->xcb())) {
+        : m_connection(std::move(connection)),
+          m_stacking(std::move(stacking)),
+          m_callbacks(std::move(callbacks)),
+          m_window(xcb_generate_id(m_connection->xcb())) {
         createWindow(rect);
         m_events = m_connection->subscribe([this](const xcb_generic_event_t &event) { receive(event); });
         m_stacking->addZone(m_window);
@@ -27,10 +29,10 @@ public:
 
     void setRect(const ScreenRect &rect) override {
         const QRect pixels = nativePixels(rect);
-        const std::array<std::uint32_t, 4> geometry{
-            static_cast<std::uint32_t>(pixels.x()), static_cast<std::uint32_t>(pixels.y()),
-            static_cast<std::uint32_t>(std::max(1, pixels.width())),
-            static_cast<std::uint32_t>(std::max(1, pixels.height()))};
+        const std::array<std::uint32_t, 4> geometry{static_cast<std::uint32_t>(pixels.x()),
+                                                    static_cast<std::uint32_t>(pixels.y()),
+                                                    static_cast<std::uint32_t>(std::max(1, pixels.width())),
+                                                    static_cast<std::uint32_t>(std::max(1, pixels.height()))};
         xcb_configure_window(m_connection->xcb(), m_window,
                              XCB_CONFIG_WINDOW_X | XCB_CONFIG_WINDOW_Y | XCB_CONFIG_WINDOW_WIDTH |
                                  XCB_CONFIG_WINDOW_HEIGHT,

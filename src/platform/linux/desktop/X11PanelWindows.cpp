@@ -12,7 +12,8 @@ namespace tembra {
 
 X11PanelWindows::X11PanelWindows(std::shared_ptr<X11Connection> connection,
                                  std::shared_ptr<X11Stacking> stacking)
-    : m_connection(std::move(connection)), m_stacking(std::move(stacking)),
+    : m_connection(std::move(connection)),
+      m_stacking(std::move(stacking)),
       m_activeWindowAtom(m_connection->atom(QByteArrayLiteral("_NET_ACTIVE_WINDOW"))) {}
 
 void X11PanelWindows::prepare(QWidget &panel) {
@@ -67,11 +68,9 @@ xcb_window_t X11PanelWindows::focusedWindow() const {
 
 xcb_window_t X11PanelWindows::activeWindow() const {
     xcb_connection_t *const xcb = m_connection->xcb();
-    const X11Reply<xcb_get_property_reply_t> reply(
-        xcb_get_property_reply(xcb,
-                               xcb_get_property(xcb, false, m_connection->root(), m_activeWindowAtom,
-                                                XCB_ATOM_WINDOW, 0, 1),
-                               nullptr));
+    const X11Reply<xcb_get_property_reply_t> reply(xcb_get_property_reply(
+        xcb, xcb_get_property(xcb, false, m_connection->root(), m_activeWindowAtom, XCB_ATOM_WINDOW, 0, 1),
+        nullptr));
     if (!reply || reply->format != 32 || xcb_get_property_value_length(reply.get()) < 4)
         return XCB_WINDOW_NONE;
     return *static_cast<const xcb_window_t *>(xcb_get_property_value(reply.get()));
