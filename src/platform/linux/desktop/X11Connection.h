@@ -9,6 +9,7 @@
 #include <cstdlib>
 #include <functional>
 #include <memory>
+#include <optional>
 
 QT_BEGIN_NAMESPACE
 class QByteArray;
@@ -47,12 +48,19 @@ public:
     [[nodiscard]] xcb_atom_t atom(const QByteArray &name) const;
     [[nodiscard]] xcb_window_t selectionOwner(xcb_atom_t selection) const;
 
+    // The 32 bits that a property of the root window holds; nothing when it is not set to such.
+    [[nodiscard]] std::optional<std::uint32_t> rootValue(xcb_atom_t property, xcb_atom_t type) const;
+
     // Every event of the connection, before Qt handles it.
     [[nodiscard]] std::unique_ptr<Subscription>
     subscribe(std::function<void(const xcb_generic_event_t &)> onEvent);
     // Called when that property of the root window changes.
     [[nodiscard]] std::unique_ptr<Subscription> watchRootProperty(xcb_atom_t property,
                                                                   std::function<void()> onChange);
+    // Called with the new owner, or none, when the selection is taken or given up. One at a time for each
+    // selection; nothing on a server without such events.
+    [[nodiscard]] std::unique_ptr<Subscription>
+    watchSelection(xcb_atom_t selection, std::function<void(xcb_window_t owner)> onChange);
 
     bool nativeEventFilter(const QByteArray &eventType, void *message, qintptr *result) override;
 
@@ -62,6 +70,8 @@ private:
     xcb_connection_t *const m_xcb;
     const int m_screenNumber;
     const xcb_window_t m_root;
+    // What the numbers of the selection events start at; nothing on a server without them.
+    const std::optional<std::uint8_t> m_firstFixesEvent;
     Observers<Subscription, const xcb_generic_event_t &> m_observers;
 };
 

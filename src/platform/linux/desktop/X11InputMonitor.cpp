@@ -2,7 +2,6 @@
 
 #include <QCursor>
 
-#include <xcb/xfixes.h>
 #include <xcb/xinput.h>
 
 #include <array>
@@ -24,15 +23,6 @@ std::uint8_t inputOpcode(xcb_connection_t *xcb) {
     const X11Reply<xcb_input_xi_query_version_reply_t> version(
         xcb_input_xi_query_version_reply(xcb, xcb_input_xi_query_version(xcb, 2, 2), nullptr));
     return extension->major_opcode;
-}
-
-std::uint8_t fixesFirstEvent(xcb_connection_t *xcb) {
-    const xcb_query_extension_reply_t *const extension = xcb_get_extension_data(xcb, &xcb_xfixes_id);
-    if (!extension || !extension->present)
-        return 0;
-    const X11Reply<xcb_xfixes_query_version_reply_t> version(
-        xcb_xfixes_query_version_reply(xcb, xcb_xfixes_query_version(xcb, 2, 0), nullptr));
-    return version ? extension->first_event : std::uint8_t{0};
 }
 
 X11Reply<xcb_query_pointer_reply_t> queryPointer(const X11Connection &connection, xcb_window_t window) {
@@ -66,7 +56,6 @@ X11InputMonitor::X11InputMonitor(std::shared_ptr<X11Connection> connection, Sche
     : m_connection(std::move(connection)),
       m_dragSelection(m_connection->atom(QByteArrayLiteral("XdndSelection"))),
       m_inputOpcode(inputOpcode(m_connection->xcb())),
-      m_fixesFirstEvent(fixesFirstEvent(m_connection->xcb())),
       m_throttle(scheduler, [this] { receiveMotion(); }),
       m_observers([this] { updateSelection(); }),
       m_motionObservers([this] { updateSelection(); }) {}
@@ -86,8 +75,7 @@ std::unique_ptr<InputMonitor::Observation> X11InputMonitor::observeMotion(std::f
 
 // A program keeps the selection long after its drag has ended: taking it since the press is what tells.
 bool X11InputMonitor::isForeignDragOffered() const {
-    const bool isWatched = m_fixesFirstEvent != 0 && (m_selected & buttonMask) != 0;
-    if (isWatched)
+    if (m_dragWatch)
         return m_isDragOffered;
     return isLeftButtonDown(*m_connection) &&
            isForeign(*m_connection, m_connection->selectionOwner(m_dragSelection));
@@ -108,7 +96,6 @@ void X11InputMonitor::select(std::uint32_t mask) {
     if (m_inputOpcode == 0 || mask == m_selected)
         return;
     const bool startsWatchingButtons = (mask & ~m_selected & buttonMask) != 0;
-    const bool stopsWatchingButtons = (m_selected & ~mask & buttonMask) != 0;
     m_selected = mask;
     // Qt selects for all devices together, which is a selection of its own.
     const struct {
@@ -116,14 +103,6 @@ void X11InputMonitor::select(std::uint32_t mask) {
         std::uint32_t mask;
     } request{{XCB_INPUT_DEVICE_ALL_MASTER, 1}, mask};
     xcb_input_xi_select_events(m_connection->xcb(), m_connection->root(), 1, &request.head);
-    if (m_fixesFirstEvent != 0 && (startsWatchingButtons || stopsWatchingButtons)) {
-        xcb_xfixes_select_selection_input(m_connection->xcb(), m_connection->root(), m_dragSelection,
-                                          startsWatchingButtons
-                                              ? XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER |
-                                                    XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_WINDOW_DESTROY |
-                                                    XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE
-                                              : 0);
-    }
     xcb_flush(m_connection->xcb());
     if (mask == 0) {
         m_events.reset();
@@ -133,10 +112,15 @@ void X11InputMonitor::select(std::uint32_t mask) {
     }
     if (startsWatchingButtons)
         startWatchingButtons();
+    else if ((mask & buttonMask) == 0)
+        m_dragWatch.reset();
 }
 
 void X11InputMonitor::startWatchingButtons() {
     readButtonOrder();
+    m_dragWatch = m_connection->watchSelection(m_dragSelection, [this](xcb_window_t owner) {
+        m_isDragOffered = m_isLeftDown && isForeign(*m_connection, owner);
+    });
     m_isLeftDown = isLeftButtonDown(*m_connection);
     m_isDragOffered = m_isLeftDown && isForeign(*m_connection, m_connection->selectionOwner(m_dragSelection));
     updateSelection();
@@ -149,8 +133,6 @@ void X11InputMonitor::receive(const xcb_generic_event_t &event) {
             readButtonOrder();
         return;
     }
-    if (m_fixesFirstEvent != 0 && type == m_fixesFirstEvent + XCB_XFIXES_SELECTION_NOTIFY)
-        return receiveDragOwner(event);
     if (type != XCB_GE_GENERIC)
         return;
     const auto &raw = reinterpret_cast<const xcb_input_raw_button_press_event_t &>(event);
@@ -185,14 +167,6 @@ void X11InputMonitor::receiveMotion() {
     m_motionObservers.notify();
     if (m_isLeftDown && !m_observers.isEmpty())
         report(Kind::leftDragged);
-}
-
-void X11InputMonitor::receiveDragOwner(const xcb_generic_event_t &event) {
-    const auto &change = reinterpret_cast<const xcb_xfixes_selection_notify_event_t &>(event);
-    if (change.selection != m_dragSelection || change.window != m_connection->root())
-        return;
-    m_isDragOffered = m_isLeftDown && change.subtype == XCB_XFIXES_SELECTION_EVENT_SET_SELECTION_OWNER &&
-                      isForeign(*m_connection, change.owner);
 }
 
 void X11InputMonitor::readButtonOrder() {

@@ -29,15 +29,13 @@ private:
     void receive(const xcb_generic_event_t &event);
     void receiveButton(std::uint32_t physicalButton, bool isDown);
     void receiveMotion();
-    void receiveDragOwner(const xcb_generic_event_t &event);
     void readButtonOrder();
     void report(Kind kind);
 
     const std::shared_ptr<X11Connection> m_connection;
     const xcb_atom_t m_dragSelection;
-    // The numbers of the extensions on this server; 0 where it lacks them.
-    std::uint8_t m_inputOpcode = 0;
-    std::uint8_t m_fixesFirstEvent = 0;
+    // The number of the input extension; 0 on a server without it.
+    const std::uint8_t m_inputOpcode;
     std::uint32_t m_selected = 0;
     bool m_isLeftDown = false;
     bool m_isDragOffered = false;
@@ -45,6 +43,7 @@ private:
     std::vector<std::uint8_t> m_buttonOrder;
     MotionThrottle m_throttle;
     std::unique_ptr<X11Connection::Subscription> m_events;
+    std::unique_ptr<X11Connection::Subscription> m_dragWatch;
     Observers<Observation, const Event &> m_observers;
     Observers<Observation> m_motionObservers;
 };
