@@ -2,6 +2,8 @@
 
 #include "support/EventLoop.h"
 
+#include <QGuiApplication>
+
 #include <xcb/xtest.h>
 
 #include <algorithm>
@@ -18,10 +20,23 @@ std::unique_ptr<Reply, void (*)(void *)> owned(Reply *reply) {
     return {reply, std::free};
 }
 
+// What this program asked the server for happens before what the other one asks for next.
+void finishOwnRequests() {
+    xcb_connection_t *const xcb = qGuiApp->nativeInterface<QNativeInterface::QX11Application>()->connection();
+    owned(xcb_get_input_focus_reply(xcb, xcb_get_input_focus(xcb), nullptr));
+}
+
+// One connection for all tests: the server would give the numbers of closed windows to the next one, and the
+// window manager take new windows for old ones.
+xcb_connection_t *connection() {
+    static xcb_connection_t *const xcb = xcb_connect(nullptr, nullptr);
+    return xcb;
+}
+
 } // namespace
 
 ForeignProgram::ForeignProgram()
-    : m_xcb(xcb_connect(nullptr, nullptr)),
+    : m_xcb(connection()),
       m_root(xcb_setup_roots_iterator(xcb_get_setup(m_xcb)).data->root),
       m_messenger(createWindow({0, 0, 1, 1}, true)) {
     // Away from everything, wherever the last test left it.
@@ -29,7 +44,14 @@ ForeignProgram::ForeignProgram()
 }
 
 ForeignProgram::~ForeignProgram() {
-    xcb_disconnect(m_xcb);
+    for (const xcb_window_t window : m_windows)
+        xcb_destroy_window(m_xcb, window);
+    xcb_flush(m_xcb);
+    eventually([this] {
+        const auto stacking = property(m_root, "_NET_CLIENT_LIST_STACKING");
+        return std::ranges::find_first_of(stacking, m_windows) == stacking.end();
+    });
+    static_cast<void>(pressCount());
 }
 
 xcb_window_t ForeignProgram::openWindow(const QRect &rect) {
@@ -58,6 +80,7 @@ xcb_window_t ForeignProgram::openMenu(const QRect &rect) {
 }
 
 void ForeignProgram::activate(xcb_window_t window) {
+    finishOwnRequests();
     askWindowManager(window, "_NET_ACTIVE_WINDOW", 2, XCB_CURRENT_TIME);
     const bool isDone = eventually([&] {
         const auto stacking = property(m_root, "_NET_CLIENT_LIST_STACKING");
@@ -103,9 +126,12 @@ void ForeignProgram::typeKey(char key) {
 }
 
 void ForeignProgram::setButtonOrder(const std::vector<std::uint8_t> &order) {
-    const auto reply = owned(xcb_set_pointer_mapping_reply(
-        m_xcb, xcb_set_pointer_mapping(m_xcb, static_cast<std::uint8_t>(order.size()), order.data()),
-        nullptr));
+    const auto current = owned(xcb_get_pointer_mapping_reply(m_xcb, xcb_get_pointer_mapping(m_xcb), nullptr));
+    std::uint8_t *const all = xcb_get_pointer_mapping_map(current.get());
+    std::ranges::copy(order, all);
+    const auto count = static_cast<std::uint8_t>(xcb_get_pointer_mapping_map_length(current.get()));
+    const auto reply =
+        owned(xcb_set_pointer_mapping_reply(m_xcb, xcb_set_pointer_mapping(m_xcb, count, all), nullptr));
     if (!reply || reply->status != XCB_MAPPING_STATUS_SUCCESS)
         qFatal("the buttons of the mouse keep their order");
 }
@@ -151,12 +177,14 @@ bool ForeignProgram::isAbove(xcb_window_t upper, xcb_window_t lower) {
 }
 
 xcb_window_t ForeignProgram::createWindow(const QRect &rect, bool isMenu) {
+    finishOwnRequests();
     const xcb_window_t window = xcb_generate_id(m_xcb);
     const std::array<std::uint32_t, 2> values{isMenu ? 1U : 0U, XCB_EVENT_MASK_BUTTON_PRESS};
     xcb_create_window(m_xcb, XCB_COPY_FROM_PARENT, window, m_root, static_cast<std::int16_t>(rect.x()),
                       static_cast<std::int16_t>(rect.y()), static_cast<std::uint16_t>(rect.width()),
                       static_cast<std::uint16_t>(rect.height()), 0, XCB_WINDOW_CLASS_INPUT_OUTPUT,
                       XCB_COPY_FROM_PARENT, XCB_CW_OVERRIDE_REDIRECT | XCB_CW_EVENT_MASK, values.data());
+    m_windows.push_back(window);
     return window;
 }
 
@@ -201,6 +229,7 @@ void ForeignProgram::askWindowManager(xcb_window_t window, const char *message, 
 }
 
 void ForeignProgram::fake(std::uint8_t type, std::uint8_t detail, QPoint position) {
+    finishOwnRequests();
     xcb_test_fake_input(m_xcb, type, detail, XCB_CURRENT_TIME, m_root,
                         static_cast<std::int16_t>(position.x()), static_cast<std::int16_t>(position.y()), 0);
     // What follows sees it done.
@@ -208,6 +237,7 @@ void ForeignProgram::fake(std::uint8_t type, std::uint8_t detail, QPoint positio
 }
 
 void ForeignProgram::setSelection(const char *name, xcb_window_t owner) {
+    finishOwnRequests();
     xcb_set_selection_owner(m_xcb, owner, atom(name), XCB_CURRENT_TIME);
     xcb_flush(m_xcb);
 }

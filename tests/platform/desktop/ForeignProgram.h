@@ -32,7 +32,7 @@ public:
     void release(int button = 1);
     void click(QPoint position, int button = 1);
     void typeKey(char key);
-    // One number for each button of the mouse: what it means.
+    // What the first buttons of the mouse mean.
     void setButtonOrder(const std::vector<std::uint8_t> &order);
     // Presses that arrived in its own windows so far.
     [[nodiscard]] int pressCount();
@@ -57,6 +57,7 @@ private:
 
     xcb_connection_t *const m_xcb;
     const xcb_window_t m_root;
+    std::vector<xcb_window_t> m_windows;
     const xcb_window_t m_messenger;
     int m_pressCount = 0;
 };
