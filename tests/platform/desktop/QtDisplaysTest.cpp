@@ -1,10 +1,10 @@
 #include "platform/linux/desktop/QtDisplays.h"
 
+#include "Monitors.h"
 #include "support/EventLoop.h"
 #include "support/ManualScheduler.h"
 
 #include <QGuiApplication>
-#include <QProcess>
 #include <QScreen>
 
 #include <gtest/gtest.h>
@@ -12,13 +12,6 @@
 using namespace tembra;
 
 namespace {
-
-void runXrandr(const QStringList &arguments) {
-    QProcess process;
-    process.start(QStringLiteral("xrandr"), arguments);
-    if (!process.waitForFinished() || process.exitCode() != 0)
-        qFatal("xrandr: %s", process.readAllStandardError().constData());
-}
 
 class QtDisplaysTest : public testing::Test {
 protected:
@@ -57,18 +50,14 @@ TEST_F(QtDisplaysTest, anotherResolutionIsToldOnceAndKeepsTheIdentifier) {
 TEST_F(QtDisplaysTest, aScreenThatComesAndGoesIsTold) {
     int changes = 0;
     const auto observation = m_displays.observe([&] { ++changes; });
-    runXrandr({QStringLiteral("--setmonitor"), QStringLiteral("left"), QStringLiteral("640/169x800/211+0+0"),
-               QStringLiteral("screen")});
-    runXrandr({QStringLiteral("--setmonitor"), QStringLiteral("right"),
-               QStringLiteral("640/169x800/211+640+0"), QStringLiteral("none")});
+    splitScreen();
     ASSERT_TRUE(settles([&] { return changes > 0 && m_displays.connected().size() == 2; }));
     const auto two = m_displays.connected();
     EXPECT_EQ(two[0].name, QGuiApplication::primaryScreen()->name());
     EXPECT_NE(two[0].identifier, two[1].identifier);
     EXPECT_NE(two[0].frame, two[1].frame);
     changes = 0;
-    runXrandr({QStringLiteral("--delmonitor"), QStringLiteral("right")});
-    runXrandr({QStringLiteral("--delmonitor"), QStringLiteral("left")});
+    joinScreen();
     EXPECT_TRUE(settles([&] { return changes > 0 && m_displays.connected().size() == 1; }));
     EXPECT_EQ(m_displays.connected().front().frame, (ScreenRect{0, 0, 1280, 800}));
 }

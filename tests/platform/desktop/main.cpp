@@ -1,7 +1,9 @@
 #include "support/ChildProgram.h"
 
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QTemporaryDir>
+#include <QThread>
 
 #include <gtest/gtest.h>
 #include <xcb/xcb.h>
@@ -14,30 +16,45 @@ namespace {
 
 using tembra::ChildProgram;
 
-// Blocks until the window manager has announced itself on the root window.
+struct Free {
+    void operator()(void *reply) const { std::free(reply); }
+};
+
+xcb_atom_t atom(xcb_connection_t *xcb, const QByteArray &name) {
+    const auto cookie =
+        xcb_intern_atom(xcb, false, static_cast<std::uint16_t>(name.size()), name.constData());
+    const std::unique_ptr<xcb_intern_atom_reply_t, Free> reply(xcb_intern_atom_reply(xcb, cookie, nullptr));
+    return reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
+}
+
+// Asks the window manager for two virtual desktops until it has made them: it has announced itself before it
+// looks at requests, and leaves some lying that reach it in between.
 bool waitForWindowManager() {
     const std::unique_ptr<xcb_connection_t, void (*)(xcb_connection_t *)> xcb(xcb_connect(nullptr, nullptr),
                                                                               xcb_disconnect);
     if (xcb_connection_has_error(xcb.get()))
         return false;
-    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(xcb.get())).data->root;
-    const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
-    xcb_change_window_attributes(xcb.get(), root, XCB_CW_EVENT_MASK, &mask);
-    const QByteArray name = QByteArrayLiteral("_NET_CLIENT_LIST_STACKING");
-    const auto cookie =
-        xcb_intern_atom(xcb.get(), false, static_cast<std::uint16_t>(name.size()), name.constData());
-    const std::unique_ptr<xcb_intern_atom_reply_t, void (*)(void *)> atom(
-        xcb_intern_atom_reply(xcb.get(), cookie, nullptr), std::free);
-    while (atom) {
-        const auto property = xcb_get_property(xcb.get(), false, root, atom->atom, XCB_ATOM_ANY, 0, 0);
-        const std::unique_ptr<xcb_get_property_reply_t, void (*)(void *)> reply(
-            xcb_get_property_reply(xcb.get(), property, nullptr), std::free);
-        if (reply && reply->type != XCB_ATOM_NONE)
-            return true;
-        const std::unique_ptr<xcb_generic_event_t, void (*)(void *)> event(xcb_wait_for_event(xcb.get()),
-                                                                           std::free);
-        if (!event)
+    xcb_client_message_event_t request{};
+    request.response_type = XCB_CLIENT_MESSAGE;
+    request.format = 32;
+    request.window = xcb_setup_roots_iterator(xcb_get_setup(xcb.get())).data->root;
+    request.type = atom(xcb.get(), QByteArrayLiteral("_NET_NUMBER_OF_DESKTOPS"));
+    request.data.data32[0] = 2;
+    const QDeadlineTimer deadline(20'000);
+    while (!deadline.hasExpired()) {
+        xcb_send_event(xcb.get(), false, request.window,
+                       XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
+                       reinterpret_cast<const char *>(&request));
+        const auto cookie =
+            xcb_get_property(xcb.get(), false, request.window, request.type, XCB_ATOM_CARDINAL, 0, 1);
+        const std::unique_ptr<xcb_get_property_reply_t, Free> reply(
+            xcb_get_property_reply(xcb.get(), cookie, nullptr));
+        if (!reply)
             return false;
+        if (reply->format == 32 &&
+            *static_cast<const std::uint32_t *>(xcb_get_property_value(reply.get())) == 2)
+            return true;
+        QThread::yieldCurrentThread();
     }
     return false;
 }
@@ -53,6 +70,8 @@ public:
         const QByteArray address = m_bus.readLine();
         if (display.isEmpty() || address.isEmpty())
             return;
+        qputenv("LC_ALL", "C.UTF-8");
+        qputenv("TZ", "UTC");
         qputenv("DISPLAY", ":" + display);
         qputenv("QT_QPA_PLATFORM", "xcb");
         qputenv("DBUS_SESSION_BUS_ADDRESS", address);
