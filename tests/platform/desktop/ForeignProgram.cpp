@@ -115,7 +115,7 @@ void ForeignProgram::typeKey(char key) {
     const auto reply =
         owned(xcb_get_keyboard_mapping_reply(m_xcb, xcb_get_keyboard_mapping(m_xcb, first, count), nullptr));
     const xcb_keysym_t *const symbols = xcb_get_keyboard_mapping_keysyms(reply.get());
-    for (int code = 0; code < count; ++code) {
+    for (std::size_t code = 0; code < count; ++code) {
         if (symbols[code * reply->keysyms_per_keycode] != static_cast<xcb_keysym_t>(key))
             continue;
         fake(XCB_KEY_PRESS, static_cast<std::uint8_t>(first + code));

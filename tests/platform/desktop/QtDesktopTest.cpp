@@ -92,6 +92,21 @@ TEST_F(QtDesktopTest, theProgramsOwnClicksAndDragsAreReportedWhileObserved) {
     EXPECT_EQ(m_scheduler.pendingCount(), 0);
 }
 
+TEST_F(QtDesktopTest, handlesMayOutliveTheServices) {
+    int calls = 0;
+    auto clicks = m_services.inputMonitor->observe([&](const InputMonitor::Event &) { ++calls; });
+    auto screens = m_services.displays->observe([&] { ++calls; });
+    auto session = m_services.workspace->observe([&](Workspace::Event) { ++calls; });
+    m_services = {};
+    QWidget window;
+    window.show();
+    send(window.windowHandle(), QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
+    clicks.reset();
+    screens.reset();
+    session.reset();
+    EXPECT_EQ(calls, 0);
+}
+
 TEST_F(QtDesktopTest, withoutACompositorToAskWindowsMayBeTranslucent) {
     EXPECT_TRUE(m_services.workspace->isComposited());
 }

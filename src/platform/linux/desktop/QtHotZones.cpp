@@ -27,10 +27,10 @@ protected:
     }
 
 private:
-    // A copy: the callback may drop the zone.
-    static void call(std::function<void()> callback) {
-        if (callback)
-            callback();
+    // From a copy: the callback may drop the zone.
+    static void call(const std::function<void()> &callback) {
+        if (const std::function<void()> copy = callback)
+            copy();
     }
 
     HotZones::Callbacks m_callbacks;
