@@ -6,6 +6,8 @@ int main(int argc, char **argv) {
     testing::InitGoogleTest(&argc, argv);
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("LC_ALL", "C.UTF-8");
+    qputenv("TZ", "UTC");
     const QApplication application(argc, argv);
     return RUN_ALL_TESTS();
 }

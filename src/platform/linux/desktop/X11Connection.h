@@ -9,6 +9,7 @@
 #include <cstdlib>
 #include <functional>
 #include <memory>
+#include <optional>
 
 QT_BEGIN_NAMESPACE
 class QByteArray;
@@ -42,8 +43,13 @@ public:
     [[nodiscard]] xcb_connection_t *xcb() const { return m_xcb; }
     [[nodiscard]] xcb_window_t root() const { return m_root; }
     [[nodiscard]] int screenNumber() const { return m_screenNumber; }
+    // The window was made through this connection: by Qt or by us.
+    [[nodiscard]] bool owns(xcb_window_t window) const;
     [[nodiscard]] xcb_atom_t atom(const QByteArray &name) const;
     [[nodiscard]] xcb_window_t selectionOwner(xcb_atom_t selection) const;
+
+    // The 32 bits that a property of the root window holds; nothing when it is not set to such.
+    [[nodiscard]] std::optional<std::uint32_t> rootValue(xcb_atom_t property, xcb_atom_t type) const;
 
     // Every event of the connection, before Qt handles it.
     [[nodiscard]] std::unique_ptr<Subscription>
@@ -51,8 +57,10 @@ public:
     // Called when that property of the root window changes.
     [[nodiscard]] std::unique_ptr<Subscription> watchRootProperty(xcb_atom_t property,
                                                                   std::function<void()> onChange);
-    // The request may fail because another program's window went away: that is not worth a word.
-    void ignoreError(xcb_void_cookie_t checkedRequest) const;
+    // Called with the new owner, or none, when the selection is taken or given up. One at a time for each
+    // selection; nothing on a server without such events.
+    [[nodiscard]] std::unique_ptr<Subscription>
+    watchSelection(xcb_atom_t selection, std::function<void(xcb_window_t owner)> onChange);
 
     bool nativeEventFilter(const QByteArray &eventType, void *message, qintptr *result) override;
 
@@ -62,6 +70,8 @@ private:
     xcb_connection_t *const m_xcb;
     const int m_screenNumber;
     const xcb_window_t m_root;
+    // What the numbers of the selection events start at; nothing on a server without them.
+    const std::optional<std::uint8_t> m_firstFixesEvent;
     Observers<Subscription, const xcb_generic_event_t &> m_observers;
 };
 

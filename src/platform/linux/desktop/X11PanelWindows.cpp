@@ -67,13 +67,7 @@ xcb_window_t X11PanelWindows::focusedWindow() const {
 }
 
 xcb_window_t X11PanelWindows::activeWindow() const {
-    xcb_connection_t *const xcb = m_connection->xcb();
-    const X11Reply<xcb_get_property_reply_t> reply(xcb_get_property_reply(
-        xcb, xcb_get_property(xcb, false, m_connection->root(), m_activeWindowAtom, XCB_ATOM_WINDOW, 0, 1),
-        nullptr));
-    if (!reply || reply->format != 32 || xcb_get_property_value_length(reply.get()) < 4)
-        return XCB_WINDOW_NONE;
-    return *static_cast<const xcb_window_t *>(xcb_get_property_value(reply.get()));
+    return m_connection->rootValue(m_activeWindowAtom, XCB_ATOM_WINDOW).value_or(XCB_WINDOW_NONE);
 }
 
 bool X11PanelWindows::setFocus(xcb_window_t window) {

@@ -1,0 +1,32 @@
+#include "platform/linux/desktop/DesktopServices.h"
+
+#include "platform/linux/desktop/LinuxWorkspace.h"
+#include "platform/linux/desktop/QtDisplays.h"
+#include "platform/linux/desktop/QtHotZones.h"
+#include "platform/linux/desktop/QtInputMonitor.h"
+#include "platform/linux/desktop/QtPanelWindows.h"
+#include "platform/linux/desktop/X11HotZones.h"
+#include "platform/linux/desktop/X11InputMonitor.h"
+#include "platform/linux/desktop/X11PanelWindows.h"
+
+namespace tembra {
+
+DesktopServices makeDesktopServices(Scheduler &scheduler, std::optional<CameraHousing> camera) {
+    const std::shared_ptr<X11Connection> connection = X11Connection::open();
+    DesktopServices services;
+    services.displays = std::make_unique<QtDisplays>(scheduler, std::move(camera));
+    services.workspace = std::make_unique<LinuxWorkspace>(connection);
+    if (!connection) {
+        services.inputMonitor = std::make_unique<QtInputMonitor>(scheduler);
+        services.panelWindows = std::make_unique<QtPanelWindows>();
+        services.hotZones = std::make_unique<QtHotZones>();
+        return services;
+    }
+    const auto stacking = std::make_shared<X11Stacking>(connection);
+    services.inputMonitor = std::make_unique<X11InputMonitor>(connection, scheduler);
+    services.panelWindows = std::make_unique<X11PanelWindows>(connection, stacking);
+    services.hotZones = std::make_unique<X11HotZones>(connection, stacking);
+    return services;
+}
+
+} // namespace tembra

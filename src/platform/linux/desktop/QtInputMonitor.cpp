@@ -1,0 +1,72 @@
+#include "platform/linux/desktop/QtInputMonitor.h"
+
+#include <QCursor>
+#include <QGuiApplication>
+#include <QMouseEvent>
+
+namespace tembra {
+
+QtInputMonitor::QtInputMonitor(Scheduler &scheduler)
+    : m_throttle(scheduler, [this] { m_motionObservers.notify(); }),
+      m_observers([this] { updateFilter(); }),
+      m_motionObservers([this] { updateFilter(); }) {}
+
+std::unique_ptr<InputMonitor::Observation>
+QtInputMonitor::observe(std::function<void(const Event &)> onEvent) {
+    return m_observers.add(std::move(onEvent));
+}
+
+std::unique_ptr<InputMonitor::Observation> QtInputMonitor::observeMotion(std::function<void()> onMove) {
+    return m_motionObservers.add(std::move(onMove));
+}
+
+bool QtInputMonitor::isForeignDragOffered() const {
+    return false;
+}
+
+ScreenPoint QtInputMonitor::pointer() const {
+    const QPoint position = QCursor::pos();
+    return {static_cast<double>(position.x()), static_cast<double>(position.y())};
+}
+
+bool QtInputMonitor::eventFilter(QObject *receiver, QEvent *event) {
+    // Qt gives each event to the window first and then to the widgets in it.
+    if (receiver->isWindowType()) {
+        const QEvent::Type type = event->type();
+        if (type == QEvent::MouseButtonPress || type == QEvent::MouseButtonRelease ||
+            type == QEvent::MouseMove)
+            receive(static_cast<const QMouseEvent &>(*event));
+    }
+    return false;
+}
+
+void QtInputMonitor::updateFilter() {
+    qGuiApp->removeEventFilter(this);
+    if (m_observers.isEmpty() && m_motionObservers.isEmpty())
+        m_throttle.cancel();
+    else
+        qGuiApp->installEventFilter(this);
+}
+
+void QtInputMonitor::receive(const QMouseEvent &event) {
+    if (event.type() == QEvent::MouseMove) {
+        if (event.buttons().testFlag(Qt::LeftButton))
+            report(Kind::leftDragged, event);
+        if (!m_motionObservers.isEmpty())
+            m_throttle.move();
+        return;
+    }
+    const bool isDown = event.type() == QEvent::MouseButtonPress;
+    if (event.button() == Qt::LeftButton)
+        report(isDown ? Kind::leftDown : Kind::leftUp, event);
+    else if (event.button() == Qt::RightButton && isDown)
+        report(Kind::rightDown, event);
+}
+
+void QtInputMonitor::report(Kind kind, const QMouseEvent &event) {
+    const QPointF position = event.globalPosition();
+    const bool isInside = QGuiApplication::topLevelAt(position.toPoint()) != nullptr;
+    m_observers.notify({kind, {position.x(), position.y()}, isInside});
+}
+
+} // namespace tembra

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "platform/InputMonitor.h"
+#include "platform/linux/desktop/MotionThrottle.h"
+#include "platform/linux/desktop/Observers.h"
+
+#include <QObject>
+
+QT_BEGIN_NAMESPACE
+class QMouseEvent;
+QT_END_NAMESPACE
+
+namespace tembra {
+
+// Where the windowing system tells nothing about other programs' input: the events of this program's own
+// windows.
+class QtInputMonitor final : public QObject, public InputMonitor {
+public:
+    explicit QtInputMonitor(Scheduler &scheduler);
+
+    [[nodiscard]] std::unique_ptr<Observation> observe(std::function<void(const Event &)> onEvent) override;
+    [[nodiscard]] std::unique_ptr<Observation> observeMotion(std::function<void()> onMove) override;
+    [[nodiscard]] bool isForeignDragOffered() const override;
+    [[nodiscard]] ScreenPoint pointer() const override;
+
+    bool eventFilter(QObject *receiver, QEvent *event) override;
+
+private:
+    void updateFilter();
+    void receive(const QMouseEvent &event);
+    void report(Kind kind, const QMouseEvent &event);
+
+    MotionThrottle m_throttle;
+    Observers<Observation, const Event &> m_observers;
+    Observers<Observation> m_motionObservers;
+};
+
+} // namespace tembra
