@@ -1,6 +1,9 @@
 #pragma once
 
+#include "base/ThreadQueue.h"
 #include "platform/Platform.h"
+#include "screenshots/ScreenshotCaptureDetector.h"
+#include "screenshots/ScreenshotFolderTraversal.h"
 
 #include <memory>
 
@@ -9,6 +12,9 @@ namespace tembra {
 class AppFlowCoordinator;
 class AppSettings;
 class CommandService;
+class FileWatcherService;
+class ScreenshotLocationMonitor;
+class ShelfController;
 
 // The composition root: makes the settings, then the flow, and answers the program's life-cycle questions. Main thread;
 // lives in main().
@@ -31,8 +37,19 @@ public:
     [[nodiscard]] Result<QString> perform(const QString &command, const QStringList &arguments);
 
 private:
+    [[nodiscard]] std::unique_ptr<AppSettings> makeSettings();
+    [[nodiscard]] std::unique_ptr<ShelfController> makeShelfController();
+    [[nodiscard]] std::unique_ptr<FileWatcherService> makeFileWatcher();
+    [[nodiscard]] std::unique_ptr<ScreenshotLocationMonitor> makeLocationMonitor();
+
     Platform &m_platform;
     Scheduler &m_scheduler;
+    const ScreenshotCaptureDetector m_captureDetector;
+    const ScreenshotFolderTraversal m_folderTraversal;
+    // The main thread's own; each queue has another.
+    std::unique_ptr<ScreenCapturePreferences> m_capturePreferences;
+    ThreadQueue m_folderScanQueue;
+    ThreadQueue m_locationQueue;
     std::unique_ptr<AppSettings> m_settings;
     std::unique_ptr<AppFlowCoordinator> m_coordinator;
     std::unique_ptr<CommandService> m_commands;

@@ -6,6 +6,7 @@ namespace tembra {
 
 class AppSettings;
 class ShelfController;
+struct ScreenshotDestination;
 
 // Decides what the user meets first, and owns the shelf. Main thread; owned by AppFlowCoordinator.
 //
@@ -26,7 +27,7 @@ public:
     [[nodiscard]] ShelfController &shelfController() { return *m_shelf; }
 
 private:
-    void adoptDetectedFolder();
+    void adopt(const ScreenshotDestination &destination);
 
     AppSettings &m_settings;
     std::unique_ptr<ShelfController> m_shelf;

@@ -6,11 +6,13 @@
 #include "platform/Displays.h"
 #include "platform/FileFacts.h"
 #include "platform/FileReferences.h"
+#include "platform/FolderFiles.h"
 #include "platform/FolderEvents.h"
 #include "platform/HotZones.h"
 #include "platform/InputMonitor.h"
 #include "platform/PanelWindows.h"
 #include "platform/ScreenCapturePreferences.h"
+#include "platform/SingleInstance.h"
 #include "platform/StandardFolders.h"
 #include "platform/Thumbnails.h"
 #include "platform/UserDefaults.h"
@@ -29,6 +31,7 @@ struct Platform {
     // A new reader of the screenshot tool's preferences: each thread uses its own.
     std::function<std::unique_ptr<ScreenCapturePreferences>()> screenCapturePreferences;
     std::unique_ptr<FileFactsReader> fileFacts;
+    std::unique_ptr<FolderFiles> folderFiles;
     std::unique_ptr<FileReferences> fileReferences;
     std::unique_ptr<Bookmarks> bookmarks;
     std::unique_ptr<FolderEvents> folderEvents;
@@ -42,9 +45,16 @@ struct Platform {
     std::unique_ptr<Thumbnails> thumbnails;
 };
 
-// Files, settings and the screenshot tool: enough for commands without windows.
+// Files, settings and the screenshot tool: enough for commands without windows. The scheduler must outlive it.
 [[nodiscard]] Platform makeHeadlessPlatform(Scheduler &scheduler);
 // Everything. Needs the application object.
 [[nodiscard]] Platform makePlatform(Scheduler &scheduler);
+
+// Needs an application object, not the rest of the platform.
+[[nodiscard]] std::unique_ptr<SingleInstance> makeSingleInstance();
+// Before the application object is made: what its windows need of the environment.
+void preparePlatformEnvironment();
+// The translation catalogue that rewords texts which name things of another platform.
+[[nodiscard]] QString platformWordingCatalogue();
 
 } // namespace tembra

@@ -75,8 +75,9 @@ Result<QString> DBusSingleInstance::send(const QString &command, const QStringLi
     const QDBusMessage reply = bus.call(call);
     if (reply.type() == QDBusMessage::ReplyMessage)
         return reply.arguments().value(0).toString();
-    const auto kind = QDBusError(reply).type();
-    if (kind == QDBusError::ServiceUnknown || kind == QDBusError::NameHasNoOwner)
+    const QString &error = reply.errorName();
+    if (error == u"org.freedesktop.DBus.Error.ServiceUnknown" ||
+        error == u"org.freedesktop.DBus.Error.NameHasNoOwner")
         return instanceFailure(notRunning, translated("Tembra is not running."));
     return instanceFailure(refused, reply.errorMessage());
 }

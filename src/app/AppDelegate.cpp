@@ -1,0 +1,131 @@
+#include "app/AppDelegate.h"
+
+#include "app/AppFlowCoordinator.h"
+#include "app/CommandService.h"
+#include "screenshots/FileWatcherService.h"
+#include "screenshots/FolderReader.h"
+#include "screenshots/ScreenshotDestination.h"
+#include "screenshots/ScreenshotLocationMonitor.h"
+#include "screenshots/ScreenshotSaveLocation.h"
+#include "session/ShelfSession.h"
+#include "settings/AppSettings.h"
+#include "shelf/ShelfController.h"
+
+#include <QCoreApplication>
+
+namespace tembra {
+
+AppDelegate::AppDelegate(Platform &platform, Scheduler &scheduler)
+    : m_platform(platform), m_scheduler(scheduler),
+      m_captureDetector(*platform.captureMarkers, *platform.folderFiles),
+      m_folderTraversal(platform.folders, *platform.fileFacts),
+      m_capturePreferences(platform.screenCapturePreferences()),
+      m_folderScanQueue(QStringLiteral("Tembra.FolderScan")),
+      m_locationQueue(QStringLiteral("app.tembra.screenshot-location")) {}
+
+AppDelegate::~AppDelegate() = default;
+
+void AppDelegate::applicationDidFinishLaunching() {
+    m_settings = makeSettings();
+    m_coordinator =
+        std::make_unique<AppFlowCoordinator>(*m_settings, *m_platform.workspace, makeShelfController());
+    m_commands = std::make_unique<CommandService>(
+        m_coordinator->shelfController(), [this] { applicationShouldHandleReopen(); }, [this] { terminate(); });
+    m_coordinator->start();
+}
+
+std::unique_ptr<AppSettings> AppDelegate::makeSettings() {
+    Bookmarks &bookmarks = *m_platform.bookmarks;
+    const FileFactsReader &facts = *m_platform.fileFacts;
+    AppSettings::Functions functions{
+        .updateSystemFolder =
+            [this](const QString &folder) {
+                return ScreenshotSaveLocation::setFolder(folder, *m_capturePreferences);
+            },
+        .thumbnailPreference = ScreenshotThumbnailPreference::system(*m_capturePreferences),
+        .createBookmark = [&bookmarks](const QString &path) { return bookmarks.create(path); },
+        .resolvePinnedBookmark = [&bookmarks, &facts](const QByteArray &bookmark)
+            -> std::optional<PinnedScreenshot::Resolved> {
+            const auto resolved = bookmarks.resolve(bookmark);
+            if (!resolved)
+                return std::nullopt;
+            const auto known = facts.facts(resolved->path);
+            return PinnedScreenshot::Resolved{resolved->path, known ? known->resource : std::nullopt};
+        }};
+    return std::make_unique<AppSettings>(*m_platform.defaults, FolderPreferences(),
+                                         ScreenshotFolderAccess(bookmarks, facts, m_platform.folders),
+                                         std::move(functions));
+}
+
+std::unique_ptr<ShelfController> AppDelegate::makeShelfController() {
+    auto session = std::make_unique<ShelfSession>(*m_settings, *m_platform.defaults, makeFileWatcher());
+    const ShelfServices services{.scheduler = m_scheduler,
+                                 .uptime = systemUptime,
+                                 .now = systemNow,
+                                 .displays = *m_platform.displays,
+                                 .workspace = *m_platform.workspace,
+                                 .inputMonitor = *m_platform.inputMonitor,
+                                 .panelWindows = *m_platform.panelWindows,
+                                 .hotZones = *m_platform.hotZones,
+                                 .thumbnails = *m_platform.thumbnails,
+                                 .files = *m_platform.fileFacts};
+    return std::make_unique<ShelfController>(*m_settings, std::move(session), makeLocationMonitor(), services);
+}
+
+std::unique_ptr<FileWatcherService> AppDelegate::makeFileWatcher() {
+    // Made by the first scan, on the queue, which is the only one to use it.
+    auto preferences = std::make_shared<std::unique_ptr<ScreenCapturePreferences>>();
+    auto customPrefix = [preferences, make = m_platform.screenCapturePreferences] {
+        if (!*preferences)
+            *preferences = make();
+        return (*preferences)->name().value_or(QString());
+    };
+    auto reader = std::make_shared<FolderReader>(*m_platform.folderFiles, m_captureDetector, customPrefix);
+    FileWatcherService::Services services{
+        .events = *m_platform.folderEvents,
+        .scheduler = m_scheduler,
+        .uptime = systemUptime,
+        .now = systemNow,
+        .queue = m_folderScanQueue,
+        .detector = m_captureDetector,
+        .folderTraversal = [this](const QString &folder) { return m_folderTraversal.includesSubfolders(folder); }};
+    return std::make_unique<FileWatcherService>(std::move(services), std::move(reader));
+}
+
+std::unique_ptr<ScreenshotLocationMonitor> AppDelegate::makeLocationMonitor() {
+    auto read = [make = m_platform.screenCapturePreferences, folders = m_platform.folders] {
+        const auto preferences = make();
+        return ScreenshotDestination::read(*preferences, folders);
+    };
+    return std::make_unique<ScreenshotLocationMonitor>(std::move(read), m_locationQueue, m_scheduler,
+                                                       *m_platform.workspace);
+}
+
+bool AppDelegate::applicationShouldHandleReopen() {
+    m_coordinator->reopen();
+    return false;
+}
+
+bool AppDelegate::applicationShouldTerminate() const {
+    return true;
+}
+
+void AppDelegate::applicationWillTerminate() {
+    if (m_coordinator)
+        m_coordinator->stop();
+}
+
+void AppDelegate::terminate() {
+    // After the answer to whoever asked for it is on its way.
+    if (applicationShouldTerminate())
+        m_scheduler.post([] { QCoreApplication::quit(); });
+}
+
+Result<QString> AppDelegate::perform(const QString &command, const QStringList &arguments) {
+    if (m_commands)
+        return m_commands->perform(command, arguments);
+    return failure({QStringLiteral("Tembra.AppDelegate"), 1,
+                    QCoreApplication::translate("AppDelegate", "Tembra is still starting."), {}});
+}
+
+} // namespace tembra

@@ -1,0 +1,60 @@
+#include "platform/Platform.h"
+
+#include "platform/linux/DBusSingleInstance.h"
+#include "platform/linux/FreedesktopThumbnails.h"
+#include "platform/linux/InotifyFolderEvents.h"
+#include "platform/linux/JsonUserDefaults.h"
+#include "platform/linux/LinuxBookmarks.h"
+#include "platform/linux/LinuxCaptureMarkers.h"
+#include "platform/linux/LinuxFileFacts.h"
+#include "platform/linux/LinuxFileReferences.h"
+#include "platform/linux/LinuxFolderFiles.h"
+#include "platform/linux/LinuxStandardFolders.h"
+#include "platform/linux/desktop/DesktopServices.h"
+#include "platform/linux/tools/ScreenshotTool.h"
+
+namespace tembra {
+
+Platform makeHeadlessPlatform(Scheduler &scheduler) {
+    Platform platform;
+    platform.folders = linuxStandardFolders();
+    platform.defaults =
+        std::make_unique<JsonUserDefaults>(platform.folders.configuration + QStringLiteral("/settings.json"));
+    platform.screenCapturePreferences = [folders = platform.folders] { return makeScreenCapturePreferences(folders); };
+    auto facts = std::make_unique<LinuxFileFactsReader>();
+    platform.folderFiles = std::make_unique<LinuxFolderFiles>(*facts);
+    platform.fileReferences = std::make_unique<LinuxFileReferences>(*facts);
+    platform.bookmarks = std::make_unique<LinuxBookmarks>(*facts, platform.folders);
+    platform.folderEvents = std::make_unique<InotifyFolderEvents>(*facts, scheduler);
+    platform.captureMarkers = std::make_unique<LinuxCaptureMarkers>();
+    platform.fileFacts = std::move(facts);
+    return platform;
+}
+
+Platform makePlatform(Scheduler &scheduler) {
+    Platform platform = makeHeadlessPlatform(scheduler);
+    DesktopServices desktop = makeDesktopServices(scheduler);
+    platform.displays = std::move(desktop.displays);
+    platform.workspace = std::move(desktop.workspace);
+    platform.inputMonitor = std::move(desktop.inputMonitor);
+    platform.panelWindows = std::move(desktop.panelWindows);
+    platform.hotZones = std::move(desktop.hotZones);
+    platform.thumbnails = std::make_unique<FreedesktopThumbnails>(scheduler, FreedesktopThumbnails::userLocations());
+    return platform;
+}
+
+std::unique_ptr<SingleInstance> makeSingleInstance() {
+    return std::make_unique<DBusSingleInstance>();
+}
+
+// A panel at the edge of the screen needs more than plain Wayland windows can do; X11's are to be had there as well.
+void preparePlatformEnvironment() {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && !qEnvironmentVariableIsEmpty("DISPLAY"))
+        qputenv("QT_QPA_PLATFORM", "xcb");
+}
+
+QString platformWordingCatalogue() {
+    return QStringLiteral(":/tembra/tembra_linux_en.qm");
+}
+
+} // namespace tembra

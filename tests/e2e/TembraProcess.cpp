@@ -1,0 +1,104 @@
+#include "TembraProcess.h"
+
+#include <QFileInfo>
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QJsonDocument>
+#include <QThread>
+
+namespace tembra {
+
+namespace {
+
+const QString program = QStringLiteral(TEMBRA_PROGRAM);
+constexpr int patienceMilliseconds = 10000;
+
+} // namespace
+
+TembraProcess::TembraProcess() : m_environment(QProcessEnvironment::systemEnvironment()) {
+    m_environment.insert(QStringLiteral("HOME"), home());
+    m_environment.insert(QStringLiteral("TEMBRA_HOME"), home() + QStringLiteral("/tembra"));
+    m_environment.insert(QStringLiteral("XDG_CONFIG_HOME"), home() + QStringLiteral("/.config"));
+    m_environment.insert(QStringLiteral("XDG_DATA_HOME"), home() + QStringLiteral("/.local/share"));
+    m_environment.insert(QStringLiteral("XDG_CACHE_HOME"), home() + QStringLiteral("/.cache"));
+    m_environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
+    m_environment.remove(QStringLiteral("XDG_CURRENT_DESKTOP"));
+    QDir().mkpath(screenshots());
+    m_process.setProcessEnvironment(m_environment);
+    m_process.setProcessChannelMode(QProcess::MergedChannels);
+}
+
+TembraProcess::~TembraProcess() {
+    if (!isRunning())
+        return;
+    (void)command({QStringLiteral("quit")});
+    if (!m_process.waitForFinished(patienceMilliseconds))
+        m_process.kill();
+    m_process.waitForFinished();
+}
+
+QString TembraProcess::screenshots() const {
+    return home() + QStringLiteral("/Pictures/Screenshots");
+}
+
+QString TembraProcess::settingsFile() const {
+    return home() + QStringLiteral("/tembra/config/settings.json");
+}
+
+void TembraProcess::start() {
+    m_process.start(program, {});
+    m_process.waitForStarted();
+    if (!waitFor([](const QJsonObject &status) { return !status.isEmpty(); }))
+        qFatal("Tembra does not answer: %s", qUtf8Printable(log()));
+}
+
+TembraProcess::Answer TembraProcess::startAgain() const {
+    return run(program, {});
+}
+
+TembraProcess::Answer TembraProcess::command(const QStringList &words) const {
+    return run(program, words);
+}
+
+TembraProcess::Answer TembraProcess::tool(const QString &name, const QStringList &arguments) const {
+    return run(name, arguments);
+}
+
+TembraProcess::Answer TembraProcess::run(const QString &name, const QStringList &arguments) const {
+    QProcess process;
+    process.setProcessEnvironment(m_environment);
+    // In the folder that captures go to, as long as it is there.
+    process.setWorkingDirectory(QFileInfo::exists(screenshots()) ? screenshots() : home());
+    process.start(name, arguments);
+    if (!process.waitForFinished(3 * patienceMilliseconds))
+        return {-1, {}, process.errorString()};
+    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+            QString::fromUtf8(process.readAllStandardError())};
+}
+
+QJsonObject TembraProcess::status() const {
+    const Answer answer = command({QStringLiteral("status"), QStringLiteral("--json")});
+    return QJsonDocument::fromJson(answer.output.toUtf8()).object();
+}
+
+bool TembraProcess::waitFor(const std::function<bool(const QJsonObject &)> &wish) const {
+    const QDeadlineTimer deadline(patienceMilliseconds);
+    while (!wish(status())) {
+        if (deadline.hasExpired())
+            return false;
+        QThread::msleep(20);
+    }
+    return true;
+}
+
+bool TembraProcess::waitForEnd() {
+    return m_process.waitForFinished(patienceMilliseconds);
+}
+
+QString TembraProcess::log() {
+    m_process.waitForReadyRead(100);
+    m_log += QString::fromUtf8(m_process.readAll());
+    return m_log;
+}
+
+} // namespace tembra

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QJsonObject>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QTemporaryDir>
+
+#include <functional>
+
+namespace tembra {
+
+// The built program with a home of its own, driven as a user or a script would: by its command line, a real
+// pointer and real tools. It ends with this object.
+class TembraProcess {
+public:
+    struct Answer {
+        int exitStatus = -1;
+        QString output;
+        QString error;
+    };
+
+    TembraProcess();
+    ~TembraProcess();
+    TembraProcess(const TembraProcess &) = delete;
+    TembraProcess &operator=(const TembraProcess &) = delete;
+
+    [[nodiscard]] QString home() const { return m_home.path(); }
+    // Where the screenshot tool of this desktop saves.
+    [[nodiscard]] QString screenshots() const;
+    [[nodiscard]] QString settingsFile() const;
+
+    // Starts the program and waits until it answers.
+    void start();
+    // Starts it once more, as a user does who forgot that it runs, and gives what that start said.
+    Answer startAgain() const;
+    Answer command(const QStringList &words) const;
+    // Runs another program with the same home, in the screenshots folder.
+    Answer tool(const QString &program, const QStringList &arguments) const;
+    [[nodiscard]] QJsonObject status() const;
+    // Waits until the status is as wished, at most ten seconds.
+    [[nodiscard]] bool waitFor(const std::function<bool(const QJsonObject &)> &wish) const;
+    [[nodiscard]] bool waitForEnd();
+    [[nodiscard]] bool isRunning() const { return m_process.state() == QProcess::Running; }
+    // What the program wrote to its log so far.
+    QString log();
+
+private:
+    Answer run(const QString &program, const QStringList &arguments) const;
+
+    QTemporaryDir m_home;
+    QProcessEnvironment m_environment;
+    QProcess m_process;
+    QString m_log;
+};
+
+} // namespace tembra

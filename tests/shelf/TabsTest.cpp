@@ -1,0 +1,61 @@
+#include "shelf/ShelfTabs.h"
+#include "shelf/TabHover.h"
+#include "support/ManualScheduler.h"
+
+#include <gtest/gtest.h>
+
+using namespace std::chrono_literals;
+using namespace tembra;
+
+TEST(ShelfTabs, followTheSettingsInTheirFixedOrder) {
+    using enum ShelfTab;
+    const std::vector all{screenshots, imageToText, fileTray};
+    const auto shown = [&](bool tray, bool text, const std::vector<ShelfTab> &built) {
+        AppSettingsState state;
+        state.fileTrayEnabled = tray;
+        state.imageToTextEnabled = text;
+        return shownTabs(state, built);
+    };
+    EXPECT_EQ(shown(true, true, all), (std::vector{fileTray, screenshots, imageToText}));
+    EXPECT_EQ(shown(false, true, all), (std::vector{screenshots, imageToText}));
+    EXPECT_EQ(shown(false, false, all), (std::vector{screenshots}));
+    EXPECT_EQ(shown(true, true, {screenshots}), (std::vector{screenshots}));
+}
+
+class TabHoverTest : public testing::Test {
+protected:
+    TabHoverTest() {
+        hover.canSwitchTo = [this](ShelfTab) { return allowed; };
+        hover.onActivate = [this](ShelfTab tab) { activated.push_back(tab); };
+    }
+
+    ManualScheduler scheduler;
+    TabHover hover{scheduler};
+    bool allowed = true;
+    std::vector<ShelfTab> activated;
+};
+
+TEST_F(TabHoverTest, activatesTheTabOnWhichThePointerRestsForAQuarterSecond) {
+    hover.hoverTab(ShelfTab::fileTray);
+    scheduler.advance(249ms);
+    EXPECT_TRUE(activated.empty());
+    scheduler.advance(1ms);
+    EXPECT_EQ(activated, (std::vector{ShelfTab::fileTray}));
+}
+
+TEST_F(TabHoverTest, neverActivatesATabThatWasLeftOrMayNotSwitch) {
+    hover.hoverTab(ShelfTab::fileTray);
+    scheduler.advance(200ms);
+    hover.hoverTab(ShelfTab::imageToText);
+    scheduler.advance(200ms);
+    hover.cancelTabHover(ShelfTab::fileTray); // left long ago: the one hovered now stays pending
+    scheduler.advance(50ms);
+    EXPECT_EQ(activated, (std::vector{ShelfTab::imageToText}));
+
+    hover.hoverTab(ShelfTab::fileTray);
+    hover.cancelTabHover();
+    allowed = false;
+    hover.hoverTab(ShelfTab::screenshots);
+    scheduler.advance(1s);
+    EXPECT_EQ(activated.size(), 1U);
+}

@@ -1,0 +1,35 @@
+# Debian packages, by purpose; sourced by ./run and ./test. docs/dependencies.md says why each one is here.
+
+build_packages=(
+  g++ cmake ninja-build ccache pkg-config
+  qt6-base-dev libqt6svg6-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
+  libexpected-dev libglib2.0-dev
+  libxcb1-dev libxcb-xfixes0-dev libxcb-xinput-dev libxcb-shape0-dev libxcb-xtest0-dev
+  libgtest-dev libgmock-dev libbenchmark-dev
+)
+
+# What the program uses when it runs: image formats, its typeface, gsettings' storage.
+run_packages=(qt6-image-formats-plugins qt6-qpa-plugins fonts-inter dconf-gsettings-backend)
+
+# A private desktop to run on, and real tools to take captures with and to drive it.
+desktop_packages=(
+  xvfb openbox picom dbus dbus-daemon xdotool x11-utils x11-xserver-utils
+  hsetroot scrot imagemagick gnome-screenshot libglib2.0-bin
+)
+
+# Installs those of the named packages that are missing, with sudo where needed.
+install_missing() {
+  local missing=() package
+  for package in "$@"; do
+    dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing+=("$package")
+  done
+  [ "${#missing[@]}" -eq 0 ] && return
+  echo "Installing ${missing[*]}"
+  local root=()
+  if [ "$(id -u)" -ne 0 ]; then
+    command -v sudo >/dev/null || { echo "Missing packages, and neither root nor sudo: ${missing[*]}" >&2; return 1; }
+    root=(sudo)
+  fi
+  "${root[@]}" apt-get update -qq
+  "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}

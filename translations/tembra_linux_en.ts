@@ -1,0 +1,33 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en_US" sourcelanguage="en_US">
+<!-- Rewords what names a thing that Linux desktops do not have, and gives English its plurals. -->
+<context>
+    <name>CaptureNotification</name>
+    <message numerus="yes">
+        <source>%n captures</source>
+        <translation>
+            <numerusform>%n capture</numerusform>
+            <numerusform>%n captures</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>FolderChooser</name>
+    <message>
+        <source>New macOS screenshots will be saved here and appear in Tembra.</source>
+        <translation>New screenshots will be saved here and appear in Tembra.</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenshotSaveLocation</name>
+    <message>
+        <source>Couldn’t change the macOS screenshot folder.</source>
+        <translation>Couldn’t change the screenshot folder.</translation>
+    </message>
+    <message>
+        <source>Your previous folder is still selected. Try again, or change Save to in ⇧⌘5 → Options.</source>
+        <translation>Your previous folder is still selected. Try again, or change the folder in your screenshot tool’s own settings.</translation>
+    </message>
+</context>
+</TS>
