@@ -88,6 +88,12 @@ void ForeignProgram::activate(xcb_window_t window) {
     });
     if (!isDone)
         qFatal("the window manager did not activate the window");
+    finishWindowManagement();
+}
+
+void ForeignProgram::takeKeyboard(xcb_window_t window) {
+    xcb_set_input_focus(m_xcb, XCB_INPUT_FOCUS_POINTER_ROOT, window, XCB_CURRENT_TIME);
+    static_cast<void>(focusedWindow());
 }
 
 void ForeignProgram::movePointer(QPoint position) {
@@ -226,6 +232,13 @@ void ForeignProgram::askWindowManager(xcb_window_t window, const char *message, 
                    XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
                    reinterpret_cast<const char *>(&event));
     xcb_flush(m_xcb);
+}
+
+void ForeignProgram::finishWindowManagement() {
+    xcb_delete_property(m_xcb, m_messenger, atom("_NET_FRAME_EXTENTS"));
+    askWindowManager(m_messenger, "_NET_REQUEST_FRAME_EXTENTS", 0, 0);
+    if (!eventually([this] { return !property(m_messenger, "_NET_FRAME_EXTENTS").empty(); }))
+        qFatal("the window manager does not answer");
 }
 
 void ForeignProgram::fake(std::uint8_t type, std::uint8_t detail, QPoint position) {

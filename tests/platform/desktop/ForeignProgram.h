@@ -27,6 +27,9 @@ public:
     // Raises the window and gives it the keyboard, as a taskbar does; waits until that is done.
     void activate(xcb_window_t window);
 
+    // Gives the keyboard to the window past the window manager.
+    void takeKeyboard(xcb_window_t window);
+
     void movePointer(QPoint position);
     void press(int button = 1);
     void release(int button = 1);
@@ -53,6 +56,8 @@ private:
     void askWindowManager(xcb_window_t window, const char *message, std::uint32_t first,
                           std::uint32_t second);
     void fake(std::uint8_t type, std::uint8_t detail, QPoint position = {});
+    // Waits until it has dealt with all that it was asked for.
+    void finishWindowManagement();
     void setSelection(const char *name, xcb_window_t owner);
 
     xcb_connection_t *const m_xcb;

@@ -100,6 +100,17 @@ TEST_F(X11PanelWindowsTest, theKeyboardIsTakenOnlyWhenAskedForAndGivenBack) {
     EXPECT_EQ(m_foreign.focusedWindow(), window);
 }
 
+TEST_F(X11PanelWindowsTest, whoeverHadTheKeyboardGetsItBack) {
+    m_foreign.openWindow({0, 200, 600, 400});
+    m_panel.show();
+    const xcb_window_t launcher = m_foreign.openMenu({700, 200, 100, 100});
+    m_foreign.takeKeyboard(launcher);
+    m_panels.takeKeyboardFocus(m_panel);
+    ASSERT_TRUE(eventually([this] { return m_panel.isActiveWindow(); }));
+    m_panels.returnKeyboardFocus(m_panel);
+    EXPECT_EQ(m_foreign.focusedWindow(), launcher);
+}
+
 TEST_F(X11PanelWindowsTest, theKeyboardIsNotTakenBackFromWhomTheUserGaveIt) {
     m_foreign.openWindow({0, 200, 600, 400});
     m_panel.show();

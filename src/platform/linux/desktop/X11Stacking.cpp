@@ -1,6 +1,5 @@
 #include "platform/linux/desktop/X11Stacking.h"
 
-#include <QEvent>
 #include <QGuiApplication>
 #include <QWidget>
 #include <QWindow>
@@ -38,16 +37,10 @@ void X11Stacking::removeZone(xcb_window_t zone) {
     std::erase(m_zones, zone);
 }
 
+// Qt itself raises a tool window whenever it is shown.
 void X11Stacking::addPanel(QWidget &panel) {
     std::erase(m_panels, nullptr);
     m_panels.emplace_back(&panel);
-    panel.installEventFilter(this);
-}
-
-bool X11Stacking::eventFilter(QObject *, QEvent *event) {
-    if (event->type() == QEvent::Show)
-        restack();
-    return false;
 }
 
 // Each window goes below the one before it instead of all being raised one after the other: on the way, a

@@ -2,7 +2,6 @@
 
 #include "platform/linux/desktop/X11Connection.h"
 
-#include <QObject>
 #include <QPointer>
 
 #include <vector>
@@ -14,9 +13,8 @@ QT_END_NAMESPACE
 namespace tembra {
 
 // Keeps the program's zones and panels above the windows that a window manager looks after: whenever it
-// restacks them and whenever a panel is shown, ours are put on top again, zones below panels below the
-// program's own menus. Main thread.
-class X11Stacking final : public QObject {
+// restacks them, ours are put on top again, zones below panels below the program's own menus. Main thread.
+class X11Stacking final {
 public:
     explicit X11Stacking(std::shared_ptr<X11Connection> connection);
 
@@ -24,8 +22,6 @@ public:
     void removeZone(xcb_window_t zone);
     void addPanel(QWidget &panel);
     void restack();
-
-    bool eventFilter(QObject *panel, QEvent *event) override;
 
 private:
     // All windows of the screen, the topmost first.
