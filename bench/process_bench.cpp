@@ -3,6 +3,7 @@
 // known to the program while it idles. Run through bench/run.
 
 #include "Child.h"
+#include "Row.h"
 
 #include <xcb/xcb.h>
 
@@ -14,7 +15,7 @@
 #include <thread>
 
 using namespace std::chrono_literals;
-using tembra::bench::Child;
+using namespace tembra::bench;
 using Milliseconds = std::chrono::duration<double, std::milli>;
 
 namespace {
@@ -57,11 +58,6 @@ private:
     xcb_connection_t *m_connection;
 };
 
-double median(std::vector<double> values) {
-    std::ranges::sort(values);
-    return values[values.size() / 2];
-}
-
 double startMilliseconds(const std::string &program, MapWatch &watch) {
     watch.forget();
     const Child child({program});
@@ -85,11 +81,6 @@ Idle idle(const std::string &program, MapWatch &watch) {
     return {static_cast<double>(child.proportionalKiB()), child.wakeUps() - before};
 }
 
-void row(const char *what, double ours, double floor, const char *unit, double goal) {
-    std::printf("%-44s %10.1f %10.1f %-4s %6.2f  <= %.2f  %s\n", what, ours, floor, unit, ours / floor, goal,
-                ours <= goal * floor ? "pass" : "FALLS SHORT");
-}
-
 } // namespace
 
 int main(int argc, char **argv) {
@@ -104,13 +95,13 @@ int main(int argc, char **argv) {
         bare.push_back(startMilliseconds(argv[2], watch));
         ours.push_back(startMilliseconds(argv[1], watch));
     }
-    row("start to shelf reacting / window mapped", median(ours), median(bare), "ms", 2.0);
+    printRow("start to shelf reacting / window mapped", median(ours), median(bare), "ms", 2.0);
 
     const Idle bareIdle = idle(argv[2], watch);
     const Idle ourIdle = idle(argv[1], watch);
     std::printf("%s captures known\n", argv[3]);
-    row("idle proportional memory", ourIdle.kibibytes / 1024, bareIdle.kibibytes / 1024, "MiB", 1.8);
-    std::printf("%-44s %10ld %10ld      goal 0  %s\n", "wake-ups in 10 idle seconds", ourIdle.wakeUps,
+    printRow("idle proportional memory", ourIdle.kibibytes / 1024, bareIdle.kibibytes / 1024, "MiB", 1.8);
+    std::printf("%-52s %9ld %9ld      goal 0  %s\n", "wake-ups in 10 idle seconds", ourIdle.wakeUps,
                 bareIdle.wakeUps, ourIdle.wakeUps == 0 ? "pass" : "FALLS SHORT");
     return 0;
 }

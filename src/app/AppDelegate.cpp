@@ -16,7 +16,8 @@
 namespace tembra {
 
 AppDelegate::AppDelegate(Platform &platform, Scheduler &scheduler)
-    : m_platform(platform), m_scheduler(scheduler),
+    : m_platform(platform),
+      m_scheduler(scheduler),
       m_captureDetector(*platform.captureMarkers, *platform.folderFiles),
       m_folderTraversal(platform.folders, *platform.fileFacts),
       m_capturePreferences(platform.screenCapturePreferences()),
@@ -30,7 +31,8 @@ void AppDelegate::applicationDidFinishLaunching() {
     m_coordinator =
         std::make_unique<AppFlowCoordinator>(*m_settings, *m_platform.workspace, makeShelfController());
     m_commands = std::make_unique<CommandService>(
-        m_coordinator->shelfController(), [this] { applicationShouldHandleReopen(); }, [this] { terminate(); });
+        m_coordinator->shelfController(), [this] { applicationShouldHandleReopen(); },
+        [this] { terminate(); });
     m_coordinator->start();
 }
 
@@ -44,8 +46,8 @@ std::unique_ptr<AppSettings> AppDelegate::makeSettings() {
             },
         .thumbnailPreference = ScreenshotThumbnailPreference::system(*m_capturePreferences),
         .createBookmark = [&bookmarks](const QString &path) { return bookmarks.create(path); },
-        .resolvePinnedBookmark = [&bookmarks, &facts](const QByteArray &bookmark)
-            -> std::optional<PinnedScreenshot::Resolved> {
+        .resolvePinnedBookmark =
+            [&bookmarks, &facts](const QByteArray &bookmark) -> std::optional<PinnedScreenshot::Resolved> {
             const auto resolved = bookmarks.resolve(bookmark);
             if (!resolved)
                 return std::nullopt;
@@ -69,7 +71,8 @@ std::unique_ptr<ShelfController> AppDelegate::makeShelfController() {
                                  .hotZones = *m_platform.hotZones,
                                  .thumbnails = *m_platform.thumbnails,
                                  .files = *m_platform.fileFacts};
-    return std::make_unique<ShelfController>(*m_settings, std::move(session), makeLocationMonitor(), services);
+    return std::make_unique<ShelfController>(*m_settings, std::move(session), makeLocationMonitor(),
+                                             services);
 }
 
 std::unique_ptr<FileWatcherService> AppDelegate::makeFileWatcher() {
@@ -81,14 +84,15 @@ std::unique_ptr<FileWatcherService> AppDelegate::makeFileWatcher() {
         return (*preferences)->name().value_or(QString());
     };
     auto reader = std::make_shared<FolderReader>(*m_platform.folderFiles, m_captureDetector, customPrefix);
-    FileWatcherService::Services services{
-        .events = *m_platform.folderEvents,
-        .scheduler = m_scheduler,
-        .uptime = systemUptime,
-        .now = systemNow,
-        .queue = m_folderScanQueue,
-        .detector = m_captureDetector,
-        .folderTraversal = [this](const QString &folder) { return m_folderTraversal.includesSubfolders(folder); }};
+    FileWatcherService::Services services{.events = *m_platform.folderEvents,
+                                          .scheduler = m_scheduler,
+                                          .uptime = systemUptime,
+                                          .now = systemNow,
+                                          .queue = m_folderScanQueue,
+                                          .detector = m_captureDetector,
+                                          .folderTraversal = [this](const QString &folder) {
+                                              return m_folderTraversal.includesSubfolders(folder);
+                                          }};
     return std::make_unique<FileWatcherService>(std::move(services), std::move(reader));
 }
 
@@ -124,8 +128,10 @@ void AppDelegate::terminate() {
 Result<QString> AppDelegate::perform(const QString &command, const QStringList &arguments) {
     if (m_commands)
         return m_commands->perform(command, arguments);
-    return failure({QStringLiteral("Tembra.AppDelegate"), 1,
-                    QCoreApplication::translate("AppDelegate", "Tembra is still starting."), {}});
+    return failure({QStringLiteral("Tembra.AppDelegate"),
+                    1,
+                    QCoreApplication::translate("AppDelegate", "Tembra is still starting."),
+                    {}});
 }
 
 } // namespace tembra

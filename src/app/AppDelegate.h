@@ -16,8 +16,8 @@ class FileWatcherService;
 class ScreenshotLocationMonitor;
 class ShelfController;
 
-// The composition root: makes the settings, then the flow, and answers the program's life-cycle questions. Main thread;
-// lives in main().
+// The composition root: makes the settings, then the flow, and answers the program's life-cycle questions.
+// Main thread; lives in main().
 class AppDelegate {
 public:
     AppDelegate(Platform &platform, Scheduler &scheduler);

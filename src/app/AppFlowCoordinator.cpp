@@ -9,7 +9,8 @@ namespace tembra {
 
 AppFlowCoordinator::AppFlowCoordinator(AppSettings &settings, Workspace &workspace,
                                        std::unique_ptr<ShelfController> shelf)
-    : m_settings(settings), m_workspace(workspace),
+    : m_settings(settings),
+      m_workspace(workspace),
       m_onboarding(std::make_unique<OnboardingCoordinator>(settings, std::move(shelf))) {}
 
 AppFlowCoordinator::~AppFlowCoordinator() = default;

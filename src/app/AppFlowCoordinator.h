@@ -11,8 +11,8 @@ class MainMenu;
 class OnboardingCoordinator;
 class ShelfController;
 
-// The flow of the program above its windows: what is shown at the start, when it is opened again, and at the end. Main
-// thread; owned by AppDelegate.
+// The flow of the program above its windows: what is shown at the start, when it is opened again, and at the
+// end. Main thread; owned by AppDelegate.
 class AppFlowCoordinator {
 public:
     AppFlowCoordinator(AppSettings &settings, Workspace &workspace, std::unique_ptr<ShelfController> shelf);

@@ -35,7 +35,8 @@ void OnboardingCoordinator::adopt(const ScreenshotDestination &destination) {
     if (adopted)
         adopted = m_shelf->acceptScreenshotFolder(destination.folder, true);
     if (!adopted)
-        qWarning("The folder of the screenshot tool cannot be used: %s", qUtf8Printable(adopted.error().message));
+        qWarning("The folder of the screenshot tool cannot be used: %s",
+                 qUtf8Printable(adopted.error().message));
 }
 
 } // namespace tembra

@@ -18,10 +18,11 @@ Result<QString> scanFolder(const QString &folder, bool json) {
     const ScreenshotCaptureDetector detector(*platform.captureMarkers, *platform.folderFiles);
     const ScreenshotFolderTraversal traversal(platform.folders, *platform.fileFacts);
     const QString customPrefix = platform.screenCapturePreferences()->name().value_or(QString());
-    const auto report = ScanReport::of(path, traversal.includesSubfolders(path), *platform.folderFiles, detector,
-                                       customPrefix, systemNow());
+    const auto report = ScanReport::of(path, traversal.includesSubfolders(path), *platform.folderFiles,
+                                       detector, customPrefix, systemNow());
     if (!report)
-        return failure({QStringLiteral("Tembra.ScanCommand"), 1,
+        return failure({QStringLiteral("Tembra.ScanCommand"),
+                        1,
                         QCoreApplication::translate("ScanCommand", "“%1” cannot be read: %2")
                             .arg(path, report.error().message),
                         {}});

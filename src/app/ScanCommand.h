@@ -6,7 +6,8 @@
 
 namespace tembra {
 
-// `tembra scan`: what is recognised as a capture in a folder, as lines to read or as JSON. Needs no running program.
+// `tembra scan`: what is recognised as a capture in a folder, as lines to read or as JSON. Needs no running
+// program.
 [[nodiscard]] Result<QString> scanFolder(const QString &folder, bool json);
 
 } // namespace tembra

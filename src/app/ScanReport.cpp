@@ -34,8 +34,9 @@ public:
 
     void visit(const FolderFiles::Listed &listed) {
         const auto bytes = listed.relativePath();
-        const QString path = m_report.folder + u'/' +
-                             QFile::decodeName(QByteArray(bytes.data(), static_cast<qsizetype>(bytes.size())));
+        const QString path =
+            m_report.folder + u'/' +
+            QFile::decodeName(QByteArray(bytes.data(), static_cast<qsizetype>(bytes.size())));
         const QStringView name = QStringView(path).sliced(path.lastIndexOf(u'/') + 1);
         const bool isVideo = m_detector.isVideoName(name);
         if (!isVideo && !m_detector.isImageName(name))
@@ -45,8 +46,9 @@ public:
             return skip(path, file.error().message);
         const auto reason = m_detector.classify(name, **file, m_customPrefix);
         if (!reason)
-            return skip(path, text(QT_TRANSLATE_NOOP(
-                                  "ScanReport", "neither marker, metadata nor name say that it is a capture")));
+            return skip(
+                path, text(QT_TRANSLATE_NOOP("ScanReport",
+                                             "neither marker, metadata nor name say that it is a capture")));
         const Instant createdAt = (*file)->facts().createdAt.value_or(listed.version().modifiedAt);
         m_report.captures.push_back({.path = path,
                                      .isVideo = isVideo,
@@ -61,8 +63,7 @@ private:
 
     [[nodiscard]] QString sectionOf(Instant createdAt) const {
         const std::vector<Shot> one{Shot{.createdAt = createdAt}};
-        return title(
-            ScreenshotTimeline::sections(one, {}, m_now, QTimeZone::systemTimeZone()).front().kind);
+        return title(ScreenshotTimeline::sections(one, {}, m_now, QTimeZone::systemTimeZone()).front().kind);
     }
 
     [[nodiscard]] bool isComplete(const OpenFile &file, QStringView name, bool isVideo) const {
@@ -121,10 +122,10 @@ QByteArray ScanReport::toJson() const {
 QString ScanReport::toText() const {
     QString lines;
     for (const Capture &capture : captures)
-        lines += QStringLiteral("%1\t%2\t%3\t%4%5\n")
-                     .arg(capture.section, isoDate(capture.createdAt), capture.because, capture.path,
-                          capture.isComplete ? QString()
-                                             : text(QT_TRANSLATE_NOOP("ScanReport", " (not whole)")));
+        lines +=
+            QStringLiteral("%1\t%2\t%3\t%4%5\n")
+                .arg(capture.section, isoDate(capture.createdAt), capture.because, capture.path,
+                     capture.isComplete ? QString() : text(QT_TRANSLATE_NOOP("ScanReport", " (not whole)")));
     for (const Skipped &file : skipped)
         lines += QStringLiteral("-\t\t%1\t%2\n").arg(file.because, file.path);
     return lines;

@@ -35,7 +35,8 @@ struct ScanReport {
 
     // Error: the folder cannot be read.
     [[nodiscard]] static Result<ScanReport> of(const QString &folder, bool includesSubfolders,
-                                               const FolderFiles &files, const ScreenshotCaptureDetector &detector,
+                                               const FolderFiles &files,
+                                               const ScreenshotCaptureDetector &detector,
                                                const QString &customPrefix, Instant now);
 
     // Keys are only ever added; dates are ISO 8601 with zone.

@@ -50,14 +50,15 @@ Result<QString> sendToRunning(const CommandLine &line) {
     const auto instance = makeSingleInstance();
     switch (line.verb) {
     case Verb::open:
-        return instance->send(QStringLiteral("open"), line.tab.isEmpty() ? QStringList() : QStringList{line.tab}, true);
+        return instance->send(QStringLiteral("open"),
+                              line.tab.isEmpty() ? QStringList() : QStringList{line.tab}, true);
     case Verb::toggle:
         return instance->send(QStringLiteral("toggle"), {}, true);
     case Verb::close:
         return instance->send(QStringLiteral("close"), {}, false);
     case Verb::status:
-        return instance->send(QStringLiteral("status"), line.json ? QStringList{QStringLiteral("--json")} : QStringList(),
-                              false);
+        return instance->send(QStringLiteral("status"),
+                              line.json ? QStringList{QStringLiteral("--json")} : QStringList(), false);
     case Verb::quit:
         return instance->send(QStringLiteral("quit"), {}, false);
     case Verb::start:

@@ -6,8 +6,8 @@
 #include "platform/Displays.h"
 #include "platform/FileFacts.h"
 #include "platform/FileReferences.h"
-#include "platform/FolderFiles.h"
 #include "platform/FolderEvents.h"
+#include "platform/FolderFiles.h"
 #include "platform/HotZones.h"
 #include "platform/InputMonitor.h"
 #include "platform/PanelWindows.h"
@@ -45,7 +45,8 @@ struct Platform {
     std::unique_ptr<Thumbnails> thumbnails;
 };
 
-// Files, settings and the screenshot tool: enough for commands without windows. The scheduler must outlive it.
+// Files, settings and the screenshot tool: enough for commands without windows. The scheduler must outlive
+// it.
 [[nodiscard]] Platform makeHeadlessPlatform(Scheduler &scheduler);
 // Everything. Needs the application object.
 [[nodiscard]] Platform makePlatform(Scheduler &scheduler);

@@ -2,8 +2,8 @@
 
 namespace tembra {
 
-// Global screen space: points (device-independent pixels), x to the right, y down, one space for all displays;
-// its origin is where the platform has it, with one display the top left of it.
+// Global screen space: points (device-independent pixels), x to the right, y down, one space for all
+// displays; its origin is where the platform has it, with one display the top left of it.
 struct ScreenPoint {
     double x = 0;
     double y = 0;

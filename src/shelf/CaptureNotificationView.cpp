@@ -36,7 +36,8 @@ void CaptureNotificationView::apply(const CaptureNotification &notification) {
     m_notification = notification;
     setAccessibleName(notification.text);
     setAccessibleDescription(notification.detail);
-    std::erase_if(m_requests, [&](const auto &entry) { return !notification.previews.contains(entry.first); });
+    std::erase_if(m_requests,
+                  [&](const auto &entry) { return !notification.previews.contains(entry.first); });
     m_images.removeIf([&](const auto &entry) { return !notification.previews.contains(entry.key()); });
     for (const QString &path : notification.previews)
         requestPreview(path);
@@ -77,7 +78,8 @@ void CaptureNotificationView::paintPreviews(QPainter &painter) const {
             painter.setBrush(palette::groupActive);
             painter.drawRoundedRect(place, 4, 4);
         } else {
-            ScreenshotPreviewImageView::draw(painter, ScreenshotPreviewImageView::fitted(image, place), image);
+            ScreenshotPreviewImageView::draw(painter, ScreenshotPreviewImageView::fitted(image, place),
+                                             image);
         }
         painter.restore();
     }

@@ -12,8 +12,8 @@
 
 namespace tembra {
 
-// The notification: the newest captures as a small stack of pictures, beside a line of text and one of detail. The
-// pictures come when they are made; until then their places are plain.
+// The notification: the newest captures as a small stack of pictures, beside a line of text and one of
+// detail. The pictures come when they are made; until then their places are plain.
 class CaptureNotificationView final : public QWidget {
     Q_OBJECT
 

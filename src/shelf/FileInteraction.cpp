@@ -17,7 +17,8 @@ void FileInteraction::pressed(ScreenPoint point, bool onSelection) {
 }
 
 void FileInteraction::moved(ScreenPoint point) {
-    if (m_state == State::pressing && std::hypot(point.x - m_pressPoint.x, point.y - m_pressPoint.y) >= dragDistance)
+    if (m_state == State::pressing &&
+        std::hypot(point.x - m_pressPoint.x, point.y - m_pressPoint.y) >= dragDistance)
         m_state = State::dragging;
 }
 

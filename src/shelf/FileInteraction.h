@@ -4,15 +4,16 @@
 
 namespace tembra {
 
-// Follows a press on a file selection in another program, from which a file may be on its way to the shelf. A value;
-// screen points.
+// Follows a press on a file selection in another program, from which a file may be on its way to the shelf. A
+// value; screen points.
 class FileInteraction {
 public:
     enum class State {
         idle,
         // The button is down on a file selection.
         pressing,
-        // Files were selected while the shelf is open; it waits for the pointer to come back with or without them.
+        // Files were selected while the shelf is open; it waits for the pointer to come back with or without
+        // them.
         awaitingPickup,
         // The selection is being dragged.
         dragging

@@ -8,8 +8,8 @@
 namespace tembra {
 
 std::optional<QString> askForScreenshotsFolder(const QString &suggested) {
-    QFileDialog dialog(nullptr, QCoreApplication::translate("FolderChooser", "Choose Your Screenshots Folder"),
-                       suggested);
+    QFileDialog dialog(
+        nullptr, QCoreApplication::translate("FolderChooser", "Choose Your Screenshots Folder"), suggested);
     dialog.setFileMode(QFileDialog::Directory);
     dialog.setOption(QFileDialog::ShowDirsOnly);
     // The desktop's own dialogs have no place for the sentence that says what the folder is for.

@@ -23,7 +23,8 @@ void HoverController::start() {
     if (m_isRunning)
         return;
     m_isRunning = true;
-    m_monitor = m_inputMonitor.observe([this](const InputMonitor::Event &event) { receiveMouseEvent(event); });
+    m_monitor =
+        m_inputMonitor.observe([this](const InputMonitor::Event &event) { receiveMouseEvent(event); });
     requestPointerEvaluation();
 }
 
@@ -147,8 +148,8 @@ void HoverController::cancelCollapse() {
 
 void HoverController::collapseIfLeft() {
     const HoverSnapshot now = snapshot();
-    const bool mayCollapse = now.activationMode == ActivationMode::hover && now.expanded && !now.choosingFolder &&
-                             !now.previewOpen && m_interaction.isIdle();
+    const bool mayCollapse = now.activationMode == ActivationMode::hover && now.expanded &&
+                             !now.choosingFolder && !now.previewOpen && m_interaction.isIdle();
     if (mayCollapse && !now.keepsOpen(mouseLocation()))
         onSetExpanded(false);
 }
@@ -158,8 +159,8 @@ void HoverController::receiveMouseEvent(const InputMonitor::Event &event) {
     switch (event.kind) {
     case InputMonitor::Kind::leftDown:
         m_interaction.pressed(event.point, !event.local && !now.keepsOpen(event.point) && hasFileSelection());
-        if (now.activationMode == ActivationMode::click && !now.expanded && now.isInActivationArea(event.point) &&
-            onActivationClick)
+        if (now.activationMode == ActivationMode::click && !now.expanded &&
+            now.isInActivationArea(event.point) && onActivationClick)
             onActivationClick();
         break;
     case InputMonitor::Kind::leftUp:

@@ -12,8 +12,8 @@
 
 namespace tembra {
 
-// Decides from the pointer's place when the collapsed shelf opens and when the open one closes. It holds no geometry:
-// each decision asks for a fresh snapshot. Main thread, screen points; owned by ShelfController.
+// Decides from the pointer's place when the collapsed shelf opens and when the open one closes. It holds no
+// geometry: each decision asks for a fresh snapshot. Main thread, screen points; owned by ShelfController.
 class HoverController {
 public:
     HoverController(Scheduler &scheduler, const UptimeClock &uptime, InputMonitor &inputMonitor);

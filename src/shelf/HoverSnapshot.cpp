@@ -11,7 +11,8 @@ bool HoverSnapshot::contains(ScreenPoint point, const ScreenRect &rect) const {
 bool HoverSnapshot::isInActivationArea(ScreenPoint point) const {
     if (activationNotches.empty())
         return contains(point, notch);
-    return std::ranges::any_of(activationNotches, [&](const ScreenRect &area) { return contains(point, area); });
+    return std::ranges::any_of(activationNotches,
+                               [&](const ScreenRect &area) { return contains(point, area); });
 }
 
 bool HoverSnapshot::containsPanel(ScreenPoint point, const ScreenRect &rect) const {

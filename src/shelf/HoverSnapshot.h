@@ -8,8 +8,8 @@
 
 namespace tembra {
 
-// What the shelf looks like at one moment, as far as the pointer's meaning depends on it. A value made afresh for each
-// decision; screen points.
+// What the shelf looks like at one moment, as far as the pointer's meaning depends on it. A value made afresh
+// for each decision; screen points.
 struct HoverSnapshot {
     ActivationMode activationMode = ActivationMode::hover;
     // The shelf is open.

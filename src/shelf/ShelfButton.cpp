@@ -14,7 +14,8 @@ constexpr qreal cornerRadius = 7;
 
 } // namespace
 
-ShelfButton::ShelfButton(Icon icon, const QString &name, QWidget *parent) : QAbstractButton(parent), m_icon(icon) {
+ShelfButton::ShelfButton(Icon icon, const QString &name, QWidget *parent)
+    : QAbstractButton(parent), m_icon(icon) {
     setCheckable(true);
     setAccessibleName(name);
     setToolTip(name);

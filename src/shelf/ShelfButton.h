@@ -6,7 +6,8 @@
 
 namespace tembra {
 
-// A button of the shelf's header: an icon on a rounded field, which is filled while its tab is the active one.
+// A button of the shelf's header: an icon on a rounded field, which is filled while its tab is the active
+// one.
 class ShelfButton final : public QAbstractButton {
     Q_OBJECT
 

@@ -40,7 +40,8 @@ bool isShown(const std::vector<ShelfTab> &tabs, ShelfTab tab) {
 
 // The same path, or a link to the same folder.
 bool isSameFolder(const QString &a, const QString &b) {
-    return a == b || (QFileInfo(a).canonicalFilePath() == QFileInfo(b).canonicalFilePath() && QFileInfo::exists(a));
+    return a == b ||
+           (QFileInfo(a).canonicalFilePath() == QFileInfo(b).canonicalFilePath() && QFileInfo::exists(a));
 }
 
 bool isRecording(const Shot &shot) {
@@ -88,9 +89,12 @@ void ShelfController::start() {
 
 void ShelfController::startObserving() {
     connect(&m_settings, &AppSettings::updates, this, &ShelfController::applySettings);
-    m_workspaceObservation = m_services.workspace.observe([this](Workspace::Event event) { workspaceChanged(event); });
+    m_workspaceObservation =
+        m_services.workspace.observe([this](Workspace::Event event) { workspaceChanged(event); });
     m_displayObservation = m_services.displays.observe([this] { scheduleDisplayReconciliation(); });
-    m_locationMonitor->onRead = [this](const ScreenshotDestination &destination) { receiveDestination(destination); };
+    m_locationMonitor->onRead = [this](const ScreenshotDestination &destination) {
+        receiveDestination(destination);
+    };
 }
 
 void ShelfController::stop() {
@@ -117,8 +121,10 @@ ShelfContent &ShelfController::content() {
         return *m_content;
     m_content = std::make_unique<ShelfContent>(m_services);
     connect(m_content.get(), &ShelfContent::tabClicked, this, &ShelfController::activateTab);
-    connect(m_content.get(), &ShelfContent::tabHovered, this, [this](ShelfTab tab) { m_tabHover.hoverTab(tab); });
-    connect(m_content.get(), &ShelfContent::tabLeft, this, [this](ShelfTab tab) { m_tabHover.cancelTabHover(tab); });
+    connect(m_content.get(), &ShelfContent::tabHovered, this,
+            [this](ShelfTab tab) { m_tabHover.hoverTab(tab); });
+    connect(m_content.get(), &ShelfContent::tabLeft, this,
+            [this](ShelfTab tab) { m_tabHover.cancelTabHover(tab); });
     connect(m_content.get(), &ShelfContent::messageActed, this, &ShelfController::chooseFolder);
     connect(m_content.get(), &ShelfContent::selectionChanged, this,
             [this] { m_session->selected = m_content->selection(); });
@@ -285,8 +291,7 @@ void ShelfController::receiveNewFiles(const std::vector<Shot> &shots) {
         return;
     std::vector<CaptureNews> news;
     for (const Shot &shot : shots)
-        news.push_back(
-            {.path = shot.location, .isRecording = isRecording(shot), .isFirst = isFirst});
+        news.push_back({.path = shot.location, .isRecording = isRecording(shot), .isFirst = isFirst});
     m_announcer.announceCaptures(news);
 }
 

@@ -25,7 +25,8 @@ struct ShelfDisplay {
     // In the order of the platform's list, the main display first.
     [[nodiscard]] static std::vector<ShelfDisplay> connected(const Displays &displays);
 
-    // What opens the shelf: the physical notch, else a virtual one of 192 × 12 points in the middle of the top edge.
+    // What opens the shelf: the physical notch, else a virtual one of 192 × 12 points in the middle of the
+    // top edge.
     [[nodiscard]] ScreenRect activationRect() const;
 
     bool operator==(const ShelfDisplay &) const = default;

@@ -5,7 +5,8 @@
 namespace tembra {
 
 std::optional<ShelfDisplay> ShelfDisplaySelection::opening(const std::vector<ShelfDisplay> &displays,
-                                                           DisplayPreference preference, ScreenPoint pointer) {
+                                                           DisplayPreference preference,
+                                                           ScreenPoint pointer) {
     if (displays.empty())
         return std::nullopt;
     if (preference == DisplayPreference::main)
@@ -13,7 +14,9 @@ std::optional<ShelfDisplay> ShelfDisplaySelection::opening(const std::vector<She
     const auto isAtNotch = [pointer](const ShelfDisplay &display) {
         return display.activationRect().widened(1 / std::max(display.scale, 1.0)).contains(pointer);
     };
-    const auto isOnScreen = [pointer](const ShelfDisplay &display) { return display.screenFrame.contains(pointer); };
+    const auto isOnScreen = [pointer](const ShelfDisplay &display) {
+        return display.screenFrame.contains(pointer);
+    };
     auto found = std::ranges::find_if(displays, isAtNotch);
     if (found == displays.end())
         found = std::ranges::find_if(displays, isOnScreen);

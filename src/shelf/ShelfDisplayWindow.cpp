@@ -25,7 +25,8 @@ QRect outwards(const QRectF &rect) {
 } // namespace
 
 ShelfDisplayWindow::ShelfDisplayWindow(const ShelfDisplay &display, const ShelfServices &services)
-    : m_services(services), m_display(display),
+    : m_services(services),
+      m_display(display),
       m_zone(services.hotZones.add(display.activationRect(), {.onEnter = [this] { onPointerActivity(); },
                                                               .onLeave = [this] { onPointerActivity(); },
                                                               .onPress = [this] { onActivationPressed(); }})),
@@ -99,7 +100,8 @@ void ShelfDisplayWindow::present(const ShelfPresentation &presentation, bool isA
     if (m_content && presentation.kind != ShelfPresentation::Kind::collapsed)
         m_content->resize(presentation.size);
     updateInputRegion();
-    const bool hasMotion = isAnimated && m_panel->style()->styleHint(QStyle::SH_Widget_Animation_Duration) > 0;
+    const bool hasMotion =
+        isAnimated && m_panel->style()->styleHint(QStyle::SH_Widget_Animation_Duration) > 0;
     if (hasMotion) {
         m_animation.start();
         placeBody();
@@ -174,7 +176,8 @@ SpringMotion::Time ShelfDisplayWindow::elapsed() const {
 }
 
 ScreenRect ShelfDisplayWindow::hangingFromEdge(const QSizeF &size) const {
-    return {m_display.screenFrame.midX() - size.width() / 2, m_display.screenFrame.y, size.width(), size.height()};
+    return {m_display.screenFrame.midX() - size.width() / 2, m_display.screenFrame.y, size.width(),
+            size.height()};
 }
 
 ScreenRect ShelfDisplayWindow::visiblePanel() const {
@@ -190,8 +193,8 @@ ScreenRect ShelfDisplayWindow::panelWindow() const {
     if (!m_panel)
         return m_display.screenFrame;
     const QRect frame = m_panel->geometry();
-    return {static_cast<double>(frame.x()), static_cast<double>(frame.y()), static_cast<double>(frame.width()),
-            static_cast<double>(frame.height())};
+    return {static_cast<double>(frame.x()), static_cast<double>(frame.y()),
+            static_cast<double>(frame.width()), static_cast<double>(frame.height())};
 }
 
 } // namespace tembra

@@ -19,8 +19,8 @@ namespace tembra {
 class ShelfPanel;
 class ShelfView;
 
-// The shelf on one display: the hot zone, and the panel, which is made when it is first needed. Opening and closing is
-// one motion that can turn round at any moment. Main thread; owned by ShelfSurfaces.
+// The shelf on one display: the hot zone, and the panel, which is made when it is first needed. Opening and
+// closing is one motion that can turn round at any moment. Main thread; owned by ShelfSurfaces.
 class ShelfDisplayWindow {
 public:
     ShelfDisplayWindow(const ShelfDisplay &display, const ShelfServices &services);

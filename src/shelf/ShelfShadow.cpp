@@ -36,9 +36,11 @@ void ShelfShadow::render(qreal scale) {
     for (int row = 0; row < pixels; ++row) {
         auto *line = reinterpret_cast<QRgb *>(image.scanLine(row));
         for (int column = 0; column < pixels; ++column) {
-            const double d = distance((column + 0.5) / scale - middle, (row + 0.5) / scale - middle, corner + 0.5);
+            const double d =
+                distance((column + 0.5) / scale - middle, (row + 0.5) / scale - middle, corner + 0.5);
             const double nearness = std::clamp(1 - d / reach, 0.0, 1.0);
-            line[column] = qRgba(0, 0, 0, static_cast<int>(std::lround(255 * strength * std::pow(nearness, 2.6))));
+            line[column] =
+                qRgba(0, 0, 0, static_cast<int>(std::lround(255 * strength * std::pow(nearness, 2.6))));
         }
     }
     image.setDevicePixelRatio(scale);
@@ -50,7 +52,8 @@ void ShelfShadow::draw(QPainter &painter, const QRectF &body) {
     if (m_patch.isNull() || !qFuzzyCompare(m_patch.devicePixelRatio(), scale))
         render(scale);
     const double edge = reach + corner;
-    const QRectF target(body.left() - reach, body.top(), body.width() + 2 * reach, body.height() + reach + drop);
+    const QRectF target(body.left() - reach, body.top(), body.width() + 2 * reach,
+                        body.height() + reach + drop);
     const double width = target.width() - 2 * edge;
     const double bottom = target.bottom() - edge;
     const auto piece = [&](const QRectF &to, const QRectF &from) {

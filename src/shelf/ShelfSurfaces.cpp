@@ -10,7 +10,8 @@ ShelfSurfaces::ShelfSurfaces(const ShelfServices &services, std::function<QWidge
 ShelfSurfaces::~ShelfSurfaces() = default;
 
 void ShelfSurfaces::reconcileDisplayWindows(DisplayPreference preference) {
-    const auto displays = ShelfDisplaySelection::admitted(ShelfDisplay::connected(m_services.displays), preference);
+    const auto displays =
+        ShelfDisplaySelection::admitted(ShelfDisplay::connected(m_services.displays), preference);
     removeVanished(displays);
     for (const ShelfDisplay &display : displays) {
         const auto found = m_windows.find(display.identifier);

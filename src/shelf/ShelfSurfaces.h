@@ -14,11 +14,12 @@
 
 namespace tembra {
 
-// The windows of the shelf, one on each display that the preference admits, of which one shows the content. Main
-// thread; owned by ShelfController.
+// The windows of the shelf, one on each display that the preference admits, of which one shows the content.
+// Main thread; owned by ShelfController.
 class ShelfSurfaces {
 public:
-    // `content` makes what the windows show when it is first shown; it moves between them and must outlive this.
+    // `content` makes what the windows show when it is first shown; it moves between them and must outlive
+    // this.
     ShelfSurfaces(const ShelfServices &services, std::function<QWidget &()> content);
     ~ShelfSurfaces();
     ShelfSurfaces(const ShelfSurfaces &) = delete;
@@ -29,8 +30,8 @@ public:
     std::function<void()> onActivationPressed;
     std::function<void()> onEscape;
 
-    // Brings the windows in step with the displays. When the active one's display has gone, what it presents goes to a
-    // remaining one.
+    // Brings the windows in step with the displays. When the active one's display has gone, what it presents
+    // goes to a remaining one.
     void reconcileDisplayWindows(DisplayPreference preference);
     void removeAll();
     void compositingChanged();

@@ -8,8 +8,8 @@
 
 namespace tembra {
 
-// The root of the panel's window: paints the panel's outline with its shadow and tells of the pointer coming and going.
-// View points.
+// The root of the panel's window: paints the panel's outline with its shadow and tells of the pointer coming
+// and going. View points.
 class ShelfView final : public QWidget {
     Q_OBJECT
 

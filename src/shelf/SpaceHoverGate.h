@@ -6,8 +6,8 @@
 
 namespace tembra {
 
-// Holds back opening while the desktop changes: at least half a second from when it was armed, and until the pointer
-// has been in a ready notch for 0.15 seconds. A value; the uptime is handed in.
+// Holds back opening while the desktop changes: at least half a second from when it was armed, and until the
+// pointer has been in a ready notch for 0.15 seconds. A value; the uptime is handed in.
 class SpaceHoverGate {
 public:
     void arm(Uptime now);

@@ -6,8 +6,8 @@ namespace tembra {
 
 namespace {
 
-// x(t) = target + (a + b t) exp(-w t), the critically damped oscillator; with w t = 7.4 half a percent is left of the
-// way.
+// x(t) = target + (a + b t) exp(-w t), the critically damped oscillator; with w t = 7.4 half a percent is
+// left of the way.
 constexpr double frequency = 7.4 / SpringMotion::settling.count();
 
 } // namespace

@@ -4,8 +4,8 @@
 
 namespace tembra {
 
-// One number that moves to a target like a critically damped spring (no overshoot), settled after 220 ms. A new target
-// at any moment continues with the place and speed of that moment. A value: time is handed in.
+// One number that moves to a target like a critically damped spring (no overshoot), settled after 220 ms. A
+// new target at any moment continues with the place and speed of that moment. A value: time is handed in.
 class SpringMotion {
 public:
     using Time = std::chrono::duration<double>;

@@ -163,8 +163,9 @@ TEST(Settings, aBrokenFileNeverStopsTheStartAndIsKeptAside) {
 
         tembra.start();
         EXPECT_TRUE(tembra.waitFor(isReady)) << broken.toStdString();
-        const QStringList kept =
-            QFileInfo(tembra.settingsFile()).dir().entryList({QStringLiteral("settings.json?*")}, QDir::Files);
+        const QStringList kept = QFileInfo(tembra.settingsFile())
+                                     .dir()
+                                     .entryList({QStringLiteral("settings.json?*")}, QDir::Files);
         ASSERT_EQ(kept.size(), 1) << broken.toStdString();
         QFile aside(QFileInfo(tembra.settingsFile()).path() + u'/' + kept.constFirst());
         ASSERT_TRUE(aside.open(QIODevice::ReadOnly));

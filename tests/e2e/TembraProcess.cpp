@@ -1,8 +1,8 @@
 #include "TembraProcess.h"
 
-#include <QFileInfo>
 #include <QDeadlineTimer>
 #include <QDir>
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QThread>
 

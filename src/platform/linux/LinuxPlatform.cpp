@@ -1,5 +1,4 @@
 #include "platform/Platform.h"
-
 #include "platform/linux/DBusSingleInstance.h"
 #include "platform/linux/FreedesktopThumbnails.h"
 #include "platform/linux/InotifyFolderEvents.h"
@@ -20,7 +19,9 @@ Platform makeHeadlessPlatform(Scheduler &scheduler) {
     platform.folders = linuxStandardFolders();
     platform.defaults =
         std::make_unique<JsonUserDefaults>(platform.folders.configuration + QStringLiteral("/settings.json"));
-    platform.screenCapturePreferences = [folders = platform.folders] { return makeScreenCapturePreferences(folders); };
+    platform.screenCapturePreferences = [folders = platform.folders] {
+        return makeScreenCapturePreferences(folders);
+    };
     auto facts = std::make_unique<LinuxFileFactsReader>();
     platform.folderFiles = std::make_unique<LinuxFolderFiles>(*facts);
     platform.fileReferences = std::make_unique<LinuxFileReferences>(*facts);
@@ -39,7 +40,8 @@ Platform makePlatform(Scheduler &scheduler) {
     platform.inputMonitor = std::move(desktop.inputMonitor);
     platform.panelWindows = std::move(desktop.panelWindows);
     platform.hotZones = std::move(desktop.hotZones);
-    platform.thumbnails = std::make_unique<FreedesktopThumbnails>(scheduler, FreedesktopThumbnails::userLocations());
+    platform.thumbnails =
+        std::make_unique<FreedesktopThumbnails>(scheduler, FreedesktopThumbnails::userLocations());
     return platform;
 }
 
@@ -47,7 +49,8 @@ std::unique_ptr<SingleInstance> makeSingleInstance() {
     return std::make_unique<DBusSingleInstance>();
 }
 
-// A panel at the edge of the screen needs more than plain Wayland windows can do; X11's are to be had there as well.
+// A panel at the edge of the screen needs more than plain Wayland windows can do; X11's are to be had there
+// as well.
 void preparePlatformEnvironment() {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && !qEnvironmentVariableIsEmpty("DISPLAY"))
         qputenv("QT_QPA_PLATFORM", "xcb");
