@@ -6,6 +6,7 @@
 #include "settings/SettingsLoading.h"
 #include "settings/SettingsMigration.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 namespace tembra {
@@ -37,7 +38,8 @@ void AppSettings::adoptLegacyFolder() {
     if (m_defaults.boolean(m_folderPreferences.legacyCheckedKey()).value_or(false))
         return;
     const auto path = m_defaults.string(m_folderPreferences.legacyFolderKey);
-    if (path && !m_defaults.data(m_folderPreferences.bookmarkKey) && QFileInfo(*path).isDir()) {
+    const bool isFolder = path && QDir::isAbsolutePath(*path) && QFileInfo(*path).isDir();
+    if (isFolder && !m_defaults.data(m_folderPreferences.bookmarkKey)) {
         if (const auto bookmark = m_functions.createBookmark(*path))
             m_defaults.setData(m_folderPreferences.bookmarkKey, *bookmark);
     }
