@@ -191,16 +191,19 @@ void AppSettings::refreshFolderAccess() {
 }
 
 void AppSettings::beginOnboarding() {
+    requireMainThread();
     if (!m_state.hasCompletedOnboarding)
         setFlag(&AppSettingsState::hasCaughtFirstScreenshot, settingsKey::hasCaughtFirstScreenshot, false);
 }
 
 void AppSettings::completeOnboarding() {
+    requireMainThread();
     if (m_state.hasFolderAccess)
         setFlag(&AppSettingsState::hasCompletedOnboarding, settingsKey::hasCompletedOnboarding, true);
 }
 
 void AppSettings::markFirstScreenshotCaught() {
+    requireMainThread();
     if (m_state.hasFolderAccess)
         setFlag(&AppSettingsState::hasCaughtFirstScreenshot, settingsKey::hasCaughtFirstScreenshot, true);
 }
