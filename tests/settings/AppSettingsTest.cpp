@@ -1,5 +1,7 @@
 #include "SettingsFixture.h"
 
+#include <thread>
+
 using namespace tembra;
 
 namespace {
@@ -226,4 +228,11 @@ TEST_F(AppSettingsOnboarding, itsFactsNeedAFolderAndEachRunWaitsForAFreshScreens
     EXPECT_EQ(m_updates.size(), 4U);
     EXPECT_EQ(m_defaults.boolean(QStringLiteral("hasCompletedOnboarding")), true);
     EXPECT_TRUE(m_settings->state().hasCaughtFirstScreenshot);
+}
+
+TEST_F(AppSettingsOnboarding, aCallOffTheMainThreadStopsTheProgramEvenWhenNothingWouldChange) {
+    start();
+    for (const auto fact : {&AppSettings::beginOnboarding, &AppSettings::completeOnboarding,
+                            &AppSettings::markFirstScreenshotCaught})
+        EXPECT_DEATH(std::thread([&] { (*m_settings.*fact)(); }).join(), "off the main thread");
 }

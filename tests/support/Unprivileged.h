@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdlib>
 #include <sys/types.h>
 #include <unistd.h>
 
@@ -8,10 +9,10 @@ namespace tembra {
 // While it lives, permissions count for this process even when root runs it.
 class Unprivileged {
 public:
-    Unprivileged() : m_isDropped(::geteuid() == 0 && ::seteuid(nobody) == 0) {}
+    Unprivileged() : m_isDropped(::geteuid() == 0 && ::setresuid(nobody, nobody, 0) == 0) {}
     ~Unprivileged() {
-        if (m_isDropped)
-            static_cast<void>(::seteuid(0) == 0);
+        if (m_isDropped && ::setresuid(0, 0, 0) != 0)
+            std::abort();
     }
     Unprivileged(const Unprivileged &) = delete;
     Unprivileged &operator=(const Unprivileged &) = delete;
