@@ -6,9 +6,6 @@
 #include "settings/SettingsLoading.h"
 #include "settings/SettingsMigration.h"
 
-#include <QDir>
-#include <QFileInfo>
-
 namespace tembra {
 
 AppSettings::AppSettings(UserDefaults &defaults, FolderPreferences folderPreferences,
@@ -38,9 +35,8 @@ void AppSettings::adoptLegacyFolder() {
     if (m_defaults.boolean(m_folderPreferences.legacyCheckedKey()).value_or(false))
         return;
     const auto path = m_defaults.string(m_folderPreferences.legacyFolderKey);
-    const bool isFolder = path && QDir::isAbsolutePath(*path) && QFileInfo(*path).isDir();
-    if (isFolder && !m_defaults.data(m_folderPreferences.bookmarkKey)) {
-        if (const auto bookmark = m_functions.createBookmark(*path))
+    if (path && !m_defaults.data(m_folderPreferences.bookmarkKey)) {
+        if (const auto bookmark = m_folderAccess.grant(*path))
             m_defaults.setData(m_folderPreferences.bookmarkKey, *bookmark);
     }
     m_defaults.setBoolean(m_folderPreferences.legacyCheckedKey(), true);
