@@ -163,7 +163,7 @@ TEST_F(BookmarksTest, whereFilesHaveNoLastingIdentityThePathStands) {
 TEST_F(BookmarksTest, bytesThatAreNoBookmarkAreRefused) {
     for (const char *bytes :
          {"", "x", "[]", "{}", R"({"path":7})", R"({"path":""})", R"({"path":"relative"})",
-          R"({"path":"/tmp","inode":7})", R"({"path":"/tmp","inode":"1"})",
+          R"({"path":"/tmp\u0000/x"})", R"({"path":"/tmp","inode":7})", R"({"path":"/tmp","inode":"1"})",
           R"({"path":"/tmp","inode":"1","volume":"2","generation":"x"})",
           R"({"path":"/tmp","inode":"1","volume":"fffffffffffffffff","generation":"0"})"})
         EXPECT_EQ(codeOf(bytes), Bookmarks::malformed) << bytes;

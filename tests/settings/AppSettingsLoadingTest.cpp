@@ -192,6 +192,13 @@ TEST_F(AppSettingsLoading, theLegacyFolderIsAdoptedOnceAndOnlyWithoutABookmark) 
     EXPECT_EQ(m_settings->state().screenshotsFolder, legacy);
     EXPECT_TRUE(m_settings->state().hasFolderAccess);
 
+    // As with a grant the folder itself is kept, not the link that leads to it.
+    ASSERT_TRUE(QFile::link(legacy, path("link")));
+    m_defaults.values = {{folderKey, path("link/")}};
+    start();
+    EXPECT_EQ(m_settings->state().screenshotsFolder, legacy);
+    EXPECT_EQ(m_defaults.data(bookmarkKey), bookmark(legacy));
+
     m_defaults.remove(bookmarkKey);
     start();
     EXPECT_FALSE(m_settings->state().hasFolderAccess);
@@ -208,8 +215,8 @@ TEST_F(AppSettingsLoading, aLegacyPathThatIsNoUsableFolderIsLeftAlone) {
     ASSERT_TRUE(QDir::setCurrent(m_root.path()));
     static_cast<void>(makeFolder("relative"));
     writeFile(path("file"));
-    for (const QString &legacy :
-         {QString(), QStringLiteral("relative"), path("file"), path("gone"), QStringLiteral("file:///tmp")}) {
+    for (const QString &legacy : {QString(), QStringLiteral("relative"), path("file"), path("gone"),
+                                  makeFolder("Trash/Shots"), QStringLiteral("file:///tmp")}) {
         m_defaults.values = {{folderKey, legacy}};
         start();
         EXPECT_FALSE(m_defaults.contains(bookmarkKey)) << qPrintable(legacy);

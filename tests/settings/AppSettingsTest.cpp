@@ -104,6 +104,13 @@ TEST_F(AppSettingsChanges, switchingAutoCleanOffEndsItsSafetyReview) {
     EXPECT_EQ(m_updates.size(), 2U);
 }
 
+TEST(ScreenshotAutoCleanPeriod, isOfferedByItsDays) {
+    QStringList titles;
+    for (const ScreenshotAutoCleanPeriod period : allScreenshotAutoCleanPeriods)
+        titles.append(title(period));
+    EXPECT_EQ(titles.join(u'|'), QStringLiteral("Never|1 day|3 days|7 days|30 days"));
+}
+
 TEST_F(AppSettingsPreview, switchingItBackOnRestoresWhatTheToolHadBefore) {
     struct Case {
         std::optional<bool> before;
