@@ -147,19 +147,6 @@ TEST_F(BookmarksTest, noFolderOfAnotherVolumeIsOpenedInTheSearch) {
     EXPECT_EQ(errno, EAGAIN);
 }
 
-TEST_F(BookmarksTest, whereFilesHaveNoLastingIdentityThePathStands) {
-    ScratchMount stick(QStringLiteral("vfat"));
-    if (!stick.problem().isEmpty())
-        GTEST_SKIP() << qPrintable(stick.problem());
-    const QString file = writeFile(stick.path() + QStringLiteral("/a.png"));
-    const auto bookmark = m_bookmarks.create(file);
-    ASSERT_TRUE(bookmark);
-    ASSERT_TRUE(QFile::remove(file));
-    EXPECT_EQ(codeOf(*bookmark), Bookmarks::gone);
-    writeFile(file);
-    EXPECT_FALSE(m_bookmarks.resolve(*bookmark)->stale);
-}
-
 TEST_F(BookmarksTest, bytesThatAreNoBookmarkAreRefused) {
     for (const char *bytes :
          {"", "x", "[]", "{}", R"({"path":7})", R"({"path":""})", R"({"path":"relative"})",

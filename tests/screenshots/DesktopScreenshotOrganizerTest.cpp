@@ -96,20 +96,6 @@ TEST_F(DesktopOrganizer, aTakenNameGetsTheFirstFreeCounter) {
     EXPECT_EQ(names(m_desktop), QStringList());
 }
 
-TEST_F(DesktopOrganizer, whateverTheCounterMakesOfItsNameAScreenshotIsStillOne) {
-    if (!m_markers.setMarker(writeFile(inShots(QStringLiteral("any.png"))), true))
-        GTEST_SKIP() << "no extended attributes here";
-    for (const char *name : {"Screenshot from 2024-05-17 09-41-00", "20240517_09h41m00s_grim",
-                             "2024-05-17-094100_800x600_scrot", "Screenshot_20240517_094100"}) {
-        const QString base = QString::fromUtf8(name);
-        const QString file = base + QStringLiteral(".png");
-        writeFile(inShots(file));
-        ASSERT_TRUE(m_detector.isCapture(writeFile(onDesktop(file)))) << name;
-        EXPECT_EQ(move(), (DesktopScreenshotOrganizer::Report{1, 0})) << name;
-        EXPECT_TRUE(m_detector.isCapture(inShots(base + QStringLiteral(" (2).png")))) << name;
-    }
-}
-
 TEST_F(DesktopOrganizer, failuresAreCountedAndLeaveTheFilesWhereTheyAre) {
     writeFile(onDesktop(shotName));
     writeFile(onDesktop(QStringLiteral("Screenshot 2024-05-17 at 09.42.00.png")));

@@ -14,33 +14,6 @@ using namespace tembra;
 
 namespace {
 
-// Facts as from a file system that tells no identities.
-class FactsWithoutIdentity final : public FileFactsReader {
-public:
-    explicit FactsWithoutIdentity(const FileFactsReader &files) : m_files(files) {}
-
-    [[nodiscard]] Result<FileFacts> facts(const QString &path) const override {
-        return m_files.facts(path).map(&withoutIdentity);
-    }
-    [[nodiscard]] Result<FileFacts> targetFacts(const QString &path) const override {
-        return m_files.targetFacts(path).map(&withoutIdentity);
-    }
-    [[nodiscard]] Result<void> canReadFolder(const QString &path, bool enumerateContents) const override {
-        return m_files.canReadFolder(path, enumerateContents);
-    }
-    Result<void> recordCreationDate(const QString &path, Instant createdAt) const override {
-        return m_files.recordCreationDate(path, createdAt);
-    }
-
-private:
-    static FileFacts withoutIdentity(FileFacts facts) {
-        facts.resource.reset();
-        return facts;
-    }
-
-    const FileFactsReader &m_files;
-};
-
 class FolderTraversal : public testing::Test {
 protected:
     [[nodiscard]] QString path(const char *name) const { return m_root.filePath(QString::fromUtf8(name)); }
@@ -74,8 +47,6 @@ TEST_F(FolderTraversal, staysOutOfTheSubfoldersOfBroadFoldersHoweverTheyAreReach
     ASSERT_TRUE(QFile::link(path("home/Pictures"), path("toPictures")));
     ASSERT_TRUE(QFile::link(path("home"), path("toHome")));
     ASSERT_TRUE(QFile::link(path("home/Documents/Shots"), path("home/Desktop/toShots")));
-    const FactsWithoutIdentity plainFiles(m_files);
-    const ScreenshotFolderTraversal plain(m_folders, plainFiles);
     for (const QString &shared : m_traversal.sharedFolders())
         EXPECT_FALSE(m_traversal.includesSubfolders(shared)) << qPrintable(shared);
     struct Case {
@@ -96,10 +67,8 @@ TEST_F(FolderTraversal, staysOutOfTheSubfoldersOfBroadFoldersHoweverTheyAreReach
         {"home/desktop", true},
         {"gone", true},
     };
-    for (const Case &c : cases) {
+    for (const Case &c : cases)
         EXPECT_EQ(m_traversal.includesSubfolders(path(c.folder)), c.isIncluded) << c.folder;
-        EXPECT_EQ(plain.includesSubfolders(path(c.folder)), c.isIncluded) << c.folder;
-    }
 }
 
 TEST_F(FolderTraversal, aBroadFolderMountedASecondTimeIsStillOne) {

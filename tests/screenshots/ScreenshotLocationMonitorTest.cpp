@@ -72,17 +72,6 @@ TEST_F(LocationMonitor, anyNumberOfChecksDuringAReadLeadToOneMore) {
     EXPECT_EQ(m_reads, 2);
 }
 
-TEST_F(LocationMonitor, aCheckFromWithinTheCallbackReadsAgain) {
-    m_monitor->onRead = [this](const ScreenshotDestination &destination) {
-        m_received.append(destination.folder);
-        if (m_reads == 1)
-            m_monitor->check();
-    };
-    m_monitor->start();
-    finishReads();
-    EXPECT_EQ(take(), folders({1, 2}));
-}
-
 TEST_F(LocationMonitor, sleepDropsTheReadUnderWayAndWakeReadsAgain) {
     m_monitor->start();
     m_workspace.raise(Workspace::Event::willSleep);

@@ -131,9 +131,7 @@ TEST_F(AppSettingsPreview, switchingItBackOnRestoresWhatTheToolHadBefore) {
         ASSERT_EQ(m_updates.size(), 1U);
         EXPECT_FALSE(m_updates[0].screenshotPreviewDisabled);
     }
-}
-
-TEST_F(AppSettingsPreview, whereTheUserHadItOffSwitchingItOnShowsIt) {
+    // Where the user had it off without us it is shown.
     m_tool.tool.showThumbnail = false;
     start();
     ASSERT_TRUE(m_settings->setScreenshotPreviewDisabled(false));
