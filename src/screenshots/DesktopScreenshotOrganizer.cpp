@@ -4,6 +4,7 @@
 #include "settings/CocoaError.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -26,14 +27,28 @@ QString candidate(const QDir &folder, const QString &name, int number) {
     return folder.filePath(QStringLiteral("%1 (%2)%3").arg(base).arg(number).arg(extension));
 }
 
+// A file that comes to another volume is a copy, made now and without a marker.
+void keepDateAndMarker(const QString &path, const QDateTime &modifiedAt,
+                       const ScreenshotCaptureDetector &detector) {
+    QFile file(path);
+    if (QFileInfo(path).lastModified() != modifiedAt && file.open(QIODevice::ReadOnly))
+        file.setFileTime(modifiedAt, QFileDevice::FileModificationTime);
+    file.close();
+    if (!detector.isCapture(path))
+        detector.markAsCapture(path);
+}
+
 // Renaming refuses a name that is taken, also one taken since it was looked at.
-bool moveInto(const QDir &folder, const QFileInfo &file) {
+bool moveInto(const QDir &folder, const QFileInfo &file, const ScreenshotCaptureDetector &detector) {
+    const QDateTime modifiedAt = file.lastModified();
     for (int number = 1;; ++number) {
         const QString target = candidate(folder, file.fileName(), number);
         if (QFileInfo::exists(target) || QFileInfo(target).isSymLink())
             continue;
-        if (QFile::rename(file.filePath(), target))
+        if (QFile::rename(file.filePath(), target)) {
+            keepDateAndMarker(target, modifiedAt, detector);
             return true;
+        }
         if (!QFileInfo::exists(target))
             return false;
     }
@@ -67,11 +82,13 @@ DesktopScreenshotOrganizer::moveScreenshots(const QString &from, const QString &
             sentence(QT_TRANSLATE_NOOP("DesktopScreenshotOrganizer", "The folder “%1” cannot be read."),
                      from));
     Report report;
+    if (QFileInfo(from).canonicalFilePath() == QFileInfo(to).canonicalFilePath())
+        return report;
     const QFileInfoList entries = source.entryInfoList(QDir::Files | QDir::Hidden | QDir::NoSymLinks);
     for (const QFileInfo &file : entries) {
         if (detector.isVideoName(file.fileName()) || !detector.isCapture(file.filePath()))
             continue;
-        ++(moveInto(QDir(to), file) ? report.moved : report.failed);
+        ++(moveInto(QDir(to), file, detector) ? report.moved : report.failed);
     }
     return report;
 }

@@ -21,7 +21,8 @@ struct DesktopScreenshotOrganizer {
     // "POSIX".
     static Result<void> createFolder(const QString &folder);
     // Moves every screenshot, but no recording, of the one folder into the other; a name that is taken gets a
-    // counter. What cannot be moved stays where it is. Error: the source cannot be listed.
+    // counter. Their dates and their being captures outlast the move to another volume. What cannot be moved
+    // stays where it is. Error: the source cannot be listed.
     static Result<Report> moveScreenshots(const QString &from, const QString &to,
                                           const ScreenshotCaptureDetector &detector);
 };

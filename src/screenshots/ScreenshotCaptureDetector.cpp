@@ -53,4 +53,8 @@ Result<void> ScreenshotCaptureDetector::preserveClassification(const QString &fr
     return m_markers.setMarker(to, marker.value_or(true));
 }
 
+Result<void> ScreenshotCaptureDetector::markAsCapture(const QString &path) const {
+    return m_markers.setMarker(path, true);
+}
+
 } // namespace tembra

@@ -9,6 +9,26 @@ namespace tembra {
 
 namespace {
 
+QDateTime dateTime(Instant instant, const QTimeZone &zone) {
+    const auto milliseconds = std::chrono::floor<std::chrono::milliseconds>(instant.time_since_epoch());
+    return QDateTime::fromMSecsSinceEpoch(milliseconds.count(), zone);
+}
+
+// The first moment of a day. A day that the calendar leaves out begins with the next.
+Instant startOf(QDate day, const QTimeZone &zone) {
+    QDateTime found = day.startOfDay(zone);
+    if (!found.isValid())
+        found = day.addDays(1).startOfDay(zone);
+    const Instant start{std::chrono::milliseconds(found.toMSecsSinceEpoch())};
+    // Where the clock is set back over midnight the day begins twice, and what was found is the second time.
+    constexpr auto recently = std::chrono::hours(3);
+    const auto offset = [&zone](Instant instant) {
+        return std::chrono::seconds(zone.offsetFromUtc(dateTime(instant, QTimeZone::utc())));
+    };
+    const Instant first = start - (offset(start - recently) - offset(start));
+    return first < start && dateTime(first, zone).date() == found.date() ? first : start;
+}
+
 // Where the days begin that part the sections.
 struct DayStarts {
     Instant today;
@@ -16,14 +36,10 @@ struct DayStarts {
     Instant recent;
 
     DayStarts(Instant now, const QTimeZone &zone) {
-        const auto milliseconds = std::chrono::floor<std::chrono::milliseconds>(now.time_since_epoch());
-        const QDate date = QDateTime::fromMSecsSinceEpoch(milliseconds.count(), zone).date();
-        const auto startOf = [&zone](QDate day) {
-            return Instant(std::chrono::milliseconds(day.startOfDay(zone).toMSecsSinceEpoch()));
-        };
-        today = startOf(date);
-        yesterday = startOf(date.addDays(-1));
-        recent = startOf(date.addDays(-6));
+        const QDate date = dateTime(now, zone).date();
+        today = startOf(date, zone);
+        yesterday = startOf(date.addDays(-1), zone);
+        recent = startOf(date.addDays(-6), zone);
     }
 
     [[nodiscard]] ScreenshotSectionKind kind(Instant createdAt) const {

@@ -6,8 +6,6 @@
 #include "settings/SettingsLoading.h"
 #include "settings/SettingsMigration.h"
 
-#include <QFileInfo>
-
 namespace tembra {
 
 AppSettings::AppSettings(UserDefaults &defaults, FolderPreferences folderPreferences,
@@ -37,8 +35,8 @@ void AppSettings::adoptLegacyFolder() {
     if (m_defaults.boolean(m_folderPreferences.legacyCheckedKey()).value_or(false))
         return;
     const auto path = m_defaults.string(m_folderPreferences.legacyFolderKey);
-    if (path && !m_defaults.data(m_folderPreferences.bookmarkKey) && QFileInfo(*path).isDir()) {
-        if (const auto bookmark = m_functions.createBookmark(*path))
+    if (path && !m_defaults.data(m_folderPreferences.bookmarkKey)) {
+        if (const auto bookmark = m_folderAccess.grant(*path))
             m_defaults.setData(m_folderPreferences.bookmarkKey, *bookmark);
     }
     m_defaults.setBoolean(m_folderPreferences.legacyCheckedKey(), true);
@@ -189,16 +187,19 @@ void AppSettings::refreshFolderAccess() {
 }
 
 void AppSettings::beginOnboarding() {
+    requireMainThread();
     if (!m_state.hasCompletedOnboarding)
         setFlag(&AppSettingsState::hasCaughtFirstScreenshot, settingsKey::hasCaughtFirstScreenshot, false);
 }
 
 void AppSettings::completeOnboarding() {
+    requireMainThread();
     if (m_state.hasFolderAccess)
         setFlag(&AppSettingsState::hasCompletedOnboarding, settingsKey::hasCompletedOnboarding, true);
 }
 
 void AppSettings::markFirstScreenshotCaught() {
+    requireMainThread();
     if (m_state.hasFolderAccess)
         setFlag(&AppSettingsState::hasCaughtFirstScreenshot, settingsKey::hasCaughtFirstScreenshot, true);
 }

@@ -39,6 +39,8 @@ std::optional<QString> FileFinder::find(const FileResource &resource, const QStr
     places += m_furtherFolders;
     places.removeDuplicates();
     for (const QString &place : places) {
+        if (!isOnVolume(place, resource.volume))
+            continue;
         if (auto found = findIn(place, resource))
             return found;
     }
@@ -48,6 +50,12 @@ std::optional<QString> FileFinder::find(const FileResource &resource, const QStr
 bool FileFinder::isAt(const QString &path, const FileResource &resource) const {
     const auto facts = m_reader.facts(path);
     return facts && facts->resource == resource;
+}
+
+// A folder of another volume does not hold the file, and to open one can mean to mount it.
+bool FileFinder::isOnVolume(const QString &folder, std::uint64_t volume) const {
+    const auto facts = m_reader.targetFacts(folder);
+    return facts && facts->resource && facts->resource->volume == volume;
 }
 
 // The names of a folder come with their inodes, so that only those that can be the file are asked further.

@@ -21,6 +21,7 @@ public:
 
 private:
     [[nodiscard]] bool isAt(const QString &path, const FileResource &resource) const;
+    [[nodiscard]] bool isOnVolume(const QString &folder, std::uint64_t volume) const;
     [[nodiscard]] std::optional<QString> findIn(const QString &folder, const FileResource &resource) const;
 
     const FileFactsReader &m_reader;

@@ -29,9 +29,17 @@ std::optional<QByteArray> dataOf(const QJsonValue &value) {
     return decoded ? std::optional(std::move(decoded.decoded)) : std::nullopt;
 }
 
+// The file that links lead to, also when it is not there yet. A ring of links is given up.
+QString behindLinks(QString path) {
+    constexpr int mostLinks = 40;
+    for (int link = 0; link < mostLinks && QFileInfo(path).isSymLink(); ++link)
+        path = QFileInfo(path).symLinkTarget();
+    return path;
+}
+
 } // namespace
 
-JsonUserDefaults::JsonUserDefaults(QString path) : m_path(std::move(path)) {
+JsonUserDefaults::JsonUserDefaults(const QString &path) : m_path(behindLinks(path)) {
     load();
 }
 
@@ -66,15 +74,12 @@ void JsonUserDefaults::keepAside(const QString &reason) {
 void JsonUserDefaults::save() {
     if (!m_mayWrite)
         return;
-    // A link that leads to the file elsewhere stays a link.
-    const QFileInfo info(m_path);
-    const QString target = info.isSymLink() ? info.symLinkTarget() : m_path;
-    QDir().mkpath(QFileInfo(target).path());
-    QSaveFile file(target);
+    QDir().mkpath(QFileInfo(m_path).path());
+    QSaveFile file(m_path);
     const QByteArray text = QJsonDocument(m_values).toJson(QJsonDocument::Indented);
     const bool saved = file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit();
     if (!saved && !m_saveFailed)
-        qWarning("Settings cannot be saved to %s: %s", qUtf8Printable(target),
+        qWarning("Settings cannot be saved to %s: %s", qUtf8Printable(m_path),
                  qUtf8Printable(file.errorString()));
     m_saveFailed = !saved;
 }

@@ -13,7 +13,8 @@ namespace tembra {
 // process. Values of kinds unknown here are kept as they are.
 class JsonUserDefaults final : public UserDefaults {
 public:
-    explicit JsonUserDefaults(QString path);
+    // Links are followed: they stay links, whatever happens to the file that they lead to.
+    explicit JsonUserDefaults(const QString &path);
 
     [[nodiscard]] bool contains(const QString &key) const override;
     [[nodiscard]] std::optional<bool> boolean(const QString &key) const override;

@@ -31,7 +31,7 @@ QByteArray encode(const Record &record) {
 std::optional<Record> decode(const QByteArray &bookmark) {
     const QJsonObject object = QJsonDocument::fromJson(bookmark).object();
     Record record{.path = object.value(QStringLiteral("path")).toString()};
-    if (!record.path.startsWith(u'/'))
+    if (!record.path.startsWith(u'/') || record.path.contains(QChar::Null))
         return std::nullopt;
     if (!object.contains(QStringLiteral("inode")))
         return record;

@@ -11,9 +11,14 @@ QString folder(QStandardPaths::StandardLocation location) {
     return QDir::cleanPath(QStandardPaths::writableLocation(location));
 }
 
-QString runtimeFolder() {
-    const QString given = qEnvironmentVariable("XDG_RUNTIME_DIR");
-    return given.startsWith(u'/') ? QDir::cleanPath(given) : QDir::cleanPath(QDir::tempPath());
+// A relative path in the environment does not count: every program would find another folder.
+QString baseFolder(const char *variable, const QString &fallback) {
+    const QString given = qEnvironmentVariable(variable);
+    return QDir::cleanPath(given.startsWith(u'/') ? given : fallback);
+}
+
+QString dataFolder() {
+    return baseFolder("XDG_DATA_HOME", QDir::homePath() + QStringLiteral("/.local/share"));
 }
 
 void setOwnFolders(StandardFolders &folders) {
@@ -26,16 +31,17 @@ void setOwnFolders(StandardFolders &folders) {
         folders.runtime = root + QStringLiteral("/runtime");
         return;
     }
-    folders.configuration = folder(QStandardPaths::GenericConfigLocation) + name;
-    folders.data = folder(QStandardPaths::GenericDataLocation) + name;
-    folders.cache = folder(QStandardPaths::GenericCacheLocation) + name;
-    folders.runtime = runtimeFolder() + name;
+    const QString user = QDir::homePath();
+    folders.configuration = baseFolder("XDG_CONFIG_HOME", user + QStringLiteral("/.config")) + name;
+    folders.data = dataFolder() + name;
+    folders.cache = baseFolder("XDG_CACHE_HOME", user + QStringLiteral("/.cache")) + name;
+    folders.runtime = baseFolder("XDG_RUNTIME_DIR", QDir::tempPath()) + name;
 }
 
 } // namespace
 
 StandardFolders linuxStandardFolders() {
-    const QString data = folder(QStandardPaths::GenericDataLocation);
+    const QString data = dataFolder();
     StandardFolders folders;
     folders.home = QDir::cleanPath(QDir::homePath());
     folders.desktop = folder(QStandardPaths::DesktopLocation);
