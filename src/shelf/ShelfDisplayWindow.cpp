@@ -57,7 +57,7 @@ void ShelfDisplayWindow::makePanel() {
 
 void ShelfDisplayWindow::placePanel() {
     const QSize largest = largestPanel.expandedTo(m_presentation.size);
-    const QSize canvas(largest.width() + 2 * ShelfShadow::reach, largest.height() + ShelfShadow::reach + 8);
+    const QSize canvas(largest.width() + 2 * ShelfShadow::reach, largest.height() + ShelfShadow::reach + ShelfShadow::drop);
     const ScreenRect frame = hangingFromEdge(canvas);
     m_panel->setGeometry(static_cast<int>(std::lround(frame.x)), static_cast<int>(std::lround(frame.y)),
                          canvas.width(), canvas.height());

@@ -12,10 +12,10 @@ namespace tembra {
 
 namespace {
 
-constexpr double strength = 0.42;
+constexpr double strength = 0.55;
+// The shadow thins out from this far inside its edge, so that no line shows where it begins.
+constexpr double softness = 28;
 constexpr double corner = ShelfPanelShape::bottomRadius;
-// Light comes from above, so that the shadow lies lower than the panel.
-constexpr double drop = 8;
 // The patch: the reach on each side, a corner, and one point in the middle that is stretched.
 constexpr int side = 2 * (ShelfShadow::reach + static_cast<int>(corner)) + 1;
 
@@ -38,7 +38,7 @@ void ShelfShadow::render(qreal scale) {
         for (int column = 0; column < pixels; ++column) {
             const double d =
                 distance((column + 0.5) / scale - middle, (row + 0.5) / scale - middle, corner + 0.5);
-            const double nearness = std::clamp(1 - d / reach, 0.0, 1.0);
+            const double nearness = std::clamp((reach - d) / (reach + softness), 0.0, 1.0);
             line[column] =
                 qRgba(0, 0, 0, static_cast<int>(std::lround(255 * strength * std::pow(nearness, 2.6))));
         }

@@ -12,6 +12,8 @@ class ShelfShadow {
 public:
     // How far it reaches beyond the panel's sides and bottom, in points.
     static constexpr int reach = 56;
+    // How much lower than the panel it lies: light comes from above.
+    static constexpr int drop = 12;
 
     // Draws the shadow of a panel with this body, which is to be painted over it.
     void draw(QPainter &painter, const QRectF &body);
