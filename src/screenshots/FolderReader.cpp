@@ -48,15 +48,19 @@ FolderReader::FolderReader(const FolderFiles &files, const ScreenshotCaptureDete
 FolderScanResult FolderReader::readFolder(const FolderScanRequest &request) {
     begin(request);
     FolderScanResult result;
+    const auto isCancelled = [&request] { return request.cancellation && *request.cancellation; };
     const auto listed =
         m_files.list(request.folder, request.includesSubfolders, [&](const FolderFiles::Listed &file) {
-            visit(file, request, result);
-            return !(request.cancellation && *request.cancellation);
+            visit(file, request);
+            return !isCancelled();
         });
     if (!listed) {
         result.error = listed.error();
         return result;
     }
+    // What a listing that was broken off has not met may still be there.
+    if (isCancelled())
+        return result;
     std::erase_if(m_entries, [this](const auto &entry) { return entry.second.lastScan != m_scan; });
     collect(request, result);
     return result;
@@ -72,8 +76,7 @@ void FolderReader::begin(const FolderScanRequest &request) {
     ++m_scan;
 }
 
-void FolderReader::visit(const FolderFiles::Listed &listed, const FolderScanRequest &request,
-                         FolderScanResult &result) {
+void FolderReader::visit(const FolderFiles::Listed &listed, const FolderScanRequest &request) {
     if (!mayBeMedia(listed.relativePath()))
         return;
     auto found = m_entries.find(listed.relativePath());
@@ -87,12 +90,9 @@ void FolderReader::visit(const FolderFiles::Listed &listed, const FolderScanRequ
                            entry.retries >= retryBudget;
     if (isSame && isSettled)
         return;
-    const bool wasShown = isKnown && entry.verdict == Verdict::complete;
     entry.retries = isSame ? entry.retries + 1 : 0;
     entry.version = listed.version();
     judge(entry, listed, request);
-    if (entry.verdict == Verdict::complete && entry.isFresh && !wasShown)
-        result.arrivals.push_back(entry.shot);
 }
 
 void FolderReader::judge(Entry &entry, const FolderFiles::Listed &listed, const FolderScanRequest &request) {
@@ -134,9 +134,14 @@ FolderReader::Verdict FolderReader::verdict(const OpenFile &file, QStringView fi
 void FolderReader::collect(const FolderScanRequest &request, FolderScanResult &result) {
     std::vector<const Shot *> shown;
     shown.reserve(m_entries.size());
-    for (const auto &[path, entry] : m_entries) {
-        if (entry.verdict == Verdict::complete && !request.dismissed.contains(entry.shot.stamp))
+    for (auto &[path, entry] : m_entries) {
+        const bool isComplete = entry.verdict == Verdict::complete;
+        const bool wasComplete = std::exchange(entry.wasComplete, entry.wasComplete || isComplete);
+        if (isComplete && !request.dismissed.contains(entry.shot.stamp)) {
             shown.push_back(&entry.shot);
+            if (entry.isFresh && !wasComplete)
+                result.arrivals.push_back(entry.shot);
+        }
         const bool isAwaited = entry.retries < retryBudget;
         result.hasUnfinishedImages |= isAwaited && entry.verdict == Verdict::unfinishedImage;
         result.hasUnfinishedVideos |= isAwaited && entry.verdict == Verdict::unfinishedVideo;
