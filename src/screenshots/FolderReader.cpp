@@ -20,6 +20,13 @@ constexpr auto justWritten = 3s;
 // A file that was made longer ago than this was moved here, it is no new capture.
 constexpr auto fresh = 2min;
 
+// How long a version has stood unchanged. A date in the future is a clock that was wrong: the file is as old
+// as it gets.
+std::chrono::nanoseconds stillFor(const FileVersion &version, Instant now) {
+    const auto age = now - version.modifiedAt;
+    return age > -justWritten ? age : std::chrono::nanoseconds::max();
+}
+
 QString stampOf(const FileVersion &version) {
     return QStringLiteral("%1-%2-%3-%4")
         .arg(version.size, 0, 16)
@@ -90,7 +97,10 @@ void FolderReader::visit(const FolderFiles::Listed &listed, const FolderScanRequ
                            entry.retries >= retryBudget;
     if (isSame && isSettled)
         return;
-    entry.retries = isSame ? entry.retries + 1 : 0;
+    // Time alone may make a young version whole: looking at it often, as in a busy folder, does not count.
+    const auto youth = entry.verdict == Verdict::unfinishedVideo ? VideoCompleteness::abandoned : justWritten;
+    const bool counts = isSame && stillFor(entry.version, request.now) > youth;
+    entry.retries = counts ? entry.retries + 1 : 0;
     entry.version = listed.version();
     judge(entry, listed, request);
 }
@@ -121,14 +131,12 @@ void FolderReader::judge(Entry &entry, const FolderFiles::Listed &listed, const 
 FolderReader::Verdict FolderReader::verdict(const OpenFile &file, QStringView fileName,
                                             const FileVersion &version, Instant now) const {
     const QString extension = CaptureMedia::extension(fileName);
-    const auto stillFor = now - version.modifiedAt;
+    const auto age = stillFor(version, now);
     if (m_detector.isVideoName(fileName))
-        return VideoCompleteness::isCompleteVideo(file, extension, stillFor) ? Verdict::complete
-                                                                             : Verdict::unfinishedVideo;
-    // A date in the future is a clock that was wrong: the file is as old as it gets.
-    const bool wasJustWritten = stillFor < justWritten && stillFor > -justWritten;
-    return ImageCompleteness::isCompleteImage(file, extension, wasJustWritten) ? Verdict::complete
-                                                                               : Verdict::unfinishedImage;
+        return VideoCompleteness::isCompleteVideo(file, extension, age) ? Verdict::complete
+                                                                        : Verdict::unfinishedVideo;
+    return ImageCompleteness::isCompleteImage(file, extension, age < justWritten) ? Verdict::complete
+                                                                                  : Verdict::unfinishedImage;
 }
 
 void FolderReader::collect(const FolderScanRequest &request, FolderScanResult &result) {

@@ -282,7 +282,7 @@ TEST_F(FileWatcherServiceTest, lookingAgainEndsWhenNothingChangesAndBeginsAnewWh
     write(firstName, pictureBytes("png").first(60));
     write(QStringLiteral("2026-11-21 10-15-22.mp4"), "no video");
     start();
-    EXPECT_LE(pass(1h), 2 * FolderReader::retryBudget);
+    EXPECT_LE(pass(1h), 3 * FolderReader::retryBudget);
     EXPECT_EQ(scheduler.pendingCount(), 0);
     write(firstName, pictureBytes("png").first(70));
     events.sendDirectory(FolderEvents::write);
