@@ -27,11 +27,11 @@ std::chrono::nanoseconds stillFor(const FileVersion &version, Instant now) {
     return age > -justWritten ? age : std::chrono::nanoseconds::max();
 }
 
+// Not the last change of attributes: a capture that was dismissed stays so when it is renamed or tagged.
 QString stampOf(const FileVersion &version) {
-    return QStringLiteral("%1-%2-%3-%4")
+    return QStringLiteral("%1-%2-%3")
         .arg(version.size, 0, 16)
         .arg(version.modifiedAt.time_since_epoch().count(), 0, 16)
-        .arg(version.changedAt.time_since_epoch().count(), 0, 16)
         .arg(version.inode, 0, 16);
 }
 

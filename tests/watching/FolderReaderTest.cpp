@@ -148,6 +148,12 @@ TEST_F(FolderReaderTest, aDismissedVersionStaysHiddenAndASavedOneComesBack) {
     }
     EXPECT_EQ(shown(), QStringList(secondName));
     EXPECT_EQ(shown(), QStringList(secondName));
+    const QString otherName = QStringLiteral("Screenshot_20261121_101503.png");
+    ASSERT_TRUE(QFile::rename(path(firstName), path(otherName)));
+    EXPECT_EQ(shown(), QStringList(secondName)) << "renamed";
+    ASSERT_TRUE(QFile::setPermissions(path(otherName), QFile::ReadOwner | QFile::WriteOwner));
+    ASSERT_TRUE(QFile::rename(path(otherName), path(firstName)));
+    EXPECT_EQ(shown(), QStringList(secondName)) << "named as before";
     write(firstName, 59min);
     EXPECT_EQ(shown(), QStringList({firstName, secondName}));
     dismissed.insert(read().shots.at(0).stamp);
