@@ -33,7 +33,7 @@ bool hasPngEnd(const OpenFile &file, std::uint64_t size, std::uint64_t offset) {
 // Where the compressed data of a JPEG scan ends: at a marker that is no restart. A byte of 0xff in the data
 // itself is followed by a zero (ITU-T T.81, B.1.1.5).
 std::optional<std::uint64_t> endOfScan(const OpenFile &file, std::uint64_t offset) {
-    std::array<char, 16 * 1024> block{};
+    std::array<char, 16'384> block{};
     for (;;) {
         const std::string_view data = readAt(file, offset, block);
         if (data.size() < 2)

@@ -68,7 +68,7 @@ protected:
 
     const QTemporaryDir m_home;
     const QString m_folder = m_home.filePath(QStringLiteral("parent/Screenshots"));
-    const LinuxFileFactsReader m_reader;
+    const LinuxFileFactsReader m_reader{};
     QtScheduler m_scheduler;
     InotifyFolderEvents m_events{m_reader, m_scheduler};
     std::unique_ptr<FolderEvents::Handle> m_directory;

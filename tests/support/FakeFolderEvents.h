@@ -60,9 +60,10 @@ private:
 
     template <class Callback, class Events>
     static void send(const Watches<Callback> &watches, const Events &events) {
-        const Watches<Callback> before = watches;
-        for (const auto &watch : before) {
-            if (const auto callback = watch.lock())
+        // The callbacks may add watches.
+        const std::size_t count = watches.size();
+        for (std::size_t i = 0; i < count; ++i) {
+            if (const auto callback = watches[i].lock())
                 (*callback)(events);
         }
     }

@@ -19,9 +19,9 @@ protected:
     }
 
     const QTemporaryDir m_folder;
-    const LinuxFileFactsReader m_facts;
+    const LinuxFileFactsReader m_facts{};
     const LinuxFolderFiles m_files{m_facts};
-    const LinuxCaptureMarkers m_markers;
+    const LinuxCaptureMarkers m_markers{};
     const ScreenshotCaptureDetector m_detector{m_markers, m_files};
     const std::unique_ptr<OpenFile> m_file =
         m_files.open(writeFile(m_folder.filePath(QStringLiteral("empty")), {})).value();

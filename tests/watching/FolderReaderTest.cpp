@@ -28,7 +28,7 @@ class FolderReaderTest : public testing::Test {
 protected:
     QString write(const QString &name, std::chrono::nanoseconds age = 1h,
                   const QByteArray &content = pictureBytes("png")) const {
-        const QString file = writeFile(path(name), content);
+        QString file = writeFile(path(name), content);
         setModified(file, now - age);
         return file;
     }
@@ -63,14 +63,14 @@ protected:
 
 private:
     const QTemporaryDir m_folder;
-    const LinuxFileFactsReader m_facts;
+    const LinuxFileFactsReader m_facts{};
     const LinuxFolderFiles m_realFiles{m_facts};
 
 protected:
     CountingFolderFiles m_files{m_realFiles};
 
 private:
-    const LinuxCaptureMarkers m_markers;
+    const LinuxCaptureMarkers m_markers{};
     const ScreenshotCaptureDetector m_detector{m_markers, m_files};
     FolderReader m_reader{m_files, m_detector, [this] { return customPrefix; }};
 };

@@ -41,9 +41,9 @@ protected:
     }
 
     const QTemporaryDir m_folder;
-    const LinuxFileFactsReader m_facts;
+    const LinuxFileFactsReader m_facts{};
     const LinuxFolderFiles m_files{m_facts};
-    const LinuxCaptureMarkers m_markers;
+    const LinuxCaptureMarkers m_markers{};
     const ScreenshotCaptureDetector m_detector{m_markers, m_files};
 };
 

@@ -38,7 +38,7 @@ protected:
     [[nodiscard]] QString path(const QString &name) const { return folder + u'/' + name; }
     // Writes a file that was modified now, as the virtual time has it.
     QString write(const QString &name, const QByteArray &content = pictureBytes("png")) const {
-        const QString file = writeFile(path(name), content);
+        QString file = writeFile(path(name), content);
         setModified(file, now());
         return file;
     }
@@ -93,9 +93,9 @@ protected:
 
 private:
     const WallClock m_clock = scheduler.wallClock(systemNow());
-    const LinuxFileFactsReader m_facts;
+    const LinuxFileFactsReader m_facts{};
     const LinuxFolderFiles m_files{m_facts};
-    const LinuxCaptureMarkers m_markers;
+    const LinuxCaptureMarkers m_markers{};
     const ScreenshotCaptureDetector m_detector{m_markers, m_files};
 
 protected:

@@ -56,7 +56,7 @@ TreeWatch::TreeWatch(InotifyInstance &instance, Scheduler &scheduler, std::uint6
       m_onEvents(std::move(onEvents)) {}
 
 Result<void> TreeWatch::start() {
-    if (const auto watched = watchFolder(m_folder); !watched)
+    if (auto watched = watchFolder(m_folder); !watched)
         return watched;
     watchAncestors();
     if (m_recursive)
