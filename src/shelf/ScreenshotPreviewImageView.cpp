@@ -28,12 +28,12 @@ void ScreenshotPreviewImageView::draw(QPainter &painter, const QRectF &rectangle
     const qreal corner = std::min(radius, std::min(rectangle.width(), rectangle.height()) / 2);
     painter.save();
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    // Filling with a brush, unlike clipping, gives smooth corners.
-    QBrush brush(image);
+    // Filling with a brush, unlike clipping, gives smooth corners. Its scale is told by the transformation alone.
+    QImage texture = image;
+    texture.setDevicePixelRatio(1);
+    QBrush brush(texture);
     QTransform toRectangle = QTransform::fromTranslate(rectangle.x(), rectangle.y());
     toRectangle.scale(rectangle.width() / image.width(), rectangle.height() / image.height());
-    const qreal imageScale = image.devicePixelRatio();
-    toRectangle.scale(imageScale, imageScale);
     brush.setTransform(toRectangle);
     painter.setPen(Qt::NoPen);
     painter.setBrush(brush);
