@@ -363,7 +363,9 @@ void ShelfController::scheduleDisplayReconciliation() {
 
 void ShelfController::reconcileDisplayWindows() {
     m_surfaces->reconcileDisplayWindows(m_settings.state().displayPreference);
-    m_hover.requestPointerEvaluation();
+    // An open shelf that came here from another display waits for the pointer to follow.
+    if (!m_expanded)
+        m_hover.requestPointerEvaluation();
 }
 
 void ShelfController::refreshTimeline() {
