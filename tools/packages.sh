@@ -2,7 +2,7 @@
 
 build_packages=(
   g++ cmake ninja-build ccache pkg-config
-  qt6-base-dev libqt6svg6-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
+  qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
   libexpected-dev libglib2.0-dev
   libxcb1-dev libxcb-xfixes0-dev libxcb-xinput-dev libxcb-shape0-dev libxcb-xtest0-dev
   libheif-dev
