@@ -58,8 +58,17 @@ QRect ScreenshotGridLayout::itemRect(int index) const {
     return {x, block.itemsTop + place / m_columns * pitch(), Grid::itemWidth, m_itemHeight};
 }
 
+QRect ScreenshotGridLayout::itemRectWithTitle(int index) const {
+    const Block &block = blockOf(index);
+    const QRect item = itemRect(index);
+    return index - block.first < m_columns ? item.united(headerRect(block)) : item;
+}
+
 QRect ScreenshotGridLayout::headerRect(int section) const {
-    const Block &block = m_blocks[static_cast<std::size_t>(section)];
+    return headerRect(m_blocks[static_cast<std::size_t>(section)]);
+}
+
+QRect ScreenshotGridLayout::headerRect(const Block &block) const {
     if (!block.hasHeader)
         return {};
     const int top = block.itemsTop - headerToItems - headerHeight;
