@@ -4,7 +4,25 @@
 
 #include <QPainter>
 
+#include <algorithm>
+#include <cmath>
+
 namespace tembra {
+
+namespace {
+
+// Between device pixels the edges and their hairline would be blurred. A turned picture has no such place.
+QRectF onDevicePixels(const QPainter &painter, const QRectF &rectangle) {
+    const QTransform &toDevice = painter.deviceTransform();
+    if (toDevice.type() > QTransform::TxScale)
+        return rectangle;
+    const QRectF device = toDevice.mapRect(rectangle);
+    const QPointF corner(std::round(device.x()), std::round(device.y()));
+    const QSizeF size(std::max(1.0, std::round(device.width())), std::max(1.0, std::round(device.height())));
+    return toDevice.inverted().mapRect(QRectF(corner, size));
+}
+
+} // namespace
 
 ScreenshotPreviewImageView::ScreenshotPreviewImageView(QWidget *parent) : QWidget(parent) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -22,18 +40,19 @@ QRectF ScreenshotPreviewImageView::fitted(const QImage &image, const QRectF &rec
     return result;
 }
 
-void ScreenshotPreviewImageView::draw(QPainter &painter, const QRectF &rectangle, const QImage &image,
+void ScreenshotPreviewImageView::draw(QPainter &painter, const QRectF &place, const QImage &image,
                                       qreal radius) {
+    const QRectF rectangle = onDevicePixels(painter, place);
     const qreal hairline = 1 / painter.device()->devicePixelRatioF();
     const qreal corner = std::min(radius, std::min(rectangle.width(), rectangle.height()) / 2);
     painter.save();
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    // Filling with a brush, unlike clipping, gives smooth corners.
-    QBrush brush(image);
+    // Filling with a brush, unlike clipping, gives smooth corners. A brush is laid out in the image's pixels.
+    QImage pixels = image;
+    pixels.setDevicePixelRatio(1);
+    QBrush brush(pixels);
     QTransform toRectangle = QTransform::fromTranslate(rectangle.x(), rectangle.y());
     toRectangle.scale(rectangle.width() / image.width(), rectangle.height() / image.height());
-    const qreal imageScale = image.devicePixelRatio();
-    toRectangle.scale(imageScale, imageScale);
     brush.setTransform(toRectangle);
     painter.setPen(Qt::NoPen);
     painter.setBrush(brush);
