@@ -28,20 +28,32 @@ qsizetype lastFitting(const QString &text, const QFontMetricsF &metrics,
     return last;
 }
 
-// Where the first line ends: between words, else between characters; one that is wider than the line stays
-// whole.
-qsizetype lineEnd(const QString &text, const QFontMetricsF &metrics) {
-    for (const auto kind : {QTextBoundaryFinder::Line, QTextBoundaryFinder::Grapheme}) {
-        if (const qsizetype end = lastFitting(text, metrics, kind); end > 0)
-            return end;
-    }
-    return QTextBoundaryFinder(QTextBoundaryFinder::Grapheme, text).toNextBoundary();
-}
-
 bool isWordStart(const QString &text, qsizetype at) {
     const QChar before = text[at - 1];
     return text[at].isLetterOrNumber() && !before.isLetterOrNumber() && !before.isMark() &&
            !before.isSurrogate();
+}
+
+// The last place behind a sign or before the extension that leaves the line half full at least; else 0.
+qsizetype lastPart(const QString &text, const QFontMetricsF &metrics) {
+    for (qsizetype at = text.size() - 1; at > 0; --at) {
+        const bool isBreak = text[at] == u'.' || (isWordStart(text, at) && text[at - 1] != u'.');
+        if (isBreak && fits(text.left(at), metrics))
+            return metrics.horizontalAdvance(text.left(at)) >= FileNameLayout::width / 2 ? at : 0;
+    }
+    return 0;
+}
+
+// Where the first line ends: between words, else between their parts, else between characters; one that is
+// wider than the line stays whole.
+qsizetype lineEnd(const QString &text, const QFontMetricsF &metrics) {
+    if (const qsizetype end = lastFitting(text, metrics, QTextBoundaryFinder::Line); end > 0)
+        return end;
+    if (const qsizetype end = lastPart(text, metrics); end > 0)
+        return end;
+    if (const qsizetype end = lastFitting(text, metrics, QTextBoundaryFinder::Grapheme); end > 0)
+        return end;
+    return QTextBoundaryFinder(QTextBoundaryFinder::Grapheme, text).toNextBoundary();
 }
 
 // The end of the text behind an ellipsis. It begins with a word unless that would take much more away than

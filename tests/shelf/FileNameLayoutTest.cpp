@@ -54,6 +54,13 @@ TEST(FileNameLayout, keepsTheEndThatTellsCapturesApart) {
     EXPECT_EQ(linesOf(u"Screenshot from 2026-11-21 08-07-12.png"_s).front(), u"Screenshot from"_s);
 }
 
+TEST(FileNameLayout, breaksALongWordBetweenItsParts) {
+    EXPECT_EQ(linesOf(u"Screencast.webm"_s), (QStringList{u"Screencast"_s, u".webm"_s}));
+    EXPECT_EQ(linesOf(u"Screenshot_2026_11_21_8.png"_s).front(), u"Screenshot_"_s);
+    const QStringList unbroken = linesOf(u"a_averyverylongword.png"_s);
+    EXPECT_GT(unbroken.front().size(), 8) << "the line is filled rather than left almost empty";
+}
+
 TEST(FileNameLayout, everyNameFitsItsLinesAndIsCutOnlyBetweenWholeCharacters) {
     const QString family = u"👨‍👩‍👧‍👦"_s;
     const std::vector<QString> names{
