@@ -1,28 +1,13 @@
 #include "shelf/ScreenshotPreviewImageView.h"
 
+#include "controls/DevicePixels.h"
 #include "controls/Palette.h"
 
 #include <QPainter>
 
 #include <algorithm>
-#include <cmath>
 
 namespace tembra {
-
-namespace {
-
-// Between device pixels the edges and their hairline would be blurred. A turned picture has no such place.
-QRectF onDevicePixels(const QPainter &painter, const QRectF &rectangle) {
-    const QTransform &toDevice = painter.deviceTransform();
-    if (toDevice.type() > QTransform::TxScale)
-        return rectangle;
-    const QRectF device = toDevice.mapRect(rectangle);
-    const QPointF corner(std::round(device.x()), std::round(device.y()));
-    const QSizeF size(std::max(1.0, std::round(device.width())), std::max(1.0, std::round(device.height())));
-    return toDevice.inverted().mapRect(QRectF(corner, size));
-}
-
-} // namespace
 
 ScreenshotPreviewImageView::ScreenshotPreviewImageView(QWidget *parent) : QWidget(parent) {
     setAttribute(Qt::WA_TransparentForMouseEvents);

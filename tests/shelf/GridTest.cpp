@@ -1,4 +1,6 @@
 #include "GridShots.h"
+#include "controls/ShelfScroller.h"
+#include "shelf/EdgeFades.h"
 #include "shelf/FileThumbnailCache.h"
 #include "shelf/NativeScreenshotCell.h"
 #include "shelf/NativeScreenshotGrid.h"
@@ -258,6 +260,25 @@ TEST_F(GridTest, oneHundredThousandShotsNeedOnlyTheCellsThatCanBeSeen) {
         EXPECT_TRUE(cells().contains(cell)) << "cells are used again";
     const QRect last = view().gridLayout().itemRect(count - 1);
     EXPECT_EQ(inWindow(last.bottomLeft()).y() + 1 + 8, gridSize.height());
+}
+
+TEST_F(GridTest, fadesOutTheEdgesBehindWhichThereIsMore) {
+    const auto opacities = [this] {
+        const EdgeFades &fades = grid.scrollView().fades();
+        return std::pair(fades.topOpacity(), fades.bottomOpacity());
+    };
+    open(gridState({4}));
+    EXPECT_EQ(opacities(), std::pair(0.0, 0.0));
+    EXPECT_FALSE(grid.scrollView().scroller().isVisible());
+    grid.render(gridState({60}));
+    EXPECT_EQ(opacities(), std::pair(0.0, 1.0));
+    EXPECT_TRUE(grid.scrollView().scroller().isVisible());
+    bar().setValue(EdgeFades::topHeight / 2);
+    EXPECT_EQ(opacities(), std::pair(0.5, 1.0));
+    bar().setValue(bar().maximum());
+    EXPECT_EQ(opacities(), std::pair(1.0, 0.0));
+    grid.scrollToTop();
+    EXPECT_EQ(opacities(), std::pair(0.0, 1.0));
 }
 
 TEST_F(GridTest, aShotThatStaysInSightKeepsItsCellAndPicture) {
