@@ -126,29 +126,6 @@ TEST_F(FileItemCellTest, canShowItsOwnFileAnew) {
     EXPECT_EQ(thumbnails.waiting(), QStringList{one});
 }
 
-TEST_F(FileItemCellTest, looksDifferentInEachOfItsStates) {
-    cell.configure(one, u"1"_s);
-    std::vector<QImage> looks{cell.grab().toImage()};
-    const auto look = [&](const char *what) {
-        const QImage image = cell.grab().toImage();
-        EXPECT_FALSE(std::ranges::count(looks, image)) << what;
-        looks.push_back(image);
-    };
-    cell.setHighlighted(true);
-    look("under the pointer");
-    cell.setHighlighted(false);
-    cell.setCurrent(true);
-    look("where the keyboard is");
-    cell.setSelected(true);
-    look("selected");
-    cell.setShowsFileName(false);
-    look("without its name");
-    cell.setSelected(false);
-    cell.setCurrent(false);
-    cell.setShowsFileName(true);
-    EXPECT_EQ(cell.grab().toImage(), looks.front());
-}
-
 TEST_F(FileItemCellTest, everyChangeOfAFileGivesAnotherKey) {
     const auto key = [&](const QString &revision, double scale) {
         return FileThumbnailCache::key(files, one, revision, scale);
