@@ -56,13 +56,13 @@ bool isWholeIsoMedia(const OpenFile &file, std::uint64_t size, const char *requi
         std::array<char, 16> header{};
         if (file.read(offset, header) < 8)
             return false;
-        std::uint64_t length = qFromBigEndian<quint32>(header.data());
-        if (length == 1)
-            length = qFromBigEndian<quint64>(header.data() + 8);
-        // A length of zero means: up to the end of the file.
-        if (length == 0)
-            length = size - offset;
-        if (length < 8 || length > size - offset)
+        // A length of one means: in 64 bits behind the type; one of zero: up to the end of the file.
+        const std::uint64_t shortLength = qFromBigEndian<quint32>(header.data());
+        const bool isLong = shortLength == 1;
+        const std::uint64_t length = isLong             ? qFromBigEndian<quint64>(header.data() + 8)
+                                     : shortLength == 0 ? size - offset
+                                                        : shortLength;
+        if (length < (isLong ? 16U : 8U) || length > size - offset)
             return false;
         hasRequired = hasRequired || std::memcmp(header.data() + 4, requiredBox, 4) == 0;
         offset += length;

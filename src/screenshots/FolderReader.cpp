@@ -20,6 +20,13 @@ constexpr auto justWritten = 3s;
 // A file that was made longer ago than this was moved here, it is no new capture.
 constexpr auto fresh = 2min;
 
+// How long a version has stood unchanged. A date in the future is a clock that was wrong: the file is as old
+// as it gets.
+std::chrono::nanoseconds stillFor(const FileVersion &version, Instant now) {
+    const auto age = now - version.modifiedAt;
+    return age > -justWritten ? age : std::chrono::nanoseconds::max();
+}
+
 QString stampOf(const FileVersion &version) {
     return QStringLiteral("%1-%2-%3-%4")
         .arg(version.size, 0, 16)
@@ -48,15 +55,19 @@ FolderReader::FolderReader(const FolderFiles &files, const ScreenshotCaptureDete
 FolderScanResult FolderReader::readFolder(const FolderScanRequest &request) {
     begin(request);
     FolderScanResult result;
+    const auto isCancelled = [&request] { return request.cancellation && *request.cancellation; };
     const auto listed =
         m_files.list(request.folder, request.includesSubfolders, [&](const FolderFiles::Listed &file) {
-            visit(file, request, result);
-            return !(request.cancellation && *request.cancellation);
+            visit(file, request);
+            return !isCancelled();
         });
     if (!listed) {
         result.error = listed.error();
         return result;
     }
+    // What a listing that was broken off has not met may still be there.
+    if (isCancelled())
+        return result;
     std::erase_if(m_entries, [this](const auto &entry) { return entry.second.lastScan != m_scan; });
     collect(request, result);
     return result;
@@ -72,8 +83,7 @@ void FolderReader::begin(const FolderScanRequest &request) {
     ++m_scan;
 }
 
-void FolderReader::visit(const FolderFiles::Listed &listed, const FolderScanRequest &request,
-                         FolderScanResult &result) {
+void FolderReader::visit(const FolderFiles::Listed &listed, const FolderScanRequest &request) {
     if (!mayBeMedia(listed.relativePath()))
         return;
     auto found = m_entries.find(listed.relativePath());
@@ -87,12 +97,12 @@ void FolderReader::visit(const FolderFiles::Listed &listed, const FolderScanRequ
                            entry.retries >= retryBudget;
     if (isSame && isSettled)
         return;
-    const bool wasShown = isKnown && entry.verdict == Verdict::complete;
-    entry.retries = isSame ? entry.retries + 1 : 0;
+    // Time alone may make a young version whole: looking at it often, as in a busy folder, does not count.
+    const auto youth = entry.verdict == Verdict::unfinishedVideo ? VideoCompleteness::abandoned : justWritten;
+    const bool counts = isSame && stillFor(entry.version, request.now) > youth;
+    entry.retries = counts ? entry.retries + 1 : 0;
     entry.version = listed.version();
     judge(entry, listed, request);
-    if (entry.verdict == Verdict::complete && entry.isFresh && !wasShown)
-        result.arrivals.push_back(entry.shot);
 }
 
 void FolderReader::judge(Entry &entry, const FolderFiles::Listed &listed, const FolderScanRequest &request) {
@@ -121,22 +131,25 @@ void FolderReader::judge(Entry &entry, const FolderFiles::Listed &listed, const 
 FolderReader::Verdict FolderReader::verdict(const OpenFile &file, QStringView fileName,
                                             const FileVersion &version, Instant now) const {
     const QString extension = CaptureMedia::extension(fileName);
-    const auto stillFor = now - version.modifiedAt;
+    const auto age = stillFor(version, now);
     if (m_detector.isVideoName(fileName))
-        return VideoCompleteness::isCompleteVideo(file, extension, stillFor) ? Verdict::complete
-                                                                             : Verdict::unfinishedVideo;
-    // A date in the future is a clock that was wrong: the file is as old as it gets.
-    const bool wasJustWritten = stillFor < justWritten && stillFor > -justWritten;
-    return ImageCompleteness::isCompleteImage(file, extension, wasJustWritten) ? Verdict::complete
-                                                                               : Verdict::unfinishedImage;
+        return VideoCompleteness::isCompleteVideo(file, extension, age) ? Verdict::complete
+                                                                        : Verdict::unfinishedVideo;
+    return ImageCompleteness::isCompleteImage(file, extension, age < justWritten) ? Verdict::complete
+                                                                                  : Verdict::unfinishedImage;
 }
 
 void FolderReader::collect(const FolderScanRequest &request, FolderScanResult &result) {
     std::vector<const Shot *> shown;
     shown.reserve(m_entries.size());
-    for (const auto &[path, entry] : m_entries) {
-        if (entry.verdict == Verdict::complete && !request.dismissed.contains(entry.shot.stamp))
+    for (auto &[path, entry] : m_entries) {
+        const bool isComplete = entry.verdict == Verdict::complete;
+        const bool wasComplete = std::exchange(entry.wasComplete, entry.wasComplete || isComplete);
+        if (isComplete && !request.dismissed.contains(entry.shot.stamp)) {
             shown.push_back(&entry.shot);
+            if (entry.isFresh && !wasComplete)
+                result.arrivals.push_back(entry.shot);
+        }
         const bool isAwaited = entry.retries < retryBudget;
         result.hasUnfinishedImages |= isAwaited && entry.verdict == Verdict::unfinishedImage;
         result.hasUnfinishedVideos |= isAwaited && entry.verdict == Verdict::unfinishedVideo;

@@ -35,6 +35,9 @@ private:
         FileVersion version;
         Verdict verdict = Verdict::notCapture;
         bool isFresh = false;
+        // Some version of it was whole in an earlier scan: it is no arrival any more, however it is
+        // rewritten.
+        bool wasComplete = false;
         std::uint16_t retries = 0;
         std::uint32_t lastScan = 0;
         Shot shot;
@@ -46,7 +49,7 @@ private:
     using Entries = std::unordered_map<std::string, Entry, StringHash, std::equal_to<>>;
 
     void begin(const FolderScanRequest &request);
-    void visit(const FolderFiles::Listed &listed, const FolderScanRequest &request, FolderScanResult &result);
+    void visit(const FolderFiles::Listed &listed, const FolderScanRequest &request);
     void judge(Entry &entry, const FolderFiles::Listed &listed, const FolderScanRequest &request);
     [[nodiscard]] Verdict verdict(const OpenFile &file, QStringView fileName, const FileVersion &version,
                                   Instant now) const;

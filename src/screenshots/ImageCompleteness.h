@@ -8,9 +8,8 @@ namespace tembra {
 
 // Whether an image file is whole. Any thread.
 struct ImageCompleteness {
-    // A file that has been still for a while is judged by its beginning and end, in a few reads however large
-    // it is, and decoded only when these do not look whole. One that was just written must look whole and
-    // decode.
+    // A file that has been still for a while is judged by its structure, in a few reads however large it is.
+    // One that was just written must decode besides.
     [[nodiscard]] static bool isCompleteImage(const OpenFile &file, QStringView extension,
                                               bool wasJustWritten);
 };

@@ -42,12 +42,13 @@ bool ScreenshotCaptureDetector::isCapture(const QString &path, QStringView custo
     return file && classify(QFileInfo(path).fileName(), **file, customPrefix).has_value();
 }
 
-Result<void> ScreenshotCaptureDetector::preserveClassification(const QString &from, const QString &to) const {
+Result<void> ScreenshotCaptureDetector::preserveClassification(const QString &from, const QString &to,
+                                                               QStringView customPrefix) const {
     const auto file = m_files.open(from);
     if (!file)
         return failure(file.error());
     const auto marker = m_markers.marker(**file);
-    const bool isCapture = classify(QFileInfo(from).fileName(), **file, {}).has_value();
+    const bool isCapture = classify(QFileInfo(from).fileName(), **file, customPrefix).has_value();
     if (!marker && !isCapture)
         return {};
     return m_markers.setMarker(to, marker.value_or(true));

@@ -33,7 +33,8 @@ public:
 
     // Marks a copy, or what was saved anew under another name, as the capture that `from` is, so that it
     // stays one whatever it is called.
-    Result<void> preserveClassification(const QString &from, const QString &to) const;
+    Result<void> preserveClassification(const QString &from, const QString &to,
+                                        QStringView customPrefix = {}) const;
     // Makes the file a capture whatever it is called.
     Result<void> markAsCapture(const QString &path) const;
 

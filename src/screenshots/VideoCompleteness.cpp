@@ -9,7 +9,6 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr auto settled = 1s;
-constexpr auto abandoned = 10s;
 
 } // namespace
 

@@ -38,6 +38,8 @@ void EdgeFades::setOpacities(qreal top, qreal bottom) {
 
 void EdgeFades::paintEvent(QPaintEvent *) {
     QPainter painter(this);
+    // Only on what is there: the panel's round corners stay round.
+    painter.setCompositionMode(QPainter::CompositionMode_SourceAtop);
     fade(painter, QRectF(0, 0, width(), topHeight), 0, topHeight, m_top);
     fade(painter, QRectF(0, height() - bottomHeight, width(), bottomHeight), height(),
          height() - bottomHeight, m_bottom);

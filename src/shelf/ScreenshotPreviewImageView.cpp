@@ -32,10 +32,11 @@ void ScreenshotPreviewImageView::draw(QPainter &painter, const QRectF &place, co
     const qreal corner = std::min(radius, std::min(rectangle.width(), rectangle.height()) / 2);
     painter.save();
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    // Filling with a brush, unlike clipping, gives smooth corners. A brush is laid out in the image's pixels.
-    QImage pixels = image;
-    pixels.setDevicePixelRatio(1);
-    QBrush brush(pixels);
+    // Filling with a brush, unlike clipping, gives smooth corners. Its scale is told by the transformation
+    // alone.
+    QImage texture = image;
+    texture.setDevicePixelRatio(1);
+    QBrush brush(texture);
     QTransform toRectangle = QTransform::fromTranslate(rectangle.x(), rectangle.y());
     toRectangle.scale(rectangle.width() / image.width(), rectangle.height() / image.height());
     brush.setTransform(toRectangle);

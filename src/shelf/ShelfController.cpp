@@ -232,8 +232,13 @@ void ShelfController::refreshWatchers() {
 
 void ShelfController::receiveFolderChange(const FolderShelf &shelf) {
     // A folder that was renamed or moved is found again by its bookmark.
-    if (shelf.errorText)
+    if (shelf.errorText) {
         m_settings.refreshFolderAccess();
+    } else if (m_folderState == ScreenshotFolderState::missing) {
+        // Some tools save elsewhere while their folder is away.
+        m_destination.reset();
+        m_locationMonitor->check();
+    }
     updateFolderState();
 }
 
@@ -358,7 +363,9 @@ void ShelfController::scheduleDisplayReconciliation() {
 
 void ShelfController::reconcileDisplayWindows() {
     m_surfaces->reconcileDisplayWindows(m_settings.state().displayPreference);
-    m_hover.requestPointerEvaluation();
+    // An open shelf that came here from another display waits for the pointer to follow.
+    if (!m_expanded)
+        m_hover.requestPointerEvaluation();
 }
 
 void ShelfController::refreshTimeline() {

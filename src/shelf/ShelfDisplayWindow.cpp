@@ -4,6 +4,8 @@
 #include "shelf/ShelfPanelShape.h"
 #include "shelf/ShelfView.h"
 
+#include <QBitmap>
+#include <QPainter>
 #include <QRegion>
 #include <QStyle>
 
@@ -18,8 +20,13 @@ constexpr QSize largestPanel{744, 256};
 // A pointer this close to the panel still counts as in it; the window must hear it leave.
 constexpr int pointerTolerance = 2;
 
-QRect outwards(const QRectF &rect) {
-    return rect.toAlignedRect();
+// The panel's outline as the shape of its window.
+QBitmap outline(const QSize &window, const QRectF &body) {
+    QBitmap mask(window);
+    mask.clear();
+    QPainter painter(&mask);
+    painter.fillPath(ShelfPanelShape::path(body), Qt::color1);
+    return mask;
 }
 
 } // namespace
@@ -57,7 +64,8 @@ void ShelfDisplayWindow::makePanel() {
 
 void ShelfDisplayWindow::placePanel() {
     const QSize largest = largestPanel.expandedTo(m_presentation.size);
-    const QSize canvas(largest.width() + 2 * ShelfShadow::reach, largest.height() + ShelfShadow::reach + ShelfShadow::drop);
+    const QSize canvas(largest.width() + 2 * ShelfShadow::reach,
+                       largest.height() + ShelfShadow::reach + ShelfShadow::drop);
     const ScreenRect frame = hangingFromEdge(canvas);
     m_panel->setGeometry(static_cast<int>(std::lround(frame.x)), static_cast<int>(std::lround(frame.y)),
                          canvas.width(), canvas.height());
@@ -115,18 +123,20 @@ void ShelfDisplayWindow::present(const ShelfPresentation &presentation, bool isA
 }
 
 void ShelfDisplayWindow::placeBody() {
+    // On whole points, so that no edge is blurred while it moves.
     const QSizeF size = bodySize();
-    const QRectF body((m_root->width() - size.width()) / 2, 0, size.width(), size.height());
+    const double halfWidth = std::round(size.width() / 2);
+    const QRectF body(m_root->width() / 2 - halfWidth, 0, 2 * halfWidth, std::round(size.height()));
     const bool isComposited = m_services.workspace.isComposited();
     m_root->setBody(body, isComposited);
-    m_viewport->setGeometry(outwards(body));
+    m_viewport->setGeometry(body.toRect());
     if (m_content)
         m_content->move((m_viewport->width() - m_content->width()) / 2, 0);
     // Without a compositor what is not the panel would be black.
     if (isComposited)
         m_panel->clearMask();
     else
-        m_panel->setMask(QRegion(ShelfPanelShape::path(body).toFillPolygon().toPolygon()));
+        m_panel->setMask(outline(m_root->size(), body));
 }
 
 void ShelfDisplayWindow::updateInputRegion() {

@@ -10,20 +10,12 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
-#include <fcntl.h>
 #include <sys/stat.h>
 
 using namespace std::chrono_literals;
 using namespace tembra;
 
 namespace {
-
-void setModified(const QString &path, Instant instant) {
-    const auto nanoseconds = instant.time_since_epoch().count();
-    const timespec time{nanoseconds / 1'000'000'000, nanoseconds % 1'000'000'000};
-    const timespec times[2]{time, time};
-    ASSERT_EQ(::utimensat(AT_FDCWD, QFile::encodeName(path).constData(), times, 0), 0);
-}
 
 // The facts on every file system that promises all of them.
 class LinuxFileFacts : public testing::TestWithParam<const char *> {

@@ -8,6 +8,7 @@
 #include "shelf/ScreenshotMessageView.h"
 #include "shelf/ShelfContent.h"
 #include "shelf/ShelfHeader.h"
+#include "support/FakeDesktop.h"
 #include "support/FakeFileFacts.h"
 #include "support/FakeInputMonitor.h"
 #include "support/FakeThumbnails.h"
@@ -23,22 +24,6 @@ using namespace Qt::StringLiterals;
 using namespace tembra;
 
 namespace {
-
-struct NoDisplays final : Displays {
-    [[nodiscard]] std::vector<DisplayFacts> connected() const override { return {}; }
-    [[nodiscard]] std::unique_ptr<Observation> observe(std::function<void()>) override { return {}; }
-};
-
-struct NoPanelWindows final : PanelWindows {
-    void prepare(QWidget &) override {}
-    void setInputRegion(QWidget &, const QRegion &) override {}
-    void takeKeyboardFocus(QWidget &) override {}
-    void returnKeyboardFocus(QWidget &) override {}
-};
-
-struct NoHotZones final : HotZones {
-    [[nodiscard]] std::unique_ptr<Zone> add(const ScreenRect &, Callbacks) override { return {}; }
-};
 
 QString accessibleName(QWidget &widget) {
     return QAccessible::queryAccessibleInterface(&widget)->text(QAccessible::Name);
@@ -81,11 +66,11 @@ protected:
     }
 
     ManualScheduler scheduler;
-    NoDisplays displays;
+    FakeDisplays displays;
     FakeWorkspace workspace;
     FakeInputMonitor input;
-    NoPanelWindows panels;
-    NoHotZones zones;
+    FakePanelWindows panels;
+    FakeHotZones zones;
     FakeThumbnails thumbnails;
     FakeFileFacts files;
     ShelfContent content{{scheduler, scheduler.uptimeClock(), scheduler.wallClock({}), displays, workspace,

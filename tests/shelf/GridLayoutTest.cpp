@@ -42,6 +42,10 @@ TEST(ShelfGrid, hasAsManyColumnsAsFitBetweenItsMargins) {
                                  {1e12, INT_MAX}};
     for (const Row &row : table)
         EXPECT_EQ(Grid::columns(row.width), row.columns) << row.width;
+}
+
+TEST(ShelfGridDeathTest, aWidthThatIsNoNumberIsAMistake) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
     EXPECT_DEATH(std::ignore = Grid::columns(qQNaN()), "not finite");
     EXPECT_DEATH(std::ignore = Grid::columns(qInf()), "not finite");
 }

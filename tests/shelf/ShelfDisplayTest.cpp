@@ -25,7 +25,8 @@ TEST(ShelfDisplay, hangsFromTheCameraHousingOrAVirtualNotch) {
 }
 
 TEST(ShelfDisplaySelection, opensWhereThePreferenceAndThePointerSay) {
-    const std::vector<ShelfDisplay> displays{display(1, {0, 0, 1000, 800}), display(2, {1000, 100, 2000, 1000}, 2)};
+    const std::vector<ShelfDisplay> displays{display(1, {0, 0, 1000, 800}),
+                                             display(2, {1000, 100, 2000, 1000}, 2)};
     using enum DisplayPreference;
     struct Case {
         const char *name;

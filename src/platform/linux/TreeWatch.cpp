@@ -56,7 +56,7 @@ TreeWatch::TreeWatch(InotifyInstance &instance, Scheduler &scheduler, std::uint6
       m_onEvents(std::move(onEvents)) {}
 
 Result<void> TreeWatch::start() {
-    if (const auto watched = watchFolder(m_folder); !watched)
+    if (auto watched = watchFolder(m_folder); !watched)
         return watched;
     watchAncestors();
     if (m_recursive)
@@ -111,7 +111,7 @@ void TreeWatch::forgetBelow(const QString &folder) {
 void TreeWatch::receive(const QString &folder, const InotifyInstance::Event &event) {
     if (event.mask & IN_Q_OVERFLOW) {
         if (folder == m_folder)
-            add(m_folder, TreeEvent::mustScanSubdirectories | TreeEvent::kernelDropped);
+            receiveOverflow();
         return;
     }
     if (event.name.isEmpty())
@@ -120,6 +120,14 @@ void TreeWatch::receive(const QString &folder, const InotifyInstance::Event &eve
     if ((event.mask & IN_ISDIR) && m_recursive)
         receiveAboutDirectory(path, event.mask);
     add(path, changeFlags(event.mask) | kindFlags(path, event.mask));
+}
+
+// Subfolders may have come, gone and moved unseen.
+void TreeWatch::receiveOverflow() {
+    std::erase_if(m_subscriptions, [this](const auto &entry) { return entry.first != m_folder; });
+    if (m_recursive)
+        watchBelow(m_folder);
+    add(m_folder, TreeEvent::mustScanSubdirectories | TreeEvent::kernelDropped);
 }
 
 void TreeWatch::receiveAboutFolder(const QString &folder, std::uint32_t mask) {

@@ -28,6 +28,7 @@ private:
     void watchAncestors();
     void forgetBelow(const QString &folder);
     void receive(const QString &folder, const InotifyInstance::Event &event);
+    void receiveOverflow();
     void receiveAboutFolder(const QString &folder, std::uint32_t mask);
     void receiveAboutDirectory(const QString &path, std::uint32_t mask);
     void add(const QString &path, std::uint32_t flags);

@@ -1,0 +1,265 @@
+#include "shelf/ShelfController.h"
+
+#include "platform/linux/LinuxBookmarks.h"
+#include "platform/linux/LinuxCaptureMarkers.h"
+#include "platform/linux/LinuxFolderFiles.h"
+#include "screenshots/FileWatcherService.h"
+#include "screenshots/FolderReader.h"
+#include "screenshots/ScreenshotLocationMonitor.h"
+#include "session/ShelfSession.h"
+#include "settings/AppSettings.h"
+#include "support/FakeDesktop.h"
+#include "support/FakeFolderEvents.h"
+#include "support/FakeInputMonitor.h"
+#include "support/FakeWorkspace.h"
+#include "support/Files.h"
+#include "support/ManualQueue.h"
+#include "support/ManualScheduler.h"
+#include "support/MemoryUserDefaults.h"
+#include "support/Pictures.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QProxyStyle>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using namespace tembra;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr ScreenPoint atTopEdge{640, 2};
+constexpr ScreenPoint farAway{640, 700};
+const QString captureName = QStringLiteral("Screenshot from 2026-11-21 10-15-22.png");
+
+// The style of a desktop that wants no motion: everything is at once where it goes.
+class StillStyle final : public QProxyStyle {
+public:
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *returnData) const override {
+        return hint == SH_Widget_Animation_Duration ? 0
+                                                    : QProxyStyle::styleHint(hint, option, widget, returnData);
+    }
+};
+
+// The whole shelf over a real folder, with time, events, input and screens of the test.
+class ShelfControllerTest : public testing::Test {
+protected:
+    ShelfControllerTest() {
+        QApplication::setStyle(new StillStyle);
+        QDir().mkpath(folder);
+        input.pointerPoint = farAway;
+        destination = ScreenshotDestination::toFolder(folder);
+    }
+
+    void start(bool granted = true) {
+        if (granted) {
+            EXPECT_TRUE(settings.grantScreenshotsFolder(folder, false, false));
+        }
+        controller = std::make_unique<ShelfController>(
+            settings, std::make_unique<ShelfSession>(settings, defaults, makeWatcher()),
+            std::make_unique<ScreenshotLocationMonitor>([this] { return destination; }, queue, scheduler, workspace),
+            ShelfServices{scheduler, scheduler.uptimeClock(), clock, displays, workspace, input, panelWindows, hotZones,
+                          thumbnails, files});
+        controller->onError = [this](const QString &title, const QString &) { errors += title; };
+        controller->start();
+        settle();
+    }
+
+    std::unique_ptr<FileWatcherService> makeWatcher() {
+        return std::make_unique<FileWatcherService>(
+            FileWatcherService::Services{events, scheduler, scheduler.uptimeClock(), clock, queue, detector,
+                                         [](const QString &) { return true; }},
+            std::make_shared<FolderReader>(folderFiles, detector, [] { return QString(); }));
+    }
+
+    // Lets what is scheduled soon and what is queued happen.
+    void settle() {
+        for (int turn = 0; turn < 3; ++turn) {
+            scheduler.advance(100ms);
+            queue.runAll();
+            scheduler.settle();
+        }
+    }
+
+    void capture(const QString &name = captureName) {
+        writeFile(folder + u'/' + name, pictureBytes("png"));
+        events.sendDirectory(FolderEvents::write);
+        settle();
+    }
+
+    void movePointer(ScreenPoint point) {
+        input.send(InputMonitor::Kind::rightDown, point);
+        scheduler.advance(0s);
+    }
+
+    [[nodiscard]] ShelfStatus status() const { return controller->status(); }
+
+    QTemporaryDir root;
+    QString folder = root.filePath(QStringLiteral("Screenshots"));
+    StandardFolders folders{.trash = {root.filePath(QStringLiteral("Trash"))}};
+    LinuxFileFactsReader files;
+    LinuxFolderFiles folderFiles{files};
+    LinuxBookmarks bookmarks{files, folders};
+    LinuxCaptureMarkers markers;
+    ScreenshotCaptureDetector detector{markers, folderFiles};
+    ManualScheduler scheduler;
+    ManualQueue queue;
+    WallClock clock = scheduler.wallClock(systemNow());
+    FakeFolderEvents events;
+    FakeWorkspace workspace;
+    FakeInputMonitor input;
+    FakeDisplays displays;
+    FakePanelWindows panelWindows;
+    FakeHotZones hotZones;
+    NoThumbnails thumbnails;
+    MemoryUserDefaults defaults;
+    AppSettings settings{defaults,
+                         FolderPreferences(),
+                         ScreenshotFolderAccess(bookmarks, files, folders),
+                         {.updateSystemFolder =
+                              [this](const QString &chosen) {
+                                  destination = ScreenshotDestination::toFolder(chosen);
+                                  return systemRefusal;
+                              },
+                          .thumbnailPreference = {[] { return std::nullopt; }, [](auto) { return Result<void>(); }},
+                          .createBookmark = [this](const QString &path) { return bookmarks.create(path); },
+                          .resolvePinnedBookmark = [](const QByteArray &) { return std::nullopt; }}};
+    ScreenshotDestination destination;
+    Result<void> systemRefusal;
+    QStringList errors;
+    std::unique_ptr<ShelfController> controller;
+};
+
+} // namespace
+
+TEST_F(ShelfControllerTest, aNewCaptureIsAnnouncedAndStandsUnderToday) {
+    start();
+    capture();
+    EXPECT_TRUE(status().showingNotification);
+    EXPECT_EQ(status().notificationText, QStringLiteral("Got it! First one caught"));
+    scheduler.advance(10s);
+    EXPECT_FALSE(status().showingNotification);
+
+    capture(QStringLiteral("Screenshot from 2026-11-21 10-15-23.png"));
+    EXPECT_EQ(status().notificationText, QStringLiteral("Screenshot saved"));
+    ASSERT_EQ(status().sections.size(), 1U);
+    EXPECT_EQ(status().sections[0].title, QStringLiteral("Today"));
+    EXPECT_EQ(status().sections[0].count, 2);
+}
+
+TEST_F(ShelfControllerTest, nothingIsAnnouncedToWhomeverSwitchedThatOffOrLooksAtTheShelf) {
+    start();
+    settings.setScreenshotNotifications(false);
+    capture();
+    EXPECT_FALSE(status().showingNotification);
+    EXPECT_TRUE(status().lastCapture);
+
+    settings.setScreenshotNotifications(true);
+    movePointer(atTopEdge);
+    capture(QStringLiteral("Screenshot from 2026-11-21 10-15-23.png"));
+    EXPECT_FALSE(status().showingNotification);
+    EXPECT_EQ(status().screenshotCount, 2);
+}
+
+TEST_F(ShelfControllerTest, thePointerOnANotificationOpensTheShelf) {
+    start();
+    capture();
+    movePointer({640, 60});
+    EXPECT_TRUE(status().expanded);
+    EXPECT_FALSE(status().showingNotification);
+}
+
+TEST_F(ShelfControllerTest, tellsWhenCapturesGoElsewhere) {
+    struct Case {
+        ScreenshotDestination destination;
+        ScreenshotFolderState state;
+        const char *text;
+    };
+    start();
+    for (const Case &c : {Case{ScreenshotDestination::toClipboard(), ScreenshotFolderState::clipboard,
+                               "Screenshots aren’t saving to a folder"},
+                          Case{ScreenshotDestination::toFolder(root.filePath(QStringLiteral("Other"))),
+                               ScreenshotFolderState::elsewhere, "Screenshot location changed"},
+                          Case{ScreenshotDestination::toOther(QStringLiteral("mail")), ScreenshotFolderState::other,
+                               "Screenshots aren’t saving to a folder"}}) {
+        destination = c.destination;
+        workspace.raise(Workspace::Event::didWake);
+        settle();
+        EXPECT_EQ(status().folderState, c.state);
+        EXPECT_EQ(status().notificationText, QString::fromUtf8(c.text));
+        scheduler.advance(10s);
+    }
+}
+
+TEST_F(ShelfControllerTest, aFolderThatTheUserChoosesBecomesTheToolsOwn) {
+    start(false);
+    EXPECT_EQ(status().folderState, ScreenshotFolderState::none);
+    const QString chosen = root.filePath(QStringLiteral("Chosen"));
+    QDir().mkpath(chosen);
+    controller->askForFolder = [&chosen](const QString &suggested) {
+        EXPECT_EQ(QFileInfo(suggested).fileName(), QStringLiteral("Screenshots"));
+        return std::optional(chosen);
+    };
+    controller->chooseFolder();
+    settle();
+    EXPECT_EQ(status().folder, chosen);
+    EXPECT_EQ(status().folderState, ScreenshotFolderState::ready);
+    EXPECT_TRUE(status().expanded) << "the user sees what the choice did";
+    EXPECT_TRUE(errors.isEmpty());
+}
+
+TEST_F(ShelfControllerTest, aFolderThatTheToolRefusesChangesNothing) {
+    start();
+    systemRefusal = failure({QStringLiteral("Tembra.ScreenshotSaveLocation"), 1, QStringLiteral("refused"), {}});
+    controller->askForFolder = [this](const QString &) { return std::optional(root.path()); };
+    controller->chooseFolder();
+    EXPECT_EQ(errors, QStringList(QStringLiteral("refused")));
+    EXPECT_EQ(status().folder, folder);
+    controller->askForFolder = [](const QString &) { return std::nullopt; };
+    controller->chooseFolder();
+    EXPECT_EQ(status().folder, folder);
+}
+
+TEST_F(ShelfControllerTest, whatIsTodaysIsYesterdaysAfterMidnight) {
+    capture();
+    start();
+    ASSERT_EQ(status().sections.size(), 1U);
+    EXPECT_EQ(status().sections[0].title, QStringLiteral("Today"));
+    movePointer(atTopEdge);
+    scheduler.advance(24h);
+    EXPECT_EQ(status().sections[0].title, QStringLiteral("Yesterday"));
+}
+
+TEST_F(ShelfControllerTest, theOpenShelfMovesToARemainingDisplay) {
+    settings.setDisplayPreference(DisplayPreference::all);
+    displays.screens.push_back({.identifier = 2, .name = QStringLiteral("second"), .frame = {1280, 0, 1000, 800}});
+    start();
+    EXPECT_EQ(hotZones.count, 2);
+    movePointer({1780, 2});
+    EXPECT_EQ(status().display, QStringLiteral("second"));
+
+    displays.set({displays.screens.front()});
+    scheduler.advance(1s);
+    EXPECT_TRUE(status().expanded);
+    EXPECT_EQ(status().display, QStringLiteral("first"));
+    EXPECT_EQ(hotZones.count, 1);
+
+    displays.set({});
+    scheduler.advance(1s);
+    EXPECT_EQ(hotZones.count, 0);
+    EXPECT_TRUE(controller->status().display.isEmpty());
+}
+
+TEST_F(ShelfControllerTest, nothingIsLeftOnceItIsStopped) {
+    start();
+    capture();
+    controller->stop();
+    EXPECT_EQ(hotZones.count, 0);
+    EXPECT_EQ(workspace.observerCount(), 0);
+    EXPECT_FALSE(input.isObserved());
+    EXPECT_EQ(events.directoryCount(), 0);
+    EXPECT_EQ(scheduler.pendingCount(), 0);
+}
