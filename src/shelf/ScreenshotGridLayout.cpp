@@ -3,7 +3,6 @@
 #include "shelf/ShelfLayout.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace tembra {
 
@@ -106,7 +105,6 @@ int ScreenshotGridLayout::neighbour(int index, Direction direction) const {
     const Block &block = blockOf(index);
     const int row = (index - block.first) / m_columns;
     const int column = (index - block.first) % m_columns;
-    const auto isShown = [](const Block &candidate) { return candidate.count > 0; };
     switch (direction) {
     case Direction::left:
         return std::max(index - 1, 0);
@@ -115,20 +113,18 @@ int ScreenshotGridLayout::neighbour(int index, Direction direction) const {
     case Direction::up: {
         if (row > 0)
             return item(block, row - 1, column);
-        for (const Block &before : m_blocks | std::views::reverse | std::views::filter(isShown)) {
-            if (before.first < block.first)
-                return item(before, -1, column);
-        }
-        return index;
+        const auto before = std::find_if(m_blocks.rbegin(), m_blocks.rend(), [&](const Block &candidate) {
+            return candidate.count > 0 && candidate.first < block.first;
+        });
+        return before == m_blocks.rend() ? index : item(*before, -1, column);
     }
     case Direction::down: {
         if (row + 1 < rows(block))
             return item(block, row + 1, column);
-        for (const Block &after : m_blocks | std::views::filter(isShown)) {
-            if (after.first > block.first)
-                return item(after, 0, column);
-        }
-        return index;
+        const auto after = std::ranges::find_if(m_blocks, [&](const Block &candidate) {
+            return candidate.count > 0 && candidate.first > block.first;
+        });
+        return after == m_blocks.end() ? index : item(*after, 0, column);
     }
     }
     Q_UNREACHABLE();

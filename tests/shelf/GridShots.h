@@ -28,6 +28,7 @@ inline ScreenshotGridState gridState(const std::vector<int> &counts, bool groupe
 // The numbers of the files at the paths.
 inline std::vector<int> gridNumbers(const std::vector<Shot> &shots) {
     std::vector<int> numbers;
+    numbers.reserve(shots.size());
     for (const Shot &shot : shots)
         numbers.push_back(
             static_cast<int>(std::get<ScreenshotFileIdentity::Resource>(shot.identity.value).resource.inode));

@@ -12,7 +12,7 @@ protected:
     [[nodiscard]] std::vector<int> selected() const { return gridNumbers(selection.shots(state)); }
     Shot takeOut(int index) {
         auto &shots = state.sections.front().shots;
-        const Shot shot = shots[static_cast<std::size_t>(index)];
+        Shot shot = shots[static_cast<std::size_t>(index)];
         shots.erase(shots.begin() + index);
         return shot;
     }
