@@ -19,7 +19,7 @@ namespace tembra {
 
 namespace {
 
-constexpr int nameTop = 74;
+constexpr int nameTop = 76;
 constexpr int nameLineHeight = 15;
 constexpr qreal nameHighlightMargin = 5;
 constexpr qreal nameHighlightRadius = 4;
