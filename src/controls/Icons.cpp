@@ -1,5 +1,7 @@
 #include "controls/Icons.h"
 
+#include "controls/DevicePixels.h"
+
 #include <QPaintDevice>
 #include <QPainter>
 #include <QPixmapCache>
@@ -62,11 +64,8 @@ void drawIcon(QPainter &painter, Icon icon, const QRectF &rectangle, qreal side,
     const qreal scale = painter.device()->devicePixelRatioF();
     const QPixmap pixmap = iconPixmap(icon, side, scale, color);
     const QPointF corner = rectangle.center() - QPointF(side, side) / 2;
-    const QPointF origin = painter.transform().map(QPointF());
-    const auto snapped = [=](qreal value, qreal offset) {
-        return std::round((value + offset) * scale) / scale - offset;
-    };
-    painter.drawPixmap(QPointF(snapped(corner.x(), origin.x()), snapped(corner.y(), origin.y())), pixmap);
+    const QRectF place(corner, pixmap.deviceIndependentSize());
+    painter.drawPixmap(onDevicePixels(painter, place).topLeft(), pixmap);
 }
 
 } // namespace tembra

@@ -13,11 +13,13 @@
 #include <QEvent>
 #include <QPainter>
 
+#include <utility>
+
 namespace tembra {
 
 namespace {
 
-constexpr int nameTop = 74;
+constexpr int nameTop = 76;
 constexpr int nameLineHeight = 15;
 constexpr qreal nameHighlightMargin = 5;
 constexpr qreal nameHighlightRadius = 4;
@@ -48,12 +50,12 @@ void FileItemCell::setItemRect(const QRect &rectangle) {
     setGeometry(rectangle.adjusted(-bleed, -bleed, bleed, bleed));
 }
 
-void FileItemCell::configure(const QString &path, const QString &revision, const QImage &fallback) {
+void FileItemCell::configure(QString path, QString revision, QImage fallback) {
     prepareForReuse();
-    m_path = path;
-    m_revision = revision;
-    m_fallback = fallback;
-    const QString name = fileName(path);
+    m_path = std::move(path);
+    m_revision = std::move(revision);
+    m_fallback = std::move(fallback);
+    const QString name = fileName(m_path);
     setToolTip(name);
     setAccessibleName(name);
     m_nameLines = FileNameLayout::lines(name, QFontMetricsF(nameFont()));

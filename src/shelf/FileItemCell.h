@@ -25,7 +25,7 @@ public:
     FileItemCell(const FilePresentation &presentation, QWidget *parent);
 
     // Shows the file: its picture from the cache, else the fallback or an icon until the picture is there.
-    void configure(const QString &path, const QString &revision, const QImage &fallback = {});
+    void configure(QString path, QString revision, QImage fallback = {});
     // Forgets the file and takes back the request for its picture.
     void prepareForReuse();
     // Where the tile lies in its parent.

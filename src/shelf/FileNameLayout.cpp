@@ -3,13 +3,13 @@
 #include <QTextBoundaryFinder>
 
 #include <algorithm>
+#include <optional>
 
 namespace tembra {
 
 namespace {
 
-// A longer "extension" is a name with a dot in it.
-constexpr qsizetype longestExtension = 8;
+constexpr QChar ellipsis(0x2026);
 
 bool fits(const QString &text, const QFontMetricsF &metrics) {
     return metrics.horizontalAdvance(text.trimmed()) <= FileNameLayout::width;
@@ -28,30 +28,62 @@ qsizetype lastFitting(const QString &text, const QFontMetricsF &metrics,
     return last;
 }
 
-QString extension(const QString &name) {
-    const qsizetype dot = name.lastIndexOf(u'.');
-    const bool isExtension =
-        dot > 0 && name.size() - dot <= longestExtension && !name.mid(dot).contains(u' ');
-    return isExtension ? name.mid(dot) : QString();
+bool isWordStart(const QString &text, qsizetype at) {
+    const QChar before = text[at - 1];
+    return text[at].isLetterOrNumber() && !before.isLetterOrNumber() && !before.isMark() &&
+           !before.isSurrogate();
 }
 
+// The last place behind a sign or before the extension that leaves the line half full at least; else 0.
+qsizetype lastPart(const QString &text, const QFontMetricsF &metrics) {
+    for (qsizetype at = text.size() - 1; at > 0; --at) {
+        const bool isBreak = text[at] == u'.' || (isWordStart(text, at) && text[at - 1] != u'.');
+        if (isBreak && fits(text.left(at), metrics))
+            return metrics.horizontalAdvance(text.left(at)) >= FileNameLayout::width / 2 ? at : 0;
+    }
+    return 0;
+}
+
+// Where the first line ends: between words, else between their parts, else between characters; one that is
+// wider than the line stays whole.
+qsizetype lineEnd(const QString &text, const QFontMetricsF &metrics) {
+    if (const qsizetype end = lastFitting(text, metrics, QTextBoundaryFinder::Line); end > 0)
+        return end;
+    if (const qsizetype end = lastPart(text, metrics); end > 0)
+        return end;
+    if (const qsizetype end = lastFitting(text, metrics, QTextBoundaryFinder::Grapheme); end > 0)
+        return end;
+    return QTextBoundaryFinder(QTextBoundaryFinder::Grapheme, text).toNextBoundary();
+}
+
+// The end of the text behind an ellipsis. It begins with a word unless that would take much more away than
+// must be; the last character always stays.
 QString shortened(const QString &text, const QFontMetricsF &metrics) {
     if (fits(text, metrics))
         return text;
-    const QString middle = metrics.elidedText(text, Qt::ElideMiddle, FileNameLayout::width);
-    const QString suffix = extension(text);
-    const double suffixWidth = metrics.horizontalAdvance(suffix);
-    if (middle.endsWith(suffix) || suffixWidth > FileNameLayout::width / 2)
-        return middle;
-    return metrics.elidedText(text.chopped(suffix.size()), Qt::ElideRight,
-                              FileNameLayout::width - suffixWidth) +
-           suffix;
+    constexpr double leastWidthOfWords = FileNameLayout::width / 2;
+    const auto ending = [&](qsizetype start) { return ellipsis + text.mid(start).trimmed(); };
+    QTextBoundaryFinder boundaries(QTextBoundaryFinder::Grapheme, text);
+    boundaries.toEnd();
+    qsizetype start = boundaries.toPreviousBoundary();
+    std::optional<qsizetype> wordStart;
+    for (qsizetype next = start; next > 0 && fits(ending(next), metrics);
+         next = boundaries.toPreviousBoundary()) {
+        start = next;
+        if (isWordStart(text, start))
+            wordStart = start;
+    }
+    const bool isEnough = wordStart && metrics.horizontalAdvance(ending(*wordStart)) >= leastWidthOfWords;
+    return ending(isEnough ? *wordStart : start);
 }
 
 // Line ends and tabs are allowed in names and would break the line.
 QString printable(QString name) {
-    std::ranges::replace_if(
-        name, [](QChar c) { return c.category() == QChar::Other_Control; }, QChar(u' '));
+    const auto breaksLine = [](QChar c) {
+        return c.category() == QChar::Other_Control || c == QChar::LineSeparator ||
+               c == QChar::ParagraphSeparator;
+    };
+    std::ranges::replace_if(name, breaksLine, QChar(u' '));
     return name.trimmed();
 }
 
@@ -61,9 +93,7 @@ QStringList FileNameLayout::lines(const QString &name, const QFontMetricsF &metr
     QStringList result;
     QString rest = printable(name);
     while (result.size() < mostLines - 1 && !rest.isEmpty() && !fits(rest, metrics)) {
-        qsizetype end = lastFitting(rest, metrics, QTextBoundaryFinder::Line);
-        if (end == 0)
-            end = std::max(lastFitting(rest, metrics, QTextBoundaryFinder::Grapheme), qsizetype{1});
+        const qsizetype end = lineEnd(rest, metrics);
         result += rest.left(end).trimmed();
         rest = rest.mid(end).trimmed();
     }

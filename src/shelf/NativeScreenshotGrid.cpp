@@ -71,7 +71,7 @@ void NativeScreenshotGrid::clearSelection() {
 
 void NativeScreenshotGrid::revealSelection() {
     if (const auto index = m_collectionView->currentIndex())
-        m_scrollView->reveal(m_collectionView->gridLayout().itemRect(*index));
+        m_scrollView->reveal(m_collectionView->gridLayout().itemRectWithTitle(*index));
 }
 
 void NativeScreenshotGrid::scrollToTop() {

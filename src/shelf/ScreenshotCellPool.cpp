@@ -27,7 +27,7 @@ void ScreenshotCellPool::show(NativeScreenshotCell &cell, const Shot &shot) {
 
 void ScreenshotCellPool::arrange(const ScreenshotGridState &state, const ScreenshotGridLayout &layout,
                                  ScreenshotGridLayout::Range range) {
-    QHash<QString, NativeScreenshotCell *> before;
+    QMultiHash<QString, NativeScreenshotCell *> before;
     for (const auto &[index, cell] : std::exchange(m_shown, {}))
         before.insert(cell->path(), cell);
     std::vector<int> missing;

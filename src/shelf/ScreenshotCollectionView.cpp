@@ -230,7 +230,9 @@ std::optional<int> ScreenshotCollectionView::target(const QKeyEvent &event) cons
     using Direction = ScreenshotGridLayout::Direction;
     const auto current = currentIndex();
     const int from = current.value_or(0);
-    const int page = std::max(1, m_viewport.height() / ShelfLayout::Grid::itemHeight);
+    using Grid = ShelfLayout::Grid;
+    const int pitch = Grid::heightOfItem(m_state.showFileNames) + Grid::lineSpacing;
+    const int page = std::max(1, m_viewport.height() / pitch);
     const auto step = [&](Direction direction) {
         return current ? m_layout.neighbour(from, direction) : from;
     };
@@ -258,10 +260,14 @@ std::optional<int> ScreenshotCollectionView::target(const QKeyEvent &event) cons
 
 void ScreenshotCollectionView::moveTo(int index, bool extending) {
     choose(index, extending ? ScreenshotSelection::Mode::extend : ScreenshotSelection::Mode::replace);
-    Q_EMIT revealRequested(m_layout.itemRect(index));
+    Q_EMIT revealRequested(m_layout.itemRectWithTitle(index));
 }
 
 void ScreenshotCollectionView::keyPressEvent(QKeyEvent *event) {
+    if (event->matches(QKeySequence::SelectAll)) {
+        selectAll();
+        return;
+    }
     const Qt::KeyboardModifiers modifiers = event->modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier);
     if (m_layout.count() == 0 || modifiers != Qt::NoModifier) {
         QWidget::keyPressEvent(event);

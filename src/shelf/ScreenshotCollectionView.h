@@ -27,7 +27,8 @@ public:
     // The span of the document that can be seen.
     void setVisibleSpan(int top, int bottom);
 
-    void selectAll();
+    // Found by its name from the menu.
+    Q_SLOT void selectAll();
     void clearSelection();
     [[nodiscard]] std::vector<Shot> selectedShots() const { return m_selection.shots(m_state); }
 

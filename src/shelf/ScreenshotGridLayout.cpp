@@ -3,7 +3,6 @@
 #include "shelf/ShelfLayout.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace tembra {
 
@@ -58,8 +57,17 @@ QRect ScreenshotGridLayout::itemRect(int index) const {
     return {x, block.itemsTop + place / m_columns * pitch(), Grid::itemWidth, m_itemHeight};
 }
 
+QRect ScreenshotGridLayout::itemRectWithTitle(int index) const {
+    const Block &block = blockOf(index);
+    const QRect item = itemRect(index);
+    return index - block.first < m_columns ? item.united(headerRect(block)) : item;
+}
+
 QRect ScreenshotGridLayout::headerRect(int section) const {
-    const Block &block = m_blocks[static_cast<std::size_t>(section)];
+    return headerRect(m_blocks[static_cast<std::size_t>(section)]);
+}
+
+QRect ScreenshotGridLayout::headerRect(const Block &block) const {
     if (!block.hasHeader)
         return {};
     const int top = block.itemsTop - headerToItems - headerHeight;
@@ -97,7 +105,6 @@ int ScreenshotGridLayout::neighbour(int index, Direction direction) const {
     const Block &block = blockOf(index);
     const int row = (index - block.first) / m_columns;
     const int column = (index - block.first) % m_columns;
-    const auto isShown = [](const Block &candidate) { return candidate.count > 0; };
     switch (direction) {
     case Direction::left:
         return std::max(index - 1, 0);
@@ -106,20 +113,18 @@ int ScreenshotGridLayout::neighbour(int index, Direction direction) const {
     case Direction::up: {
         if (row > 0)
             return item(block, row - 1, column);
-        for (const Block &before : m_blocks | std::views::reverse | std::views::filter(isShown)) {
-            if (before.first < block.first)
-                return item(before, -1, column);
-        }
-        return index;
+        const auto before = std::find_if(m_blocks.rbegin(), m_blocks.rend(), [&](const Block &candidate) {
+            return candidate.count > 0 && candidate.first < block.first;
+        });
+        return before == m_blocks.rend() ? index : item(*before, -1, column);
     }
     case Direction::down: {
         if (row + 1 < rows(block))
             return item(block, row + 1, column);
-        for (const Block &after : m_blocks | std::views::filter(isShown)) {
-            if (after.first > block.first)
-                return item(after, 0, column);
-        }
-        return index;
+        const auto after = std::ranges::find_if(m_blocks, [&](const Block &candidate) {
+            return candidate.count > 0 && candidate.first > block.first;
+        });
+        return after == m_blocks.end() ? index : item(*after, 0, column);
     }
     }
     Q_UNREACHABLE();

@@ -32,6 +32,8 @@ public:
     [[nodiscard]] int columns() const { return m_columns; }
     [[nodiscard]] int count() const;
     [[nodiscard]] QRect itemRect(int index) const;
+    // The item, and in the first row of a section also its title.
+    [[nodiscard]] QRect itemRectWithTitle(int index) const;
     // Empty for a section without a title or without shots.
     [[nodiscard]] QRect headerRect(int section) const;
     // The items of all rows that touch the span.
@@ -49,6 +51,7 @@ private:
     };
 
     [[nodiscard]] const Block &blockOf(int index) const;
+    [[nodiscard]] QRect headerRect(const Block &block) const;
     [[nodiscard]] int rows(const Block &block) const { return (block.count + m_columns - 1) / m_columns; }
     [[nodiscard]] int pitch() const;
     // Nearest to the column in the row; negative rows count from the end.

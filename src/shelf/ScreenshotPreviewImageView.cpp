@@ -1,8 +1,11 @@
 #include "shelf/ScreenshotPreviewImageView.h"
 
+#include "controls/DevicePixels.h"
 #include "controls/Palette.h"
 
 #include <QPainter>
+
+#include <algorithm>
 
 namespace tembra {
 
@@ -22,13 +25,15 @@ QRectF ScreenshotPreviewImageView::fitted(const QImage &image, const QRectF &rec
     return result;
 }
 
-void ScreenshotPreviewImageView::draw(QPainter &painter, const QRectF &rectangle, const QImage &image,
+void ScreenshotPreviewImageView::draw(QPainter &painter, const QRectF &place, const QImage &image,
                                       qreal radius) {
+    const QRectF rectangle = onDevicePixels(painter, place);
     const qreal hairline = 1 / painter.device()->devicePixelRatioF();
     const qreal corner = std::min(radius, std::min(rectangle.width(), rectangle.height()) / 2);
     painter.save();
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    // Filling with a brush, unlike clipping, gives smooth corners. Its scale is told by the transformation alone.
+    // Filling with a brush, unlike clipping, gives smooth corners. Its scale is told by the transformation
+    // alone.
     QImage texture = image;
     texture.setDevicePixelRatio(1);
     QBrush brush(texture);

@@ -19,8 +19,9 @@ public:
 
     // The largest rectangle of the image's shape in the middle of the given one.
     [[nodiscard]] static QRectF fitted(const QImage &image, const QRectF &rectangle);
-    // Draws the image over the whole rectangle; the border is one device pixel wide.
-    static void draw(QPainter &painter, const QRectF &rectangle, const QImage &image,
+    // Draws the image over the whole place, moved to the nearest device pixels; the border is one of them
+    // wide.
+    static void draw(QPainter &painter, const QRectF &place, const QImage &image,
                      qreal radius = cornerRadius);
 
 protected:

@@ -33,9 +33,9 @@ bool ScreenshotSelection::assign(QSet<ScreenshotFileIdentity> selected) {
 
 bool ScreenshotSelection::choose(const ScreenshotGridState &state, int index, Mode mode) {
     const ScreenshotFileIdentity &identity = state.at(index).identity;
-    const int anchor = indexOf(state, m_anchor).value_or(index);
+    const std::optional<int> anchor = mode == Mode::extend ? indexOf(state, m_anchor) : std::nullopt;
     m_current = identity;
-    if (mode != Mode::extend || !m_anchor)
+    if (!anchor)
         m_anchor = identity;
     QSet<ScreenshotFileIdentity> selected;
     switch (mode) {
@@ -47,10 +47,12 @@ bool ScreenshotSelection::choose(const ScreenshotGridState &state, int index, Mo
         if (!selected.remove(identity))
             selected.insert(identity);
         break;
-    case Mode::extend:
-        for (int i = std::min(anchor, index); i <= std::max(anchor, index); ++i)
+    case Mode::extend: {
+        const auto [first, last] = std::minmax({anchor.value_or(index), index});
+        for (int i = first; i <= last; ++i)
             selected.insert(state.at(i).identity);
         break;
+    }
     }
     return assign(std::move(selected));
 }
@@ -66,6 +68,8 @@ bool ScreenshotSelection::selectAll(const ScreenshotGridState &state) {
 }
 
 bool ScreenshotSelection::clear() {
+    m_anchor.reset();
+    m_current.reset();
     return assign({});
 }
 
