@@ -58,24 +58,24 @@ void AppSettings::change(const AppSettingsState &next) {
     Q_EMIT updates(m_state);
 }
 
-void AppSettings::setFlag(bool AppSettingsState::*field, const QString &key, bool value) {
+template <class Value, class Store>
+void AppSettings::assign(Value AppSettingsState::*field, const Value &value, Store store) {
     requireMainThread();
     if (m_state.*field == value)
         return;
-    m_defaults.setBoolean(key, value);
+    store();
     AppSettingsState next = m_state;
     next.*field = value;
     change(next);
 }
 
+void AppSettings::setFlag(bool AppSettingsState::*field, const QString &key, bool value) {
+    assign(field, value, [&] { m_defaults.setBoolean(key, value); });
+}
+
 void AppSettings::setActivationMode(ActivationMode mode) {
-    requireMainThread();
-    if (m_state.activationMode == mode)
-        return;
-    m_defaults.setString(settingsKey::activationMode, rawValue(mode));
-    AppSettingsState next = m_state;
-    next.activationMode = mode;
-    change(next);
+    assign(&AppSettingsState::activationMode, mode,
+           [&] { m_defaults.setString(settingsKey::activationMode, rawValue(mode)); });
 }
 
 void AppSettings::setShortcutEnabled(bool enabled) {
@@ -83,13 +83,10 @@ void AppSettings::setShortcutEnabled(bool enabled) {
 }
 
 void AppSettings::setActivationShortcut(const ActivationShortcut &shortcut) {
-    requireMainThread();
-    if (!shortcut.isValid() || m_state.activationShortcut == shortcut)
-        return;
-    m_defaults.setData(settingsKey::activationShortcut, shortcut.toJson());
-    AppSettingsState next = m_state;
-    next.activationShortcut = shortcut;
-    change(next);
+    if (!shortcut.isValid())
+        return requireMainThread();
+    assign(&AppSettingsState::activationShortcut, shortcut,
+           [&] { m_defaults.setData(settingsKey::activationShortcut, shortcut.toJson()); });
 }
 
 void AppSettings::setHoverOnTabToOpen(bool opens) {
@@ -105,13 +102,8 @@ void AppSettings::setImageToTextEnabled(bool enabled) {
 }
 
 void AppSettings::setDisplayPreference(DisplayPreference preference) {
-    requireMainThread();
-    if (m_state.displayPreference == preference)
-        return;
-    m_defaults.setString(settingsKey::displayPreference, rawValue(preference));
-    AppSettingsState next = m_state;
-    next.displayPreference = preference;
-    change(next);
+    assign(&AppSettingsState::displayPreference, preference,
+           [&] { m_defaults.setString(settingsKey::displayPreference, rawValue(preference)); });
 }
 
 void AppSettings::setScreenshotNotifications(bool shown) {
@@ -136,15 +128,11 @@ void AppSettings::setGroupScreenshotsByDate(bool grouped) {
 }
 
 void AppSettings::setScreenshotAutoClean(ScreenshotAutoCleanPeriod period) {
-    requireMainThread();
-    if (m_state.screenshotAutoClean == period)
-        return;
-    m_defaults.setInteger(settingsKey::screenshotAutoCleanDays, static_cast<int>(period));
-    if (period == ScreenshotAutoCleanPeriod::never)
-        m_defaults.setInteger(settingsKey::autoCleanSafetyReview, 2);
-    AppSettingsState next = m_state;
-    next.screenshotAutoClean = period;
-    change(next);
+    assign(&AppSettingsState::screenshotAutoClean, period, [&] {
+        m_defaults.setInteger(settingsKey::screenshotAutoCleanDays, static_cast<int>(period));
+        if (period == ScreenshotAutoCleanPeriod::never)
+            m_defaults.setInteger(settingsKey::autoCleanSafetyReview, 2);
+    });
 }
 
 Result<void> AppSettings::grantScreenshotsFolder(const QString &folder, bool updateSystemLocation,

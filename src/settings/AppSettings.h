@@ -100,6 +100,9 @@ private:
     void storePins();
     [[nodiscard]] Result<PinnedScreenshot> pin(const QString &path) const;
     void change(const AppSettingsState &next);
+    // Compares, stores, and publishes.
+    template <class Value, class Store>
+    void assign(Value AppSettingsState::*field, const Value &value, Store store);
     void setFlag(bool AppSettingsState::*field, const QString &key, bool value);
 
     UserDefaults &m_defaults;
