@@ -12,8 +12,21 @@
 #include "shelf/ShelfController.h"
 
 #include <QCoreApplication>
+#include <QMessageBox>
 
 namespace tembra {
+
+namespace {
+
+// Tells of a failure without keeping the program waiting.
+void showAlert(const QString &title, const QString &message) {
+    auto *alert = new QMessageBox(QMessageBox::Warning, QStringLiteral("Tembra"), title, QMessageBox::Ok);
+    alert->setAttribute(Qt::WA_DeleteOnClose);
+    alert->setInformativeText(message);
+    alert->open();
+}
+
+} // namespace
 
 AppDelegate::AppDelegate(Platform &platform, Scheduler &scheduler)
     : m_platform(platform),
@@ -28,8 +41,8 @@ AppDelegate::~AppDelegate() = default;
 
 void AppDelegate::applicationDidFinishLaunching() {
     m_settings = makeSettings();
-    m_coordinator =
-        std::make_unique<AppFlowCoordinator>(*m_settings, *m_platform.workspace, makeShelfController());
+    m_coordinator = std::make_unique<AppFlowCoordinator>(*m_settings, *m_platform.workspace,
+                                                         makeShelfController(), [this] { terminate(); });
     m_commands = std::make_unique<CommandService>(
         m_coordinator->shelfController(), [this] { applicationShouldHandleReopen(); },
         [this] { terminate(); });
@@ -71,8 +84,10 @@ std::unique_ptr<ShelfController> AppDelegate::makeShelfController() {
                                  .hotZones = *m_platform.hotZones,
                                  .thumbnails = *m_platform.thumbnails,
                                  .files = *m_platform.fileFacts};
-    return std::make_unique<ShelfController>(*m_settings, std::move(session), makeLocationMonitor(),
-                                             services);
+    auto controller =
+        std::make_unique<ShelfController>(*m_settings, std::move(session), makeLocationMonitor(), services);
+    controller->onError = showAlert;
+    return controller;
 }
 
 std::unique_ptr<FileWatcherService> AppDelegate::makeFileWatcher() {

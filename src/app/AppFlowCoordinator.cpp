@@ -8,9 +8,11 @@
 namespace tembra {
 
 AppFlowCoordinator::AppFlowCoordinator(AppSettings &settings, Workspace &workspace,
-                                       std::unique_ptr<ShelfController> shelf)
+                                       std::unique_ptr<ShelfController> shelf,
+                                       std::function<void()> terminate)
     : m_settings(settings),
       m_workspace(workspace),
+      m_terminate(std::move(terminate)),
       m_onboarding(std::make_unique<OnboardingCoordinator>(settings, std::move(shelf))) {}
 
 AppFlowCoordinator::~AppFlowCoordinator() = default;
@@ -40,6 +42,9 @@ ShelfController &AppFlowCoordinator::shelfController() {
 
 void AppFlowCoordinator::installMainMenu() {
     m_mainMenu = std::make_unique<MainMenu>();
+    QObject::connect(m_mainMenu.get(), &MainMenu::terminate, m_mainMenu.get(), [this] { m_terminate(); });
+    QObject::connect(m_mainMenu.get(), &MainMenu::hideTembra, m_mainMenu.get(),
+                     [this] { shelfController().collapse(); });
 }
 
 } // namespace tembra

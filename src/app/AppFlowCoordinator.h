@@ -2,6 +2,7 @@
 
 #include "platform/Workspace.h"
 
+#include <functional>
 #include <memory>
 
 namespace tembra {
@@ -15,7 +16,8 @@ class ShelfController;
 // end. Main thread; owned by AppDelegate.
 class AppFlowCoordinator {
 public:
-    AppFlowCoordinator(AppSettings &settings, Workspace &workspace, std::unique_ptr<ShelfController> shelf);
+    AppFlowCoordinator(AppSettings &settings, Workspace &workspace, std::unique_ptr<ShelfController> shelf,
+                       std::function<void()> terminate);
     ~AppFlowCoordinator();
     AppFlowCoordinator(const AppFlowCoordinator &) = delete;
     AppFlowCoordinator &operator=(const AppFlowCoordinator &) = delete;
@@ -32,6 +34,7 @@ private:
 
     AppSettings &m_settings;
     Workspace &m_workspace;
+    const std::function<void()> m_terminate;
     std::unique_ptr<MainMenu> m_mainMenu;
     std::unique_ptr<OnboardingCoordinator> m_onboarding;
     std::unique_ptr<Workspace::Observation> m_observation;

@@ -5,6 +5,8 @@
 #include "settings/AppSettings.h"
 #include "shelf/ShelfController.h"
 
+#include <QFileInfo>
+
 namespace tembra {
 
 OnboardingCoordinator::OnboardingCoordinator(AppSettings &settings, std::unique_ptr<ShelfController> shelf)
@@ -31,7 +33,9 @@ void OnboardingCoordinator::adopt(const ScreenshotDestination &destination) {
     if (wasGranted || destination.kind != ScreenshotDestination::Kind::folder)
         return;
     // The tool makes its folder when it saves there first; the shelf is to be ready for that.
-    Result<void> adopted = DesktopScreenshotOrganizer::createFolder(destination.folder);
+    Result<void> adopted;
+    if (!QFileInfo(destination.folder).isDir())
+        adopted = DesktopScreenshotOrganizer::createFolder(destination.folder);
     if (adopted)
         adopted = m_shelf->acceptScreenshotFolder(destination.folder, true);
     if (!adopted)

@@ -101,11 +101,22 @@ int runShelf(int argc, char **argv) {
     Platform platform = makePlatform(scheduler);
     AppDelegate delegate(platform, scheduler);
     const auto instance = makeSingleInstance();
-    const auto claimed = instance->claim([&delegate](const QString &command, const QStringList &arguments) {
+    const auto answer = [&](const QString &command, const QStringList &arguments) {
+        // Who starts Tembra again while this one ends must find the name free.
+        if (command == u"quit" && delegate.applicationShouldTerminate())
+            instance->release();
         return delegate.perform(command, arguments);
-    });
-    if (!claimed && claimed.error().code == SingleInstance::alreadyRunning)
-        return finish(instance->send(QStringLiteral("reopen"), {}, false));
+    };
+    auto claimed = instance->claim(answer);
+    if (!claimed && claimed.error().code == SingleInstance::alreadyRunning) {
+        const auto reopened = instance->send(QStringLiteral("reopen"), {}, false);
+        if (reopened)
+            return finish(reopened);
+        // It may have ended between the two calls.
+        claimed = instance->claim(answer);
+        if (!claimed)
+            return finish(reopened);
+    }
     if (!claimed)
         qWarning("%s", qUtf8Printable(claimed.error().message));
 

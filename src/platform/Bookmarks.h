@@ -6,6 +6,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include <optional>
+
 namespace tembra {
 
 // Serialisable references that find a file or folder again after it was renamed or moved. Any thread; nothing
@@ -18,11 +20,14 @@ public:
         bool stale = false;
     };
 
-    // Codes of the errors, domain "Tembra.Bookmarks".
+    static inline const QString errorDomain = QStringLiteral("Tembra.Bookmarks");
+    // Codes of the errors of that domain.
     enum ErrorCode { malformed = 1, gone = 2, volumeAbsent = 3 };
 
     virtual ~Bookmarks() = default;
     [[nodiscard]] virtual Result<QByteArray> create(const QString &path) const = 0;
+    // Where the file was when the bookmark was made; nothing when the bookmark cannot be read.
+    [[nodiscard]] virtual std::optional<QString> lastKnownPath(const QByteArray &bookmark) const = 0;
     [[nodiscard]] virtual Result<Resolved> resolve(const QByteArray &bookmark) const = 0;
 };
 

@@ -21,7 +21,7 @@ public:
     virtual ~SingleInstance() = default;
     // Makes this process the running one and answers commands from now on.
     [[nodiscard]] virtual Result<void> claim(Handler handler) = 0;
-    // Lets the next one claim.
+    // Lets the next one claim; what was asked before is still answered.
     virtual void release() = 0;
     // Sends a command to the running program; with `startIfNeeded` the session may start it first, where it
     // knows how.

@@ -6,10 +6,12 @@
 #include "screenshots/ScreenshotCaptureDetector.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QLoggingCategory>
 
 #include <algorithm>
+#include <iterator>
 
 namespace tembra {
 
@@ -249,8 +251,10 @@ void FileWatcherService::apply(FolderScanResult result) {
 
 void FileWatcherService::applyFailure(const Error &error) {
     FolderShelf &shelf = *m_shelf;
-    const QString text = QCoreApplication::translate("FileWatcherService", "“%1” cannot be read: %2")
-                             .arg(*shelf.url, error.message);
+    const QString text =
+        QCoreApplication::translate("FileWatcherService", "Folder access needs to be restored");
+    if (shelf.errorText != text)
+        qCWarning(log, "%s cannot be read: %s", qUtf8Printable(*shelf.url), qUtf8Printable(error.message));
     const bool changed = shelf.errorText != text;
     shelf.errorText = text;
     shelf.shots.clear();
@@ -263,16 +267,22 @@ void FileWatcherService::applyFailure(const Error &error) {
 
 // A file is new when neither it nor another of its name was shown before: renamed and edited ones are not.
 std::vector<Shot> FileWatcherService::newShots(const std::vector<Shot> &arrivals) const {
-    std::vector<Shot> news;
-    if (!m_shelf->hasCompletedInitialScan)
-        return news;
+    if (!m_shelf->hasCompletedInitialScan || arrivals.empty())
+        return {};
+    QSet<ScreenshotFileIdentity> identities;
+    QSet<QStringView> locations;
     for (const Shot &arrival : arrivals) {
-        const bool isKnown = std::ranges::any_of(m_shelf->shots, [&arrival](const Shot &shot) {
-            return shot.identity == arrival.identity || shot.location == arrival.location;
-        });
-        if (!isKnown)
-            news.push_back(arrival);
+        identities.insert(arrival.identity);
+        locations.insert(arrival.location);
     }
+    for (const Shot &shot : m_shelf->shots) {
+        identities.remove(shot.identity);
+        locations.remove(shot.location);
+    }
+    std::vector<Shot> news;
+    std::ranges::copy_if(arrivals, std::back_inserter(news), [&](const Shot &arrival) {
+        return identities.contains(arrival.identity) && locations.contains(arrival.location);
+    });
     return news;
 }
 

@@ -44,7 +44,9 @@ void ShelfSession::folderChanged(FolderShelf &shelf, bool flag, int count) {
 }
 
 void ShelfSession::refreshWatcher() {
-    const std::optional<QString> folder = m_settings.state().screenshotsFolder;
+    // A folder that is lost is waited for where it was.
+    const auto &granted = m_settings.state().screenshotsFolder;
+    const std::optional<QString> folder = granted ? granted : m_settings.lostScreenshotsFolder();
     if (folder != folderShelf().url) {
         stopWatcher();
         folderShelf() = FolderShelf();

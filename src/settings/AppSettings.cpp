@@ -51,6 +51,11 @@ bool AppSettings::isFolderAccessLost() const {
     return !m_state.hasFolderAccess && m_defaults.data(m_folderPreferences.bookmarkKey).has_value();
 }
 
+std::optional<QString> AppSettings::lostScreenshotsFolder() const {
+    const auto bookmark = m_defaults.data(m_folderPreferences.bookmarkKey);
+    return isFolderAccessLost() ? m_folderAccess.lastKnownFolder(*bookmark) : std::nullopt;
+}
+
 void AppSettings::change(const AppSettingsState &next) {
     if (next == m_state)
         return;
@@ -163,14 +168,17 @@ void AppSettings::refreshFolderAccess() {
     requireMainThread();
     ScreenshotFolderAccess access = m_folderAccess;
     const auto renewed = access.restore(m_defaults.data(m_folderPreferences.bookmarkKey));
-    if (!renewed || !access.folder())
+    if (!renewed && renewed.error().code == Bookmarks::volumeAbsent &&
+        renewed.error().domain == Bookmarks::errorDomain)
+        access.stop();
+    else if (!renewed || !access.folder())
         return;
-    if (*renewed)
+    if (renewed && *renewed)
         m_defaults.setData(m_folderPreferences.bookmarkKey, **renewed);
     m_folderAccess = access;
     AppSettingsState next = m_state;
     next.screenshotsFolder = m_folderAccess.folder();
-    next.hasFolderAccess = true;
+    next.hasFolderAccess = m_folderAccess.scopedURL().has_value();
     change(next);
 }
 

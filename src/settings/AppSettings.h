@@ -43,6 +43,8 @@ public:
     [[nodiscard]] const AppSettingsState &state() const { return m_state; }
     // A folder was granted once, but it cannot be found or used now.
     [[nodiscard]] bool isFolderAccessLost() const;
+    // Where that folder was: it may come back there.
+    [[nodiscard]] std::optional<QString> lostScreenshotsFolder() const;
     [[nodiscard]] QSet<QString> pinnedScreenshotPaths() const;
     [[nodiscard]] const std::vector<PinnedScreenshot> &pinnedScreenshots() const {
         return m_pinnedScreenshots;
@@ -74,6 +76,7 @@ public:
                                         bool resetAutoClean);
     // Looks for the granted folder again: it may have been renamed or moved, or its disk may have come back.
     // When it is not found nothing changes.
+    // Access is lost when the disk is absent.
     void refreshFolderAccess();
 
     void beginOnboarding();

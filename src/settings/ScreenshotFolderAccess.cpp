@@ -72,6 +72,10 @@ Result<std::optional<QByteArray>> ScreenshotFolderAccess::restore(const std::opt
     return renewed;
 }
 
+std::optional<QString> ScreenshotFolderAccess::lastKnownFolder(const QByteArray &bookmark) const {
+    return m_bookmarks->lastKnownPath(bookmark);
+}
+
 Result<void> ScreenshotFolderAccess::validate(const QString &folder, bool enumerateContents) const {
     if (!folder.startsWith(u'/'))
         return cocoaFailure(

@@ -33,6 +33,8 @@ public:
     // Opens access by a stored bookmark; without one nothing happens. Gives the bookmark to store in its
     // place when it was stale.
     [[nodiscard]] Result<std::optional<QByteArray>> restore(const std::optional<QByteArray> &bookmark);
+    // Where the folder of a stored bookmark was when it was last found.
+    [[nodiscard]] std::optional<QString> lastKnownFolder(const QByteArray &bookmark) const;
     void stop() { m_folder.reset(); }
 
     // Whether a folder can really be used: it is a directory, not in the Trash, can be opened, and with

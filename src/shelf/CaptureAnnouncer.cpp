@@ -20,12 +20,19 @@ void CaptureAnnouncer::announceCaptures(const std::vector<CaptureNews> &news) {
     if (news.empty() || !canShow())
         return;
     const bool isSeries = m_showing && m_showing->captureCount > 0;
+    // A folder notice that has to give way is shown again afterwards.
+    if (m_showing && !isSeries)
+        m_pendingFolderNotification = m_showing->text;
     show(joined(isSeries ? *m_showing : CaptureNotification(), news), captureDuration);
 }
 
 void CaptureAnnouncer::announceFolder(const QString &text) {
     m_pendingFolderNotification = text;
     flushFolderNotification();
+}
+
+void CaptureAnnouncer::forgetFolder() {
+    m_pendingFolderNotification.clear();
 }
 
 void CaptureAnnouncer::flushFolderNotification() {

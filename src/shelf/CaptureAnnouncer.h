@@ -22,6 +22,8 @@ public:
     void announceCaptures(const std::vector<CaptureNews> &news);
     // A folder notice replaces one that still waits.
     void announceFolder(const QString &text);
+    // What a waiting folder notice tells is no longer so.
+    void forgetFolder();
     // The shelf opened: what shows ends, and what it said need not be said again.
     void dismiss();
     // The shelf closed: a folder notice that waited is shown.

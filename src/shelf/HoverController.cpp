@@ -31,6 +31,9 @@ void HoverController::start() {
 void HoverController::stop() {
     stopObservingEvents();
     m_isRunning = false;
+    m_manuallyOpened = false;
+    m_suppressHoverUntilExit = false;
+    m_pointerWasInNotch = false;
 }
 
 void HoverController::stopObservingEvents() {
@@ -159,8 +162,8 @@ void HoverController::receiveMouseEvent(const InputMonitor::Event &event) {
     switch (event.kind) {
     case InputMonitor::Kind::leftDown:
         m_interaction.pressed(event.point, !event.local && !now.keepsOpen(event.point) && hasFileSelection());
-        if (now.activationMode == ActivationMode::click && !now.expanded &&
-            now.isInActivationArea(event.point) && onActivationClick)
+        if (now.activationMode == ActivationMode::click && onActivationClick &&
+            (now.expanded ? now.contains(event.point, now.notch) : now.isInActivationArea(event.point)))
             onActivationClick();
         break;
     case InputMonitor::Kind::leftUp:

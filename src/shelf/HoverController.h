@@ -22,7 +22,7 @@ public:
     // The program in front holds a selection of files.
     std::function<bool()> hasFileSelection = [] { return false; };
     std::function<void(bool expanded)> onSetExpanded;
-    // A click on the tab in click mode.
+    // A click on the tab in click mode, which opens the shelf or closes it.
     std::function<void()> onActivationClick;
     std::function<ScreenPoint()> mouseLocation;
     // Whether the shelf may be shown at that place now.

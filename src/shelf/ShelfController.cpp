@@ -114,6 +114,7 @@ void ShelfController::stop() {
     m_displayObservation.reset();
     m_workspaceObservation.reset();
     m_surfaces->removeAll();
+    m_expanded = false;
 }
 
 ShelfContent &ShelfController::content() {
@@ -138,7 +139,12 @@ void ShelfController::connectHover() {
     m_hover.mouseLocation = [this] { return m_services.inputMonitor.pointer(); };
     m_hover.onSetExpanded = [this](bool expanded) { setExpanded(expanded); };
     m_surfaces->onPointerActivity = [this] { m_hover.requestPointerEvaluation(); };
-    m_surfaces->onActivationPressed = [this] { openManually(); };
+    m_hover.onActivationClick = [this] { toggleFromShortcut(); };
+    // A press opens what hovering would open; in click mode the click is seen wherever it goes.
+    m_surfaces->onActivationPressed = [this] {
+        if (m_settings.state().activationMode == ActivationMode::hover)
+            setExpanded(true);
+    };
     m_surfaces->onEscape = [this] { collapse(); };
 }
 
@@ -163,15 +169,24 @@ void ShelfController::setExpanded(bool expanded) {
 }
 
 void ShelfController::showExpanded() {
-    if (!m_surfaces->activateForOpening(m_settings.state().displayPreference,
-                                        m_services.inputMonitor.pointer()))
-        return;
+    if (!activateSurface())
+        return m_hover.didCollapse();
     m_expanded = true;
     m_announcer.dismiss();
     // The tool's setting may have been changed since: nobody tells, so it is asked when somebody looks.
     m_locationMonitor->check();
     render();
     m_surfaces->present(ShelfPresentation::expanded(QSize(panelSize.width(), targetPanelHeight())));
+}
+
+// A display that has just come may not have its window yet.
+bool ShelfController::activateSurface() {
+    const DisplayPreference preference = m_settings.state().displayPreference;
+    const ScreenPoint pointer = m_services.inputMonitor.pointer();
+    if (m_surfaces->activateForOpening(preference, pointer))
+        return true;
+    m_surfaces->reconcileDisplayWindows(preference);
+    return m_surfaces->activateForOpening(preference, pointer);
 }
 
 void ShelfController::hideSurface() {
@@ -184,6 +199,8 @@ void ShelfController::hideSurface() {
 
 void ShelfController::openManually() {
     m_hover.openManually();
+    if (m_expanded)
+        m_surfaces->active()->takeKeyboardFocus();
 }
 
 void ShelfController::toggleFromShortcut() {
@@ -218,8 +235,10 @@ int ShelfController::targetPanelHeight() const {
 }
 
 void ShelfController::applySettings(const AppSettingsState &state) {
-    if (state.screenshotsFolder != m_session->folderShelf().url)
+    if (state.screenshotsFolder && state.screenshotsFolder != m_session->folderShelf().url) {
+        rereadDestination();
         refreshWatchers();
+    }
     if (!isShown(tabs(), m_activeTab))
         m_activeTab = ShelfTab::screenshots;
     reconcileDisplayWindows();
@@ -235,11 +254,18 @@ void ShelfController::receiveFolderChange(const FolderShelf &shelf) {
     if (shelf.errorText) {
         m_settings.refreshFolderAccess();
     } else if (m_folderState == ScreenshotFolderState::missing) {
-        // Some tools save elsewhere while their folder is away.
-        m_destination.reset();
-        m_locationMonitor->check();
+        // It may be another folder at the old place, and some tools save elsewhere while theirs is away.
+        m_settings.refreshFolderAccess();
+        rereadDestination();
     }
     updateFolderState();
+}
+
+// What was read, or is being read, may still be the old place.
+void ShelfController::rereadDestination() {
+    m_destination.reset();
+    m_locationMonitor->raiseGeneration();
+    m_locationMonitor->check();
 }
 
 void ShelfController::receiveDestination(const ScreenshotDestination &destination) {
@@ -263,6 +289,8 @@ ScreenshotFolderFacts ShelfController::folderFacts() const {
 void ShelfController::updateFolderState() {
     const ScreenshotFolderState state = screenshotFolderState(folderFacts());
     const auto notification = folderNotification(m_folderState, state);
+    if (state != m_folderState)
+        m_announcer.forgetFolder();
     m_folderState = state;
     render();
     if (notification && m_settings.state().screenshotNotifications)
@@ -306,8 +334,7 @@ void ShelfController::showNotification(const std::optional<CaptureNotification> 
             m_surfaces->present(ShelfPresentation::collapsed());
         return;
     }
-    if (!m_surfaces->activateForOpening(m_settings.state().displayPreference,
-                                        m_services.inputMonitor.pointer()))
+    if (!activateSurface())
         return;
     content().apply({.notification = notification});
     m_surfaces->present(ShelfPresentation::notification(notificationSize));
@@ -342,10 +369,14 @@ void ShelfController::workspaceChanged(Workspace::Event event) {
     case Workspace::Event::didMount:
         m_settings.refreshFolderAccess();
         m_settings.refreshUnresolvedPins();
+        // What is mounted over a folder hides it without a word.
+        refreshWatchers();
         updateFolderState();
         break;
     case Workspace::Event::didUnmount:
+        m_settings.refreshFolderAccess();
         m_session->fileWatcher().scanNow();
+        updateFolderState();
         break;
     case Workspace::Event::compositingChanged:
         m_surfaces->compositingChanged();
@@ -408,9 +439,7 @@ Result<void> ShelfController::acceptScreenshotFolder(const QString &folder, bool
     const auto granted = m_settings.grantScreenshotsFolder(folder, !adopting, false);
     if (!granted)
         return granted;
-    // What the monitor is reading now may still be the old place.
-    m_locationMonitor->raiseGeneration();
-    m_locationMonitor->check();
+    rereadDestination();
     refreshWatchers();
     updateFolderState();
     return {};

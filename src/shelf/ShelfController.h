@@ -85,10 +85,12 @@ private:
     void render();
     void updateFolderState();
     void receiveFolderChange(const FolderShelf &shelf);
+    void rereadDestination();
     void receiveDestination(const ScreenshotDestination &destination);
     [[nodiscard]] ScreenshotFolderFacts folderFacts() const;
     void receiveNewFiles(const std::vector<Shot> &shots);
     void showNotification(const std::optional<CaptureNotification> &notification);
+    bool activateSurface();
     void showExpanded();
     void hideSurface();
     void workspaceChanged(Workspace::Event event);

@@ -17,8 +17,9 @@ namespace {
 
 // The window is as large as the largest panel, so that it need not change while the panel grows in it.
 constexpr QSize largestPanel{744, 256};
-// A pointer this close to the panel still counts as in it; the window must hear it leave.
-constexpr int pointerTolerance = 2;
+// A pointer this close to the panel still counts as in it; the window must hear it leave. Edges count as
+// well, so it is a point more to the right and below.
+constexpr int pointerTolerance = 1;
 
 // The panel's outline as the shape of its window.
 QBitmap outline(const QSize &window, const QRectF &body) {
@@ -47,8 +48,12 @@ ShelfDisplayWindow::ShelfDisplayWindow(const ShelfDisplay &display, const ShelfS
 
 ShelfDisplayWindow::~ShelfDisplayWindow() {
     m_animation.stop();
-    if (m_content && m_content->parent() == m_viewport)
+    if (hasContent())
         m_content->setParent(nullptr);
+}
+
+bool ShelfDisplayWindow::hasContent() const {
+    return m_content && m_content->parentWidget() == m_viewport;
 }
 
 void ShelfDisplayWindow::makePanel() {
@@ -105,7 +110,7 @@ void ShelfDisplayWindow::present(const ShelfPresentation &presentation, bool isA
     m_height.retarget(restingSize().height(), now);
     m_animation.stop();
     placePanel();
-    if (m_content && presentation.kind != ShelfPresentation::Kind::collapsed)
+    if (hasContent() && presentation.kind != ShelfPresentation::Kind::collapsed)
         m_content->resize(presentation.size);
     updateInputRegion();
     const bool hasMotion =
@@ -130,7 +135,7 @@ void ShelfDisplayWindow::placeBody() {
     const bool isComposited = m_services.workspace.isComposited();
     m_root->setBody(body, isComposited);
     m_viewport->setGeometry(body.toRect());
-    if (m_content)
+    if (hasContent())
         m_content->move((m_viewport->width() - m_content->width()) / 2, 0);
     // Without a compositor what is not the panel would be black.
     if (isComposited)
@@ -144,13 +149,16 @@ void ShelfDisplayWindow::updateInputRegion() {
     if (m_presentation.kind != ShelfPresentation::Kind::collapsed) {
         const QSize size = m_presentation.size;
         const QRect body((m_root->width() - size.width()) / 2, 0, size.width(), size.height());
-        region = body.adjusted(-pointerTolerance, 0, pointerTolerance, pointerTolerance);
+        region = body.adjusted(-pointerTolerance, 0, pointerTolerance + 1, pointerTolerance + 1);
     }
     m_services.panelWindows.setInputRegion(*m_panel, region);
 }
 
 void ShelfDisplayWindow::settle() {
     placeBody();
+    // A notification may have come to lie under a pointer that rests.
+    if (m_presentation.kind == ShelfPresentation::Kind::notification)
+        onPointerActivity();
     if (m_presentation.kind != ShelfPresentation::Kind::collapsed)
         return;
     m_services.panelWindows.returnKeyboardFocus(*m_panel);

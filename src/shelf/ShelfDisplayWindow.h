@@ -52,6 +52,8 @@ public:
 
 private:
     void makePanel();
+    // The content is shown here and not in the window of another display.
+    [[nodiscard]] bool hasContent() const;
     void placePanel();
     void placeBody();
     void updateInputRegion();

@@ -7,7 +7,9 @@
 
 namespace tembra {
 
-ShelfView::ShelfView(QWidget *parent) : QWidget(parent) {}
+ShelfView::ShelfView(QWidget *parent) : QWidget(parent) {
+    setMouseTracking(true);
+}
 
 void ShelfView::setBody(const QRectF &body, bool castsShadow) {
     if (m_body == body && m_castsShadow == castsShadow)
@@ -32,6 +34,11 @@ void ShelfView::enterEvent(QEnterEvent *) {
 }
 
 void ShelfView::leaveEvent(QEvent *) {
+    onPointerActivity();
+}
+
+// Only in the narrow band beside the body, which is not covered by views.
+void ShelfView::mouseMoveEvent(QMouseEvent *) {
     onPointerActivity();
 }
 

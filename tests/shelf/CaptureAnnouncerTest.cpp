@@ -49,6 +49,9 @@ TEST_F(CaptureAnnouncerTest, aFolderNoticeWaitsForItsTurn) {
     capture("/b.png");
     EXPECT_EQ(shown->captureCount, 1) << "a capture takes the place of a folder notice";
 
+    scheduler.advance(3s);
+    EXPECT_EQ(text(), QStringLiteral("two")) << "which is shown again afterwards";
+
     announcer.dismiss();
     EXPECT_FALSE(shown);
     closed = false;
@@ -58,4 +61,12 @@ TEST_F(CaptureAnnouncerTest, aFolderNoticeWaitsForItsTurn) {
     closed = true;
     announcer.flushFolderNotification();
     EXPECT_EQ(text(), QStringLiteral("three"));
+
+    announcer.dismiss();
+    closed = false;
+    announcer.announceFolder(QStringLiteral("four"));
+    announcer.forgetFolder();
+    closed = true;
+    announcer.flushFolderNotification();
+    EXPECT_FALSE(shown) << "it is no longer so";
 }

@@ -39,8 +39,9 @@ class StillStyle final : public QProxyStyle {
 public:
     int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                   QStyleHintReturn *returnData) const override {
-        return hint == SH_Widget_Animation_Duration ? 0
-                                                    : QProxyStyle::styleHint(hint, option, widget, returnData);
+        return hint == SH_Widget_Animation_Duration
+                   ? 0
+                   : QProxyStyle::styleHint(hint, option, widget, returnData);
     }
 };
 
@@ -58,14 +59,30 @@ protected:
         if (granted) {
             EXPECT_TRUE(settings.grantScreenshotsFolder(folder, false, false));
         }
+        start(settings);
+    }
+
+    void start(AppSettings &appSettings) {
         controller = std::make_unique<ShelfController>(
-            settings, std::make_unique<ShelfSession>(settings, defaults, makeWatcher()),
-            std::make_unique<ScreenshotLocationMonitor>([this] { return destination; }, queue, scheduler, workspace),
-            ShelfServices{scheduler, scheduler.uptimeClock(), clock, displays, workspace, input, panelWindows, hotZones,
-                          thumbnails, files});
+            appSettings, std::make_unique<ShelfSession>(appSettings, defaults, makeWatcher()),
+            std::make_unique<ScreenshotLocationMonitor>([this] { return destination; }, queue, scheduler,
+                                                        workspace),
+            ShelfServices{scheduler, scheduler.uptimeClock(), clock, displays, workspace, input, panelWindows,
+                          hotZones, thumbnails, files});
         controller->onError = [this](const QString &title, const QString &) { errors += title; };
         controller->start();
         settle();
+    }
+
+    AppSettings::Functions functions() {
+        return {.updateSystemFolder =
+                    [this](const QString &chosen) {
+                        destination = ScreenshotDestination::toFolder(chosen);
+                        return systemRefusal;
+                    },
+                .thumbnailPreference = {[] { return std::nullopt; }, [](auto) { return Result<void>(); }},
+                .createBookmark = [this](const QString &path) { return bookmarks.create(path); },
+                .resolvePinnedBookmark = [](const QByteArray &) { return std::nullopt; }};
     }
 
     std::unique_ptr<FileWatcherService> makeWatcher() {
@@ -116,17 +133,8 @@ protected:
     FakeHotZones hotZones;
     NoThumbnails thumbnails;
     MemoryUserDefaults defaults;
-    AppSettings settings{defaults,
-                         FolderPreferences(),
-                         ScreenshotFolderAccess(bookmarks, files, folders),
-                         {.updateSystemFolder =
-                              [this](const QString &chosen) {
-                                  destination = ScreenshotDestination::toFolder(chosen);
-                                  return systemRefusal;
-                              },
-                          .thumbnailPreference = {[] { return std::nullopt; }, [](auto) { return Result<void>(); }},
-                          .createBookmark = [this](const QString &path) { return bookmarks.create(path); },
-                          .resolvePinnedBookmark = [](const QByteArray &) { return std::nullopt; }}};
+    AppSettings settings{defaults, FolderPreferences(), ScreenshotFolderAccess(bookmarks, files, folders),
+                         functions()};
     ScreenshotDestination destination;
     Result<void> systemRefusal;
     QStringList errors;
@@ -183,8 +191,8 @@ TEST_F(ShelfControllerTest, tellsWhenCapturesGoElsewhere) {
                                "Screenshots aren’t saving to a folder"},
                           Case{ScreenshotDestination::toFolder(root.filePath(QStringLiteral("Other"))),
                                ScreenshotFolderState::elsewhere, "Screenshot location changed"},
-                          Case{ScreenshotDestination::toOther(QStringLiteral("mail")), ScreenshotFolderState::other,
-                               "Screenshots aren’t saving to a folder"}}) {
+                          Case{ScreenshotDestination::toOther(QStringLiteral("mail")),
+                               ScreenshotFolderState::other, "Screenshots aren’t saving to a folder"}}) {
         destination = c.destination;
         workspace.raise(Workspace::Event::didWake);
         settle();
@@ -207,13 +215,15 @@ TEST_F(ShelfControllerTest, aFolderThatTheUserChoosesBecomesTheToolsOwn) {
     settle();
     EXPECT_EQ(status().folder, chosen);
     EXPECT_EQ(status().folderState, ScreenshotFolderState::ready);
+    EXPECT_FALSE(status().showingNotification) << "the user knows that the place changed";
     EXPECT_TRUE(status().expanded) << "the user sees what the choice did";
     EXPECT_TRUE(errors.isEmpty());
 }
 
 TEST_F(ShelfControllerTest, aFolderThatTheToolRefusesChangesNothing) {
     start();
-    systemRefusal = failure({QStringLiteral("Tembra.ScreenshotSaveLocation"), 1, QStringLiteral("refused"), {}});
+    systemRefusal =
+        failure({QStringLiteral("Tembra.ScreenshotSaveLocation"), 1, QStringLiteral("refused"), {}});
     controller->askForFolder = [this](const QString &) { return std::optional(root.path()); };
     controller->chooseFolder();
     EXPECT_EQ(errors, QStringList(QStringLiteral("refused")));
@@ -235,7 +245,8 @@ TEST_F(ShelfControllerTest, whatIsTodaysIsYesterdaysAfterMidnight) {
 
 TEST_F(ShelfControllerTest, theOpenShelfMovesToARemainingDisplay) {
     settings.setDisplayPreference(DisplayPreference::all);
-    displays.screens.push_back({.identifier = 2, .name = QStringLiteral("second"), .frame = {1280, 0, 1000, 800}});
+    displays.screens.push_back(
+        {.identifier = 2, .name = QStringLiteral("second"), .frame = {1280, 0, 1000, 800}});
     start();
     EXPECT_EQ(hotZones.count, 2);
     movePointer({1780, 2});
@@ -251,6 +262,74 @@ TEST_F(ShelfControllerTest, theOpenShelfMovesToARemainingDisplay) {
     scheduler.advance(1s);
     EXPECT_EQ(hotZones.count, 0);
     EXPECT_TRUE(controller->status().display.isEmpty());
+}
+
+TEST_F(ShelfControllerTest, aFolderThatWasGoneAtTheStartIsFoundWhenItIsBack) {
+    ASSERT_TRUE(settings.grantScreenshotsFolder(folder, false, false));
+    ASSERT_TRUE(QDir(folder).removeRecursively());
+    settings.refreshFolderAccess();
+    AppSettings restarted(defaults, FolderPreferences(), ScreenshotFolderAccess(bookmarks, files, folders),
+                          functions());
+    start(restarted);
+    EXPECT_EQ(status().folderState, ScreenshotFolderState::missing);
+
+    QDir().mkpath(folder);
+    scheduler.advance(10s);
+    settle();
+    EXPECT_EQ(status().folderState, ScreenshotFolderState::ready);
+    capture();
+    EXPECT_EQ(status().screenshotCount, 1);
+}
+
+TEST_F(ShelfControllerTest, aFolderThatWasMadeAnewIsFollowedLikeTheFirst) {
+    start();
+    ASSERT_TRUE(QDir(folder).removeRecursively());
+    events.sendDirectory(FolderEvents::remove);
+    settle();
+    EXPECT_EQ(status().folderState, ScreenshotFolderState::missing);
+    EXPECT_EQ(status().notificationText, QStringLiteral("Screenshots folder unavailable"));
+    QDir().mkpath(folder);
+    scheduler.advance(10s);
+    settle();
+    EXPECT_EQ(status().folderState, ScreenshotFolderState::ready);
+
+    const QString renamed = root.filePath(QStringLiteral("Renamed"));
+    ASSERT_TRUE(QDir().rename(folder, renamed));
+    destination = ScreenshotDestination::toFolder(renamed);
+    events.sendDirectory(FolderEvents::rename);
+    settle();
+    EXPECT_EQ(status().folder, renamed);
+    EXPECT_EQ(status().folderState, ScreenshotFolderState::ready);
+}
+
+TEST_F(ShelfControllerTest, aPressInHoverModeOpensWhatHoveringClosesAgain) {
+    start();
+    hotZones.press();
+    EXPECT_TRUE(status().expanded);
+    movePointer(atTopEdge);
+    movePointer(farAway);
+    EXPECT_FALSE(status().expanded);
+
+    settings.setActivationMode(ActivationMode::click);
+    for (const bool expanded : {true, false}) {
+        input.send(InputMonitor::Kind::leftDown, atTopEdge);
+        hotZones.press();
+        EXPECT_EQ(status().expanded, expanded) << "each click turns it round";
+    }
+}
+
+TEST_F(ShelfControllerTest, withoutADisplayNothingOpensAndHoveringWorksOnceThereIsOne) {
+    start();
+    const auto screens = displays.screens;
+    displays.set({});
+    controller->openManually();
+    EXPECT_FALSE(status().expanded);
+    displays.screens = screens;
+    controller->openManually();
+    EXPECT_TRUE(status().expanded) << "a display that has just come";
+    controller->collapse();
+    movePointer(atTopEdge);
+    EXPECT_TRUE(status().expanded);
 }
 
 TEST_F(ShelfControllerTest, nothingIsLeftOnceItIsStopped) {

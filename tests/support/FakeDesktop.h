@@ -14,7 +14,8 @@ namespace tembra {
 // Screens that the test connects.
 class FakeDisplays final : public Displays {
 public:
-    std::vector<DisplayFacts> screens{{.identifier = 1, .name = QStringLiteral("first"), .frame = {0, 0, 1280, 800}}};
+    std::vector<DisplayFacts> screens{
+        {.identifier = 1, .name = QStringLiteral("first"), .frame = {0, 0, 1280, 800}}};
 
     [[nodiscard]] std::vector<DisplayFacts> connected() const override { return screens; }
     [[nodiscard]] std::unique_ptr<Observation> observe(std::function<void()> onChange) override {
@@ -43,9 +44,12 @@ class FakeHotZones final : public HotZones {
 public:
     int count = 0;
 
-    [[nodiscard]] std::unique_ptr<Zone> add(const ScreenRect &, Callbacks) override {
+    [[nodiscard]] std::unique_ptr<Zone> add(const ScreenRect &, Callbacks callbacks) override {
+        m_lastCallbacks = std::move(callbacks);
         return std::make_unique<CountedZone>(count);
     }
+    // On the zone added last.
+    void press() const { m_lastCallbacks.onPress(); }
 
 private:
     class CountedZone final : public Zone {
@@ -57,6 +61,8 @@ private:
     private:
         int &m_count;
     };
+
+    Callbacks m_lastCallbacks;
 };
 
 // Never has a picture.

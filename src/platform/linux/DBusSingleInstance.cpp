@@ -36,6 +36,8 @@ DBusSingleInstance::DBusSingleInstance() = default;
 
 DBusSingleInstance::~DBusSingleInstance() {
     release();
+    if (m_object)
+        QDBusConnection::sessionBus().unregisterObject(objectPath);
 }
 
 Result<void> DBusSingleInstance::claim(Handler handler) {
@@ -55,17 +57,13 @@ Result<void> DBusSingleInstance::claim(Handler handler) {
 }
 
 void DBusSingleInstance::release() {
-    if (!m_object)
-        return;
-    QDBusConnection bus = QDBusConnection::sessionBus();
-    bus.unregisterService(serviceName);
-    bus.unregisterObject(objectPath);
-    m_object.reset();
+    if (m_object)
+        QDBusConnection::sessionBus().unregisterService(serviceName);
 }
 
 Result<QString> DBusSingleInstance::send(const QString &command, const QStringList &arguments,
                                          bool startIfNeeded) {
-    QDBusConnection bus = QDBusConnection::sessionBus();
+    const QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return noBus();
     QDBusMessage call =

@@ -50,8 +50,7 @@ std::optional<Record> decode(const QByteArray &bookmark) {
 tl::unexpected<Error> bookmarkFailure(Bookmarks::ErrorCode code, const char *message,
                                       const QString &path = {}) {
     const QString sentence = QCoreApplication::translate("Bookmarks", message);
-    return failure(
-        {QStringLiteral("Tembra.Bookmarks"), code, path.isEmpty() ? sentence : sentence.arg(path), {}});
+    return failure({Bookmarks::errorDomain, code, path.isEmpty() ? sentence : sentence.arg(path), {}});
 }
 
 } // namespace
@@ -68,6 +67,11 @@ Result<QByteArray> LinuxBookmarks::create(const QString &path) const {
     return m_reader.facts(path).map([&path](const FileFacts &facts) {
         return encode({path, facts.resource});
     });
+}
+
+std::optional<QString> LinuxBookmarks::lastKnownPath(const QByteArray &bookmark) const {
+    const auto record = decode(bookmark);
+    return record ? std::optional(record->path) : std::nullopt;
 }
 
 Result<Bookmarks::Resolved> LinuxBookmarks::resolve(const QByteArray &bookmark) const {

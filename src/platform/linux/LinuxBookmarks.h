@@ -15,6 +15,7 @@ public:
     LinuxBookmarks(const LinuxFileFactsReader &reader, const StandardFolders &folders);
 
     [[nodiscard]] Result<QByteArray> create(const QString &path) const override;
+    [[nodiscard]] std::optional<QString> lastKnownPath(const QByteArray &bookmark) const override;
     [[nodiscard]] Result<Resolved> resolve(const QByteArray &bookmark) const override;
 
 private:
