@@ -111,6 +111,27 @@ TEST(ScreenshotRoad, aRenamedFolderIsFollowed) {
     })) << QJsonDocument(tembra.status()).toJson().toStdString();
 }
 
+TEST(ScreenshotRoad, aFolderBehindALinkIsAdopted) {
+    TembraProcess tembra;
+    const QString real = tembra.home() + QStringLiteral("/elsewhere");
+    ASSERT_TRUE(QDir().rename(tembra.screenshots(), real));
+    ASSERT_TRUE(QFile::link(real, tembra.screenshots()));
+    tembra.start();
+    ASSERT_TRUE(tembra.waitFor(isReady)) << tembra.log().toStdString();
+    ASSERT_EQ(tembra.tool(QStringLiteral("scrot"), {}).exitStatus, 0);
+    EXPECT_TRUE(tembra.waitFor([](const QJsonObject &status) { return shotCount(status) == 1; }));
+}
+
+TEST(Shelf, opensForAPointerThatRestsWhereANotificationAppears) {
+    TembraProcess tembra;
+    tembra.tool(QStringLiteral("xdotool"),
+                {QStringLiteral("mousemove"), QStringLiteral("640"), QStringLiteral("60")});
+    tembra.start();
+    ASSERT_TRUE(tembra.waitFor(isReady));
+    ASSERT_EQ(tembra.tool(QStringLiteral("scrot"), {}).exitStatus, 0);
+    EXPECT_TRUE(tembra.waitFor(isExpanded));
+}
+
 TEST(Shelf, hoveringTheTopEdgeOpensItAndLeavingClosesIt) {
     TembraProcess tembra;
     const auto pointer = [&](int x, int y) {
@@ -146,6 +167,9 @@ TEST(Shelf, isDrivenByItsCommands) {
     EXPECT_TRUE(tembra.waitFor(isExpanded)) << "a second start shows the shelf of the first";
     EXPECT_EQ(tembra.command({QStringLiteral("close")}).exitStatus, 0);
     EXPECT_EQ(tembra.command({QStringLiteral("quit")}).exitStatus, 0);
+    const auto tooLate = tembra.command({QStringLiteral("close")});
+    EXPECT_EQ(tooLate.error.trimmed(), QStringLiteral("Tembra is not running."))
+        << "the name is free at once";
     EXPECT_TRUE(tembra.waitForEnd());
 }
 
