@@ -56,6 +56,33 @@ qsizetype lineEnd(const QString &text, const QFontMetricsF &metrics) {
     return QTextBoundaryFinder(QTextBoundaryFinder::Grapheme, text).toNextBoundary();
 }
 
+bool isDigit(QChar c) {
+    return c >= u'0' && c <= u'9';
+}
+
+bool beginsWithNumber(const QString &text) {
+    return isDigit(text.front());
+}
+
+bool hasNumber(const QString &text) {
+    return std::ranges::any_of(text, isDigit);
+}
+
+// The beginning of the text and its extension: some tools put the time first and their own sign last.
+QString beginning(const QString &text, const QFontMetricsF &metrics) {
+    const qsizetype dot = text.lastIndexOf(u'.');
+    const QString extension = dot > 0 ? text.mid(dot) : QString();
+    QTextBoundaryFinder boundaries(QTextBoundaryFinder::Grapheme, text);
+    QString fitting;
+    for (qsizetype next = boundaries.toNextBoundary(); next > 0; next = boundaries.toNextBoundary()) {
+        const QString longer = text.left(next) + ellipsis + extension;
+        if (!fits(longer, metrics))
+            break;
+        fitting = longer;
+    }
+    return fitting;
+}
+
 // The end of the text behind an ellipsis. It begins with a word unless that would take much more away than
 // must be; the last character always stays.
 QString shortened(const QString &text, const QFontMetricsF &metrics) {
@@ -74,7 +101,11 @@ QString shortened(const QString &text, const QFontMetricsF &metrics) {
             wordStart = start;
     }
     const bool isEnough = wordStart && metrics.horizontalAdvance(ending(*wordStart)) >= leastWidthOfWords;
-    return ending(isEnough ? *wordStart : start);
+    const QString kept = ending(isEnough ? *wordStart : start);
+    if (!beginsWithNumber(text) || hasNumber(kept))
+        return kept;
+    const QString begun = beginning(text, metrics);
+    return begun.isEmpty() ? kept : begun;
 }
 
 // Line ends and tabs are allowed in names and would break the line.

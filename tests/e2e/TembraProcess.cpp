@@ -18,6 +18,8 @@ constexpr int patienceMilliseconds = 10000;
 TembraProcess::TembraProcess() : m_environment(QProcessEnvironment::systemEnvironment()) {
     m_environment.insert(QStringLiteral("HOME"), home());
     m_environment.insert(QStringLiteral("TEMBRA_HOME"), home() + QStringLiteral("/tembra"));
+    // Whatever screenshot tools are installed on the machine: this desktop is a bare window manager's.
+    m_environment.insert(QStringLiteral("TEMBRA_SCREENSHOT_TOOL"), QStringLiteral("generic"));
     m_environment.insert(QStringLiteral("XDG_CONFIG_HOME"), home() + QStringLiteral("/.config"));
     m_environment.insert(QStringLiteral("XDG_DATA_HOME"), home() + QStringLiteral("/.local/share"));
     m_environment.insert(QStringLiteral("XDG_CACHE_HOME"), home() + QStringLiteral("/.cache"));

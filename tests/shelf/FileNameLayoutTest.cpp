@@ -52,6 +52,9 @@ TEST(FileNameLayout, keepsTheEndThatTellsCapturesApart) {
         EXPECT_FALSE(name.chopped(last.size() - 1).back().isLetterOrNumber()) << qPrintable(last);
     }
     EXPECT_EQ(linesOf(u"Screenshot from 2026-11-21 08-07-12.png"_s).front(), u"Screenshot from"_s);
+    const QString ofTool = linesOf(u"2026-11-21-080712_1280x800_scrot.png"_s).back();
+    EXPECT_TRUE(ofTool.startsWith(u"0807"))
+        << qPrintable(ofTool) << ": the time stands before the tool's sign";
 }
 
 TEST(FileNameLayout, breaksALongWordBetweenItsParts) {

@@ -86,6 +86,31 @@ std::uint64_t volumeId(const MountEntry &mount, const struct statfs *facts) {
     return id != 0 ? id : hashOfName(mount);
 }
 
+// A changed root hides the mount that it lies on from the table; what kind it is the file system itself still
+// tells.
+MountEntry unlistedMount(const struct statfs &facts) {
+    constexpr auto exfatMagic = 0x2011bab0;
+    switch (static_cast<std::uint32_t>(facts.f_type)) {
+    case MSDOS_SUPER_MAGIC:
+        return {.type = "vfat"};
+    case exfatMagic:
+        return {.type = "exfat"};
+    case FUSE_SUPER_MAGIC:
+        return {.type = "fuse"};
+    case NFS_SUPER_MAGIC:
+        return {.type = "nfs"};
+    case CIFS_SUPER_MAGIC:
+    case SMB2_SUPER_MAGIC:
+        return {.type = "cifs"};
+    default:
+        return {};
+    }
+}
+
+bool isRootMount(const MountEntry &mount) {
+    return mount.mountPoint == "/";
+}
+
 } // namespace
 
 LinuxVolumes::LinuxVolumes() : m_mountTable(::open("/proc/self/mountinfo", O_RDONLY | O_CLOEXEC)) {}
@@ -111,20 +136,25 @@ LinuxVolume LinuxVolumes::of(std::uint64_t device, std::uint64_t mountId, const 
     struct statfs facts {};
     const bool hasFacts = place.isOpen() && ::fstatfs(place.number(), &facts) == 0;
     LinuxVolume volume;
-    if (mount == table.end()) {
-        volume.id = hasFacts ? fileSystemId(facts) : device;
+    if (mount == table.end() && !hasFacts) {
+        volume.id = device;
         return volume;
     }
-    volume.id = volumeId(*mount, hasFacts ? &facts : nullptr);
-    volume.isRemote = isRemote(mount->type);
-    volume.hasLastingInodes = !numbersFilesAnew(mount->type);
-    volume.hasLastingHandles = volume.hasLastingInodes && !volume.isRemote && mount->type != "fuseblk";
+    const MountEntry entry = mount == table.end() ? unlistedMount(facts) : *mount;
+    volume.id = volumeId(entry, hasFacts ? &facts : nullptr);
+    volume.isRemote = isRemote(entry.type);
+    volume.hasLastingInodes = !numbersFilesAnew(entry.type);
+    volume.hasLastingHandles = volume.hasLastingInodes && !volume.isRemote && entry.type != "fuseblk";
     m_known.insert(device, volume);
     return volume;
 }
 
 bool LinuxVolumes::isMounted(std::uint64_t id) {
     const std::vector<MountEntry> table = readMountTable();
+    struct statfs root {};
+    if (std::ranges::none_of(table, isRootMount) && ::statfs("/", &root) == 0 &&
+        volumeId(unlistedMount(root), &root) == id)
+        return true;
     return std::ranges::any_of(table, [id](const MountEntry &mount) {
         if (mount.type == "autofs")
             return false;
