@@ -59,12 +59,17 @@ bool waitForWindowManager() {
     return false;
 }
 
+// Servers that look for a free display number at the same time can get in each other's way.
+std::string ownDisplay() {
+    return ":" + std::to_string(1000 + QCoreApplication::applicationPid() % 50'000);
+}
+
 // A desktop of its own: an X server, a window manager and a message bus, with nothing of the user's.
 class Desktop {
 public:
     Desktop()
-        : m_server(
-              {"Xvfb", "-displayfd", "1", "-noreset", "-nolisten", "tcp", "-screen", "0", "1280x800x24"}),
+        : m_server({"Xvfb", ownDisplay().c_str(), "-displayfd", "1", "-noreset", "-nolisten", "tcp",
+                    "-screen", "0", "1280x800x24"}),
           m_bus({"dbus-daemon", "--session", "--nofork", "--nopidfile", "--print-address"}) {
         const QByteArray display = m_server.readLine();
         const QByteArray address = m_bus.readLine();
