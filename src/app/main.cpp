@@ -10,6 +10,7 @@
 #include <QTranslator>
 
 #include <cstdio>
+#include <cstdlib>
 
 using namespace tembra;
 
@@ -138,5 +139,11 @@ int main(int argc, char **argv) {
         print(stderr, CommandLine::usage());
         return wrongUsage;
     }
-    return line->verb == CommandLine::Verb::start ? runShelf(argc, argv) : runCommand(*line, argc, argv);
+    if (line->verb == CommandLine::Verb::start)
+        return runShelf(argc, argv);
+    // A command has nothing to put away, and the thread of Qt's D-Bus connection must not be caught by the
+    // end of what it still uses.
+    const int status = runCommand(*line, argc, argv);
+    std::fflush(nullptr);
+    std::quick_exit(status);
 }

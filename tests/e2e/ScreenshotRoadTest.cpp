@@ -168,7 +168,7 @@ TEST(Shelf, isDrivenByItsCommands) {
     EXPECT_EQ(tembra.command({QStringLiteral("close")}).exitStatus, 0);
     EXPECT_EQ(tembra.command({QStringLiteral("quit")}).exitStatus, 0);
     const auto tooLate = tembra.command({QStringLiteral("close")});
-    EXPECT_EQ(tooLate.error.trimmed(), QStringLiteral("Tembra is not running."))
+    EXPECT_TRUE(tooLate.error.startsWith(QStringLiteral("Tembra is not running.")))
         << "the name is free at once";
     EXPECT_TRUE(tembra.waitForEnd());
 }
