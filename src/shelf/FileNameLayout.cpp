@@ -68,17 +68,16 @@ bool hasNumber(const QString &text) {
     return std::ranges::any_of(text, isDigit);
 }
 
-// The beginning of the text and its extension: some tools put the time first and their own sign last.
+// The beginning of the text, up to the end of one of its parts, and its extension: some tools put the time
+// first and their own sign last.
 QString beginning(const QString &text, const QFontMetricsF &metrics) {
-    const qsizetype dot = text.lastIndexOf(u'.');
-    const QString extension = dot > 0 ? text.mid(dot) : QString();
-    QTextBoundaryFinder boundaries(QTextBoundaryFinder::Grapheme, text);
+    const QString extension = text.mid(text.lastIndexOf(u'.') + 1);
     QString fitting;
-    for (qsizetype next = boundaries.toNextBoundary(); next > 0; next = boundaries.toNextBoundary()) {
-        const QString longer = text.left(next) + ellipsis + extension;
-        if (!fits(longer, metrics))
-            break;
-        fitting = longer;
+    for (qsizetype end = 1; end < text.size(); ++end) {
+        const bool endsPart = text[end - 1].isLetterOrNumber() && !text[end].isLetterOrNumber();
+        const QString shorter = text.left(end) + ellipsis + extension;
+        if (endsPart && fits(shorter, metrics))
+            fitting = shorter;
     }
     return fitting;
 }
