@@ -69,6 +69,7 @@ void AppSettings::assign(Value AppSettingsState::*field, const Value &value, Sto
     if (m_state.*field == value)
         return;
     store();
+    // NOLINTNEXTLINE(misc-const-correctness): it is written through the pointer to its member.
     AppSettingsState next = m_state;
     next.*field = value;
     change(next);
@@ -148,7 +149,7 @@ Result<void> AppSettings::grantScreenshotsFolder(const QString &folder, bool upd
     if (!bookmark)
         return failure(bookmark.error());
     if (updateSystemLocation) {
-        if (const auto updated = m_functions.updateSystemFolder(*access.folder()); !updated)
+        if (auto updated = m_functions.updateSystemFolder(*access.folder()); !updated)
             return updated;
     }
     m_folderAccess = access;

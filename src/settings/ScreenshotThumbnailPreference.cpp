@@ -7,7 +7,7 @@ namespace tembra {
 ScreenshotThumbnailPreference ScreenshotThumbnailPreference::system(ScreenCapturePreferences &preferences) {
     return {.read = [&preferences] { return preferences.showThumbnail(); },
             .write = [&preferences](std::optional<bool> show) -> Result<void> {
-                const auto written = preferences.setShowThumbnail(show);
+                auto written = preferences.setShowThumbnail(show);
                 if (written)
                     preferences.synchronize();
                 return written;

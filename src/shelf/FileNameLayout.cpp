@@ -100,10 +100,10 @@ QString shortened(const QString &text, const QFontMetricsF &metrics) {
             wordStart = start;
     }
     const bool isEnough = wordStart && metrics.horizontalAdvance(ending(*wordStart)) >= leastWidthOfWords;
-    const QString kept = ending(isEnough ? *wordStart : start);
+    QString kept = ending(isEnough ? *wordStart : start);
     if (!beginsWithNumber(text) || hasNumber(kept))
         return kept;
-    const QString begun = beginning(text, metrics);
+    QString begun = beginning(text, metrics);
     return begun.isEmpty() ? kept : begun;
 }
 

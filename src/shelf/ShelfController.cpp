@@ -436,7 +436,7 @@ void ShelfController::chooseFolder() {
 }
 
 Result<void> ShelfController::acceptScreenshotFolder(const QString &folder, bool adopting) {
-    const auto granted = m_settings.grantScreenshotsFolder(folder, !adopting, false);
+    auto granted = m_settings.grantScreenshotsFolder(folder, !adopting, false);
     if (!granted)
         return granted;
     rereadDestination();

@@ -131,7 +131,8 @@ void ShelfDisplayWindow::placeBody() {
     // On whole points, so that no edge is blurred while it moves.
     const QSizeF size = bodySize();
     const double halfWidth = std::round(size.width() / 2);
-    const QRectF body(m_root->width() / 2 - halfWidth, 0, 2 * halfWidth, std::round(size.height()));
+    const QRectF body(std::floor(m_root->width() / 2.0) - halfWidth, 0, 2 * halfWidth,
+                      std::round(size.height()));
     const bool isComposited = m_services.workspace.isComposited();
     m_root->setBody(body, isComposited);
     m_viewport->setGeometry(body.toRect());

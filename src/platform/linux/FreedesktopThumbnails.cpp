@@ -112,7 +112,7 @@ std::shared_ptr<FreedesktopThumbnails::Job> FreedesktopThumbnails::take() {
     std::unique_lock lock(m_mutex);
     while (!m_ending) {
         while (!m_jobs.empty()) {
-            const std::shared_ptr<Job> job = std::move(m_jobs.back());
+            std::shared_ptr<Job> job = std::move(m_jobs.back());
             m_jobs.pop_back();
             if (!job->cancelled)
                 return job;
