@@ -104,7 +104,9 @@ QString shortened(const QString &text, const QFontMetricsF &metrics) {
     if (!beginsWithNumber(text) || hasNumber(kept))
         return kept;
     QString begun = beginning(text, metrics);
-    return begun.isEmpty() ? kept : begun;
+    if (begun.isEmpty())
+        return kept;
+    return begun;
 }
 
 // Line ends and tabs are allowed in names and would break the line.

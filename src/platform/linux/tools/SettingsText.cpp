@@ -12,7 +12,9 @@ namespace {
 QString fromUtf8OrLatin1(const QByteArray &bytes) {
     QStringDecoder decoder(QStringDecoder::Utf8, QStringConverter::Flag::Stateless);
     QString text = decoder(bytes);
-    return decoder.hasError() ? QString::fromLatin1(bytes) : text;
+    if (decoder.hasError())
+        return QString::fromLatin1(bytes);
+    return text;
 }
 
 bool isHexDigit(char c) {
