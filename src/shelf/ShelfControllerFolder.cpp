@@ -1,0 +1,102 @@
+// The screenshots folder: where it is, what its state means, and how the user chooses another.
+
+#include "screenshots/ScreenshotLocationMonitor.h"
+#include "session/ShelfSession.h"
+#include "settings/AppSettings.h"
+#include "shelf/FolderNotification.h"
+#include "shelf/ShelfController.h"
+
+#include <QFileInfo>
+
+namespace tembra {
+
+namespace {
+
+// The same path, or a link to the same folder.
+bool isSameFolder(const QString &a, const QString &b) {
+    return a == b ||
+           (QFileInfo(a).canonicalFilePath() == QFileInfo(b).canonicalFilePath() && QFileInfo::exists(a));
+}
+
+} // namespace
+
+void ShelfController::receiveFolderChange(const FolderShelf &shelf) {
+    // A folder that was renamed or moved is found again by its bookmark.
+    if (shelf.errorText) {
+        m_settings.refreshFolderAccess();
+    } else if (m_folderState == ScreenshotFolderState::missing) {
+        // It may be another folder at the old place, and some tools save elsewhere while theirs is away.
+        m_settings.refreshFolderAccess();
+        rereadDestination();
+    }
+    updateFolderState();
+}
+
+// What was read, or is being read, may still be the old place.
+void ShelfController::rereadDestination() {
+    m_destination.reset();
+    m_locationMonitor->raiseGeneration();
+    m_locationMonitor->check();
+}
+
+void ShelfController::receiveDestination(const ScreenshotDestination &destination) {
+    m_destination = destination;
+    if (onDestinationRead)
+        onDestinationRead(destination);
+    updateFolderState();
+}
+
+ScreenshotFolderFacts ShelfController::folderFacts() const {
+    const FolderShelf &shelf = m_session->folderShelf();
+    ScreenshotFolderFacts facts{.folder = m_settings.state().screenshotsFolder,
+                                .unavailable = shelf.errorText.has_value() || m_settings.isFolderAccessLost(),
+                                .destination = m_destination,
+                                .hasCompletedInitialScan = shelf.hasCompletedInitialScan};
+    if (facts.folder && facts.destination && isSameFolder(facts.destination->folder, *facts.folder))
+        facts.destination->folder = *facts.folder;
+    return facts;
+}
+
+void ShelfController::updateFolderState() {
+    const ScreenshotFolderState state = screenshotFolderState(folderFacts());
+    const auto notification = folderNotification(m_folderState, state);
+    if (state != m_folderState)
+        m_announcer.forgetFolder();
+    m_folderState = state;
+    render();
+    if (notification && m_settings.state().screenshotNotifications)
+        m_announcer.announceFolder(*notification);
+}
+
+QString ShelfController::suggestedScreenshotFolder() const {
+    if (m_destination && m_destination->kind == ScreenshotDestination::Kind::folder)
+        return m_destination->folder;
+    return m_settings.state().screenshotsFolder.value_or(QString());
+}
+
+void ShelfController::chooseFolder() {
+    if (m_choosingFolder)
+        return;
+    m_choosingFolder = true;
+    // The panel is above every other window, also above the dialog.
+    collapse();
+    const std::optional<QString> chosen = askForFolder(suggestedScreenshotFolder());
+    m_choosingFolder = false;
+    if (!chosen)
+        return;
+    if (const auto accepted = acceptScreenshotFolder(*chosen, false); !accepted)
+        return onError(accepted.error().message, accepted.error().recoverySuggestion);
+    openManually();
+}
+
+Result<void> ShelfController::acceptScreenshotFolder(const QString &folder, bool adopting) {
+    auto granted = m_settings.grantScreenshotsFolder(folder, !adopting, false);
+    if (!granted)
+        return granted;
+    rereadDestination();
+    refreshWatchers();
+    updateFolderState();
+    return {};
+}
+
+} // namespace tembra
