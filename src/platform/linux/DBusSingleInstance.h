@@ -9,8 +9,8 @@
 namespace tembra {
 
 // SingleInstance by the well-known name app.tembra.Tembra on the session bus, with the interfaces
-// app.tembra.Tembra and org.freedesktop.Application (Desktop Entry Specification, D-Bus activation) at
-// /app/tembra/Tembra.
+// app.tembra.Tembra and org.freedesktop.Application (freedesktop.org, desktop entries activated over D-Bus)
+// at /app/tembra/Tembra.
 class DBusSingleInstance final : public SingleInstance {
 public:
     DBusSingleInstance();
