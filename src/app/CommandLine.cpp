@@ -1,5 +1,7 @@
 #include "app/CommandLine.h"
 
+#include "shelf/ShelfTab.h"
+
 #include <QCoreApplication>
 #include <QHash>
 
@@ -29,11 +31,6 @@ std::optional<CommandLine::Verb> verbNamed(const QString &word) {
     return found == verbs.cend() ? std::nullopt : std::optional(*found);
 }
 
-bool isTab(const QString &word) {
-    return QStringList{QStringLiteral("tray"), QStringLiteral("screenshots"), QStringLiteral("text")}
-        .contains(word);
-}
-
 // Takes one word after the verb, and its value where it has one.
 Result<void> takeWord(CommandLine &line, QStringList &words) {
     using Verb = CommandLine::Verb;
@@ -43,7 +40,7 @@ Result<void> takeWord(CommandLine &line, QStringList &words) {
         return {};
     }
     if (word == u"--tab" && line.verb == Verb::open) {
-        if (words.isEmpty() || !isTab(words.constFirst()))
+        if (words.isEmpty() || !shelfTabNamed(words.constFirst()))
             return wrongUsage(translated("--tab takes tray, screenshots or text."));
         line.tab = words.takeFirst();
         return {};

@@ -2,6 +2,7 @@
 
 #include "screenshots/ScreenshotCaptureDetector.h"
 #include "settings/CocoaError.h"
+#include "settings/FolderPath.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -82,7 +83,7 @@ DesktopScreenshotOrganizer::moveScreenshots(const QString &from, const QString &
             sentence(QT_TRANSLATE_NOOP("DesktopScreenshotOrganizer", "The folder “%1” cannot be read."),
                      from));
     Report report;
-    if (QFileInfo(from).canonicalFilePath() == QFileInfo(to).canonicalFilePath())
+    if (isSameFolder(from, to))
         return report;
     const QFileInfoList entries = source.entryInfoList(QDir::Files | QDir::Hidden | QDir::NoSymLinks);
     for (const QFileInfo &file : entries) {

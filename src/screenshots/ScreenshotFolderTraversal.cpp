@@ -1,20 +1,10 @@
 #include "screenshots/ScreenshotFolderTraversal.h"
 
-#include <QDir>
-#include <QFileInfo>
+#include "settings/FolderPath.h"
 
 #include <algorithm>
 
 namespace tembra {
-
-namespace {
-
-QString withoutLinks(const QString &path) {
-    const QString canonical = QFileInfo(path).canonicalFilePath();
-    return canonical.isEmpty() ? QDir::cleanPath(path) : canonical;
-}
-
-} // namespace
 
 ScreenshotFolderTraversal::ScreenshotFolderTraversal(const StandardFolders &folders,
                                                      const FileFactsReader &files)
@@ -30,7 +20,7 @@ bool ScreenshotFolderTraversal::includesSubfolders(const QString &folder) const 
 
 // The same path, or the same folder mounted at a second place.
 bool ScreenshotFolderTraversal::isSameFolder(const QString &a, const QString &b) const {
-    if (withoutLinks(a) == withoutLinks(b))
+    if (tembra::isSameFolder(a, b))
         return true;
     const auto factsOfA = m_files.targetFacts(a);
     const auto factsOfB = m_files.targetFacts(b);

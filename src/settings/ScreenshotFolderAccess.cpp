@@ -2,6 +2,7 @@
 
 #include "platform/ScreenCapturePreferences.h"
 #include "settings/CocoaError.h"
+#include "settings/FolderPath.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -27,11 +28,6 @@ tl::unexpected<Error> bookmarkFailure(const char *stage, const Error &error) {
     qWarning("Folder bookmark failed; stage=%s domain=%s code=%d", stage, qUtf8Printable(originOf(error)),
              error.code);
     return failure(error);
-}
-
-QString withoutLinks(const QString &path) {
-    const QString canonical = QFileInfo(path).canonicalFilePath();
-    return canonical.isEmpty() ? path : canonical;
 }
 
 } // namespace

@@ -3,22 +3,11 @@
 #include "screenshots/ScreenshotLocationMonitor.h"
 #include "session/ShelfSession.h"
 #include "settings/AppSettings.h"
+#include "settings/FolderPath.h"
 #include "shelf/FolderNotification.h"
 #include "shelf/ShelfController.h"
 
-#include <QFileInfo>
-
 namespace tembra {
-
-namespace {
-
-// The same path, or a link to the same folder.
-bool isSameFolder(const QString &a, const QString &b) {
-    return a == b ||
-           (QFileInfo(a).canonicalFilePath() == QFileInfo(b).canonicalFilePath() && QFileInfo::exists(a));
-}
-
-} // namespace
 
 void ShelfController::receiveFolderChange(const FolderShelf &shelf) {
     // A folder that was renamed or moved is found again by its bookmark.

@@ -1,0 +1,17 @@
+#include "settings/FolderPath.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace tembra {
+
+QString withoutLinks(const QString &path) {
+    const QString canonical = QFileInfo(path).canonicalFilePath();
+    return canonical.isEmpty() ? QDir::cleanPath(path) : canonical;
+}
+
+bool isSameFolder(const QString &a, const QString &b) {
+    return a == b || withoutLinks(a) == withoutLinks(b);
+}
+
+} // namespace tembra

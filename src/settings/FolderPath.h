@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QString>
+
+namespace tembra {
+
+// The path with links resolved; of what is not there, the clean path.
+[[nodiscard]] QString withoutLinks(const QString &path);
+// Whether both paths, or what links there lead to, are the same.
+[[nodiscard]] bool isSameFolder(const QString &a, const QString &b);
+
+} // namespace tembra
