@@ -2,11 +2,10 @@
 
 #include "app/IsoDate.h"
 #include "platform/FolderFiles.h"
+#include "screenshots/CaptureCompleteness.h"
 #include "screenshots/CaptureMedia.h"
-#include "screenshots/ImageCompleteness.h"
 #include "screenshots/ScreenshotCaptureDetector.h"
 #include "screenshots/ScreenshotTimeline.h"
-#include "screenshots/VideoCompleteness.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -19,8 +18,6 @@
 namespace tembra {
 
 namespace {
-
-using namespace std::chrono_literals;
 
 QString text(const char *source) {
     return QCoreApplication::translate("ScanReport", source);
@@ -54,7 +51,9 @@ public:
                                      .isVideo = isVideo,
                                      .section = sectionOf(createdAt),
                                      .createdAt = createdAt,
-                                     .isComplete = isComplete(**file, name, isVideo),
+                                     .isComplete = CaptureCompleteness::isComplete(
+                                         **file, CaptureMedia::extension(name), isVideo,
+                                         CaptureCompleteness::stillFor(listed.version(), m_now)),
                                      .because = rawValue(*reason)});
     }
 
@@ -64,13 +63,6 @@ private:
     [[nodiscard]] QString sectionOf(Instant createdAt) const {
         const std::vector<Shot> one{Shot{.createdAt = createdAt}};
         return title(ScreenshotTimeline::sections(one, {}, m_now, QTimeZone::systemTimeZone()).front().kind);
-    }
-
-    [[nodiscard]] bool isComplete(const OpenFile &file, QStringView name, bool isVideo) const {
-        const QString extension = CaptureMedia::extension(name);
-        const auto stillFor = m_now - file.facts().modifiedAt;
-        return isVideo ? VideoCompleteness::isCompleteVideo(file, extension, stillFor)
-                       : ImageCompleteness::isCompleteImage(file, extension, stillFor < 3s);
     }
 
     ScanReport &m_report;

@@ -15,6 +15,8 @@ class OpenFile {
 public:
     virtual ~OpenFile() = default;
     [[nodiscard]] virtual FileFacts facts() const = 0;
+    // In bytes, as the file was opened: costs nothing, where `facts` asks the system.
+    [[nodiscard]] virtual std::uint64_t size() const = 0;
     // An extended attribute by its name without a platform's prefix; nothing when it is absent.
     [[nodiscard]] virtual std::optional<QByteArray> attribute(const char *name) const = 0;
     // Reads from `offset` on and gives how many bytes there were; 0 at the end and on errors.

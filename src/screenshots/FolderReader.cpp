@@ -1,7 +1,7 @@
 #include "screenshots/FolderReader.h"
 
+#include "screenshots/CaptureCompleteness.h"
 #include "screenshots/CaptureMedia.h"
-#include "screenshots/ImageCompleteness.h"
 #include "screenshots/ScreenshotTimeline.h"
 #include "screenshots/VideoCompleteness.h"
 
@@ -15,17 +15,8 @@ using namespace std::chrono_literals;
 
 namespace {
 
-// An image changed within this time is decoded to see whether it is whole.
-constexpr auto justWritten = 3s;
 // A file that was made longer ago than this was moved here, it is no new capture.
 constexpr auto fresh = 2min;
-
-// How long a version has stood unchanged. A date in the future is a clock that was wrong: the file is as old
-// as it gets.
-std::chrono::nanoseconds stillFor(const FileVersion &version, Instant now) {
-    const auto age = now - version.modifiedAt;
-    return age > -justWritten ? age : std::chrono::nanoseconds::max();
-}
 
 QString stampOf(const FileVersion &version) {
     return QStringLiteral("%1-%2-%3-%4")
@@ -98,8 +89,9 @@ void FolderReader::visit(const FolderFiles::Listed &listed, const FolderScanRequ
     if (isSame && isSettled)
         return;
     // Time alone may make a young version whole: looking at it often, as in a busy folder, does not count.
-    const auto youth = entry.verdict == Verdict::unfinishedVideo ? VideoCompleteness::abandoned : justWritten;
-    const bool counts = isSame && stillFor(entry.version, request.now) > youth;
+    const auto youth = entry.verdict == Verdict::unfinishedVideo ? VideoCompleteness::abandoned
+                                                                 : CaptureCompleteness::justWritten;
+    const bool counts = isSame && CaptureCompleteness::stillFor(entry.version, request.now) > youth;
     entry.retries = counts ? entry.retries + 1 : 0;
     entry.version = listed.version();
     judge(entry, listed, request);
@@ -130,13 +122,11 @@ void FolderReader::judge(Entry &entry, const FolderFiles::Listed &listed, const 
 
 FolderReader::Verdict FolderReader::verdict(const OpenFile &file, QStringView fileName,
                                             const FileVersion &version, Instant now) const {
-    const QString extension = CaptureMedia::extension(fileName);
-    const auto age = stillFor(version, now);
-    if (m_detector.isVideoName(fileName))
-        return VideoCompleteness::isCompleteVideo(file, extension, age) ? Verdict::complete
-                                                                        : Verdict::unfinishedVideo;
-    return ImageCompleteness::isCompleteImage(file, extension, age < justWritten) ? Verdict::complete
-                                                                                  : Verdict::unfinishedImage;
+    const bool isVideo = m_detector.isVideoName(fileName);
+    if (CaptureCompleteness::isComplete(file, CaptureMedia::extension(fileName), isVideo,
+                                        CaptureCompleteness::stillFor(version, now)))
+        return Verdict::complete;
+    return isVideo ? Verdict::unfinishedVideo : Verdict::unfinishedImage;
 }
 
 void FolderReader::collect(const FolderScanRequest &request, FolderScanResult &result) {

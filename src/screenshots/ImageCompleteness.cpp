@@ -48,7 +48,7 @@ bool decodes(const OpenFile &file, std::uint64_t size, QStringView extension) {
 } // namespace
 
 bool ImageCompleteness::isCompleteImage(const OpenFile &file, QStringView extension, bool wasJustWritten) {
-    const std::uint64_t size = file.facts().size;
+    const std::uint64_t size = file.size();
     if (size == 0)
         return false;
     return looksWhole(file, size, extension) && (!wasJustWritten || decodes(file, size, extension));

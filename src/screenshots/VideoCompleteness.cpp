@@ -14,7 +14,7 @@ constexpr auto settled = 1s;
 
 bool VideoCompleteness::isCompleteVideo(const OpenFile &file, QStringView extension,
                                         std::chrono::nanoseconds stillFor) {
-    const std::uint64_t size = file.facts().size;
+    const std::uint64_t size = file.size();
     if (size == 0 || stillFor < settled)
         return false;
     if (extension != u"webm" && extension != u"mkv")

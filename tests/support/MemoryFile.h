@@ -12,9 +12,8 @@ class MemoryFile final : public OpenFile {
 public:
     explicit MemoryFile(QByteArray bytes) : m_bytes(std::move(bytes)) {}
 
-    [[nodiscard]] FileFacts facts() const override {
-        return {.kind = FileKind::regular, .size = static_cast<std::uint64_t>(m_bytes.size())};
-    }
+    [[nodiscard]] FileFacts facts() const override { return {.kind = FileKind::regular, .size = size()}; }
+    [[nodiscard]] std::uint64_t size() const override { return static_cast<std::uint64_t>(m_bytes.size()); }
     [[nodiscard]] std::optional<QByteArray> attribute(const char *) const override { return std::nullopt; }
     [[nodiscard]] std::size_t read(std::uint64_t offset, std::span<char> into) const override {
         const auto size = static_cast<std::uint64_t>(m_bytes.size());

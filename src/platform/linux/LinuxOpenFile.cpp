@@ -18,11 +18,13 @@ Result<std::unique_ptr<OpenFile>> LinuxOpenFile::open(int folder, const char *na
         return failure(posixError());
     if (!S_ISREG(facts.st_mode))
         return failure(posixError(S_ISDIR(facts.st_mode) ? EISDIR : EINVAL));
-    return std::make_unique<LinuxOpenFile>(std::move(descriptor), reader);
+    return std::make_unique<LinuxOpenFile>(std::move(descriptor), static_cast<std::uint64_t>(facts.st_size),
+                                           reader);
 }
 
-LinuxOpenFile::LinuxOpenFile(Descriptor descriptor, const LinuxFileFactsReader &reader)
+LinuxOpenFile::LinuxOpenFile(Descriptor descriptor, std::uint64_t size, const LinuxFileFactsReader &reader)
     : m_descriptor(std::move(descriptor)),
+      m_size(size),
       m_reader(reader),
       m_hasAttributes(::flistxattr(m_descriptor.number(), nullptr, 0) > 0) {}
 

@@ -17,14 +17,16 @@ public:
     [[nodiscard]] static Result<std::unique_ptr<OpenFile>> open(int folder, const char *name,
                                                                 const LinuxFileFactsReader &reader);
 
-    LinuxOpenFile(Descriptor descriptor, const LinuxFileFactsReader &reader);
+    LinuxOpenFile(Descriptor descriptor, std::uint64_t size, const LinuxFileFactsReader &reader);
 
     [[nodiscard]] FileFacts facts() const override;
+    [[nodiscard]] std::uint64_t size() const override { return m_size; }
     [[nodiscard]] std::optional<QByteArray> attribute(const char *name) const override;
     [[nodiscard]] std::size_t read(std::uint64_t offset, std::span<char> into) const override;
 
 private:
     Descriptor m_descriptor;
+    const std::uint64_t m_size;
     const LinuxFileFactsReader &m_reader;
     // Most files have no attributes at all: one call tells, and spares one a name.
     bool m_hasAttributes = false;
