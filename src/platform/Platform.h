@@ -11,10 +11,13 @@
 #include "platform/HotZones.h"
 #include "platform/InputMonitor.h"
 #include "platform/PanelWindows.h"
+#include "platform/Pasteboard.h"
 #include "platform/ScreenCapturePreferences.h"
 #include "platform/SingleInstance.h"
+#include "platform/Sounds.h"
 #include "platform/StandardFolders.h"
 #include "platform/Thumbnails.h"
+#include "platform/Trash.h"
 #include "platform/UserDefaults.h"
 #include "platform/Workspace.h"
 
@@ -36,6 +39,7 @@ struct Platform {
     std::unique_ptr<Bookmarks> bookmarks;
     std::unique_ptr<FolderEvents> folderEvents;
     std::unique_ptr<CaptureMarkers> captureMarkers;
+    std::unique_ptr<Trash> trash;
     // The services below need a display and are absent in commands that run without one.
     std::unique_ptr<Displays> displays;
     std::unique_ptr<Workspace> workspace;
@@ -43,6 +47,8 @@ struct Platform {
     std::unique_ptr<PanelWindows> panelWindows;
     std::unique_ptr<HotZones> hotZones;
     std::unique_ptr<Thumbnails> thumbnails;
+    std::unique_ptr<Pasteboard> pasteboard;
+    std::unique_ptr<Sounds> sounds;
 };
 
 // Files, settings and the screenshot tool: enough for commands without windows. The scheduler must outlive

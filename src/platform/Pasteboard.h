@@ -1,0 +1,42 @@
+#pragma once
+
+#include "base/Result.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <cstdint>
+#include <vector>
+
+namespace tembra {
+
+// The clipboard that programs share. Main thread.
+class Pasteboard {
+public:
+    // A file to be pasted as a file and, where it is an image, as that image.
+    struct Item {
+        // Absolute.
+        QString path;
+        // "public.png" or "public.tiff"; empty without data.
+        QString type;
+        QByteArray data;
+
+        bool operator==(const Item &) const = default;
+    };
+
+    static inline const QString errorDomain = QStringLiteral("Tembra.Pasteboard");
+    enum ErrorCode {
+        // Another program owns the clipboard, or the desktop lets only the focused program take it.
+        refused = 1,
+    };
+
+    virtual ~Pasteboard() = default;
+    // Grows whenever anyone, this program too, changes what is on the clipboard. Tells of every change that
+    // happened before the call.
+    [[nodiscard]] virtual std::int64_t changeCount() = 0;
+    // Puts the items there in place of what was there: all files in their order, and the image of the last
+    // item that has one. Succeeds only when other programs are really offered them.
+    [[nodiscard]] virtual Result<void> writeObjects(const std::vector<Item> &items) = 0;
+};
+
+} // namespace tembra
