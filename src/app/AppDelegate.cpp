@@ -60,13 +60,13 @@ std::unique_ptr<AppSettings> AppDelegate::makeSettings() {
         .thumbnailPreference = ScreenshotThumbnailPreference::system(*m_capturePreferences),
         .createBookmark = [&bookmarks](const QString &path) { return bookmarks.create(path); },
         .resolvePinnedBookmark =
-            [&bookmarks, &facts](const QByteArray &bookmark) -> std::optional<PinnedScreenshot::Resolved> {
-            const auto resolved = bookmarks.resolve(bookmark);
-            if (!resolved)
-                return std::nullopt;
-            const auto known = facts.facts(resolved->path);
-            return PinnedScreenshot::Resolved{resolved->path, known ? known->resource : std::nullopt};
-        }};
+            [&bookmarks, &facts](const QByteArray &bookmark) {
+                return bookmarks.resolve(bookmark).map([&facts](const Bookmarks::Resolved &resolved) {
+                    const auto known = facts.facts(resolved.path);
+                    return PinnedScreenshot::Resolved{resolved.path, known ? known->resource : std::nullopt};
+                });
+            },
+        .bookmarkedFile = [&bookmarks](const QByteArray &bookmark) { return bookmarks.resource(bookmark); }};
     return std::make_unique<AppSettings>(*m_platform.defaults, FolderPreferences(),
                                          ScreenshotFolderAccess(bookmarks, facts, m_platform.folders),
                                          std::move(functions));

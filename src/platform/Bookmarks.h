@@ -28,6 +28,8 @@ public:
     [[nodiscard]] virtual Result<QByteArray> create(const QString &path) const = 0;
     // Where the file was when the bookmark was made; nothing when the bookmark cannot be read.
     [[nodiscard]] virtual std::optional<QString> lastKnownPath(const QByteArray &bookmark) const = 0;
+    // The file that the bookmark stands for, wherever it is; nothing where the path alone tells it.
+    [[nodiscard]] virtual std::optional<FileResource> resource(const QByteArray &bookmark) const = 0;
     [[nodiscard]] virtual Result<Resolved> resolve(const QByteArray &bookmark) const = 0;
 };
 

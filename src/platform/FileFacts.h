@@ -3,6 +3,7 @@
 #include "base/Clocks.h"
 #include "base/Result.h"
 
+#include <QHashFunctions>
 #include <QString>
 
 #include <compare>
@@ -21,6 +22,10 @@ struct FileResource {
 
     auto operator<=>(const FileResource &) const = default;
 };
+
+[[nodiscard]] inline size_t qHash(const FileResource &file, size_t seed = 0) {
+    return qHashMulti(seed, file.volume, file.inode, file.generation);
+}
 
 enum class FileKind { regular, directory, link, other };
 

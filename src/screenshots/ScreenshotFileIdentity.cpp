@@ -10,6 +10,11 @@ ScreenshotFileIdentity ScreenshotFileIdentity::of(const QString &path, const Fil
     return {Path{QDir::cleanPath(path), facts.createdAt}};
 }
 
+std::optional<FileResource> ScreenshotFileIdentity::resource() const {
+    const auto *file = std::get_if<Resource>(&value);
+    return file ? std::optional(file->resource) : std::nullopt;
+}
+
 size_t qHash(const ScreenshotFileIdentity &identity, size_t seed) {
     const auto createdAt = [](const std::optional<Instant> &date) {
         return date ? date->time_since_epoch().count() : 0;
@@ -17,8 +22,7 @@ size_t qHash(const ScreenshotFileIdentity &identity, size_t seed) {
     if (const auto *path = std::get_if<ScreenshotFileIdentity::Path>(&identity.value))
         return qHashMulti(seed, path->path, createdAt(path->createdAt));
     const auto &file = std::get<ScreenshotFileIdentity::Resource>(identity.value);
-    return qHashMulti(seed, file.resource.volume, file.resource.inode, file.resource.generation,
-                      createdAt(file.createdAt));
+    return qHashMulti(seed, file.resource, createdAt(file.createdAt));
 }
 
 } // namespace tembra

@@ -28,6 +28,9 @@ struct ScreenshotFileIdentity {
 
     [[nodiscard]] static ScreenshotFileIdentity of(const QString &path, const FileFacts &facts);
 
+    // What the file system knows the file by; nothing where the path stands in.
+    [[nodiscard]] std::optional<FileResource> resource() const;
+
     bool operator==(const ScreenshotFileIdentity &) const = default;
 };
 

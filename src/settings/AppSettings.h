@@ -2,6 +2,7 @@
 
 #include "base/Clocks.h"
 #include "settings/AppSettingsState.h"
+#include "settings/AutoCleanGrace.h"
 #include "settings/FolderPreferences.h"
 #include "settings/PinnedScreenshot.h"
 #include "settings/ScreenshotFolderAccess.h"
@@ -31,9 +32,10 @@ public:
         std::function<Result<void>(const QString &folder)> updateSystemFolder;
         ScreenshotThumbnailPreference thumbnailPreference;
         std::function<Result<QByteArray>(const QString &path)> createBookmark;
-        // Nothing while the file cannot be found.
-        std::function<std::optional<PinnedScreenshot::Resolved>(const QByteArray &bookmark)>
-            resolvePinnedBookmark;
+        // The error is "Tembra.Bookmarks" volumeAbsent while the file's disk is not there.
+        std::function<Result<PinnedScreenshot::Resolved>(const QByteArray &bookmark)> resolvePinnedBookmark;
+        // The file that a bookmark stands for, where the file system tells files by more than their path.
+        std::function<std::optional<FileResource>(const QByteArray &bookmark)> bookmarkedFile;
     };
 
     // Migrates and loads. The defaults must outlive this.
@@ -46,11 +48,17 @@ public:
     // Where that folder was: it may come back there.
     [[nodiscard]] std::optional<QString> lostScreenshotsFolder() const;
     [[nodiscard]] QSet<QString> pinnedScreenshotPaths() const;
+    // The same files by what the file system knows them by: a pin holds also after a rename.
+    [[nodiscard]] QSet<FileResource> pinnedScreenshotFiles() const;
+    // A pinned file cannot be told apart, because its disk is absent.
+    [[nodiscard]] bool hasUnavailablePins() const;
     [[nodiscard]] const std::vector<PinnedScreenshot> &pinnedScreenshots() const {
         return m_pinnedScreenshots;
     }
     // Until when each restored screenshot is spared, by path. Entries that are over are dropped.
     [[nodiscard]] QHash<QString, Instant> autoCleanGraceDates(Instant now);
+    // The same files by what the file system knows them by.
+    [[nodiscard]] QHash<FileResource, Instant> autoCleanGraceFiles(Instant now);
 
     void setActivationMode(ActivationMode mode);
     void setShortcutEnabled(bool enabled);
@@ -89,8 +97,8 @@ public:
     // Tries again to find the pins whose disk was absent.
     void refreshUnresolvedPins();
 
-    // Spares screenshots that came back from the Trash.
-    Result<void> protectRestoredScreenshots(const QStringList &paths, Instant now);
+    // Spares screenshots that came back from the Trash; one that is gone again needs no sparing.
+    void protectRestoredScreenshots(const QStringList &paths, Instant now);
 
 Q_SIGNALS:
     void updates(const tembra::AppSettingsState &state);
@@ -101,6 +109,8 @@ private:
     void adoptLegacyFolder();
     void applyFolderAccess();
     void storePins();
+    [[nodiscard]] PinnedScreenshot resolvedPin(const QByteArray &bookmark) const;
+    [[nodiscard]] std::vector<AutoCleanGrace> currentGrace(Instant now);
     [[nodiscard]] Result<PinnedScreenshot> pin(const QString &path) const;
     void change(const AppSettingsState &next);
     // Compares, stores, and publishes.

@@ -1,6 +1,7 @@
 // Pins, and the screenshots that auto-clean spares after they came back from the Trash.
 
 #include "base/MainThread.h"
+#include "platform/Bookmarks.h"
 #include "platform/UserDefaults.h"
 #include "settings/AppSettings.h"
 #include "settings/AutoCleanGrace.h"
@@ -14,7 +15,14 @@ void AppSettings::loadPins() {
     const auto bookmarks =
         m_defaults.dataArray(settingsKey::pinnedScreenshotBookmarks).value_or(QList<QByteArray>());
     for (const QByteArray &bookmark : bookmarks)
-        m_pinnedScreenshots.push_back({bookmark, m_functions.resolvePinnedBookmark(bookmark)});
+        m_pinnedScreenshots.push_back(resolvedPin(bookmark));
+}
+
+PinnedScreenshot AppSettings::resolvedPin(const QByteArray &bookmark) const {
+    const auto resolved = m_functions.resolvePinnedBookmark(bookmark);
+    if (resolved)
+        return {bookmark, *resolved};
+    return {.bookmark = bookmark, .isGone = resolved.error().code != Bookmarks::volumeAbsent};
 }
 
 void AppSettings::storePins() {
@@ -33,12 +41,30 @@ QSet<QString> AppSettings::pinnedScreenshotPaths() const {
     return paths;
 }
 
+QSet<FileResource> AppSettings::pinnedScreenshotFiles() const {
+    QSet<FileResource> files;
+    for (const PinnedScreenshot &pin : m_pinnedScreenshots) {
+        if (pin.resolved && pin.resolved->reference)
+            files.insert(*pin.resolved->reference);
+        else if (const auto file = m_functions.bookmarkedFile(pin.bookmark))
+            files.insert(*file);
+    }
+    return files;
+}
+
+bool AppSettings::hasUnavailablePins() const {
+    return std::ranges::any_of(m_pinnedScreenshots,
+                               [](const PinnedScreenshot &pin) { return !pin.resolved && !pin.isGone; });
+}
+
 Result<PinnedScreenshot> AppSettings::pin(const QString &path) const {
     const auto bookmark = m_functions.createBookmark(path);
     if (!bookmark)
         return failure(bookmark.error());
-    const auto resolved = m_functions.resolvePinnedBookmark(*bookmark);
-    return PinnedScreenshot{*bookmark, resolved.value_or(PinnedScreenshot::Resolved{path, {}})};
+    PinnedScreenshot pin = resolvedPin(*bookmark);
+    if (!pin.resolved)
+        pin.resolved = PinnedScreenshot::Resolved{path, {}};
+    return pin;
 }
 
 Result<void> AppSettings::setScreenshotsPinned(const QStringList &paths, bool pinned) {
@@ -87,29 +113,28 @@ void AppSettings::refreshUnresolvedPins() {
     for (PinnedScreenshot &pin : m_pinnedScreenshots) {
         if (pin.resolved)
             continue;
-        pin.resolved = m_functions.resolvePinnedBookmark(pin.bookmark);
+        pin = resolvedPin(pin.bookmark);
         found = found || pin.resolved;
     }
     if (found)
         Q_EMIT updates(m_state);
 }
 
-Result<void> AppSettings::protectRestoredScreenshots(const QStringList &paths, Instant now) {
+void AppSettings::protectRestoredScreenshots(const QStringList &paths, Instant now) {
     requireMainThread();
     auto list =
         AutoCleanGrace::fromJson(m_defaults.data(settingsKey::autoCleanRestoredFiles).value_or(QByteArray()));
     for (const QString &path : paths) {
         const auto bookmark = m_functions.createBookmark(path);
         if (!bookmark)
-            return failure(bookmark.error());
+            continue;
         std::erase_if(list, [&path](const AutoCleanGrace &grace) { return grace.path == path; });
         list.push_back({*bookmark, path, now});
     }
     m_defaults.setData(settingsKey::autoCleanRestoredFiles, AutoCleanGrace::toJson(list));
-    return {};
 }
 
-QHash<QString, Instant> AppSettings::autoCleanGraceDates(Instant now) {
+std::vector<AutoCleanGrace> AppSettings::currentGrace(Instant now) {
     requireMainThread();
     auto list =
         AutoCleanGrace::fromJson(m_defaults.data(settingsKey::autoCleanRestoredFiles).value_or(QByteArray()));
@@ -118,9 +143,22 @@ QHash<QString, Instant> AppSettings::autoCleanGraceDates(Instant now) {
     });
     if (dropped > 0)
         m_defaults.setData(settingsKey::autoCleanRestoredFiles, AutoCleanGrace::toJson(list));
+    return list;
+}
+
+QHash<QString, Instant> AppSettings::autoCleanGraceDates(Instant now) {
     QHash<QString, Instant> dates;
-    for (const AutoCleanGrace &grace : list)
+    for (const AutoCleanGrace &grace : currentGrace(now))
         dates.insert(grace.path, grace.restoredAt + AutoCleanGrace::period);
+    return dates;
+}
+
+QHash<FileResource, Instant> AppSettings::autoCleanGraceFiles(Instant now) {
+    QHash<FileResource, Instant> dates;
+    for (const AutoCleanGrace &grace : currentGrace(now)) {
+        if (const auto file = m_functions.bookmarkedFile(grace.bookmark))
+            dates.insert(*file, grace.restoredAt + AutoCleanGrace::period);
+    }
     return dates;
 }
 

@@ -17,7 +17,7 @@ struct AutoCleanGrace {
     Instant restoredAt{};
 
     // How long a restored screenshot is spared.
-    static constexpr auto period = std::chrono::days(7);
+    static constexpr auto period = std::chrono::days(30);
 
     [[nodiscard]] static QByteArray toJson(const std::vector<AutoCleanGrace> &list);
     // Empty when the bytes are not a list of such objects.

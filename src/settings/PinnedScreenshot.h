@@ -21,6 +21,8 @@ struct PinnedScreenshot {
 
     QByteArray bookmark;
     std::optional<Resolved> resolved;
+    // Not resolved although its disk is there: the file was deleted. It may still come back.
+    bool isGone = false;
 
     bool operator==(const PinnedScreenshot &) const = default;
 };

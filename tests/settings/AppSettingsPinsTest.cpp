@@ -61,6 +61,9 @@ TEST_F(AppSettingsPins, oneWhoseDiskIsAbsentStaysAndIsFoundLater) {
     m_absent = {all[0]};
     start();
     EXPECT_EQ(m_settings->pinnedScreenshotPaths(), QSet<QString>{m_b});
+    EXPECT_TRUE(m_settings->hasUnavailablePins());
+    EXPECT_EQ(m_settings->pinnedScreenshotFiles(),
+              (QSet{*m_files.facts(m_a)->resource, *m_files.facts(m_b)->resource}));
     m_settings->refreshUnresolvedPins();
     EXPECT_TRUE(m_updates.empty());
     EXPECT_EQ(stored(), all);
@@ -74,6 +77,7 @@ TEST_F(AppSettingsPins, oneWhoseDiskIsAbsentStaysAndIsFoundLater) {
     m_settings->refreshUnresolvedPins();
     EXPECT_EQ(m_updates.size(), 1U);
     EXPECT_EQ(m_settings->pinnedScreenshotPaths(), QSet<QString>{m_a});
+    EXPECT_FALSE(m_settings->hasUnavailablePins());
     EXPECT_EQ(m_settings->pinnedScreenshots()[0].resolved->reference, m_files.facts(m_a)->resource);
 }
 
@@ -96,8 +100,8 @@ TEST_F(AppSettingsPins, aPinFollowsItsFile) {
 
 TEST_F(AppSettingsGrace, aRestoredScreenshotIsSparedForAWhileAfterItsLastReturn) {
     start();
-    ASSERT_TRUE(m_settings->protectRestoredScreenshots({m_a, m_b}, now));
-    ASSERT_TRUE(m_settings->protectRestoredScreenshots({m_b}, now + 1h));
+    m_settings->protectRestoredScreenshots({m_a, m_b}, now);
+    m_settings->protectRestoredScreenshots({m_b}, now + 1h);
     start();
     const Instant end = now + AutoCleanGrace::period;
     EXPECT_EQ(m_settings->autoCleanGraceDates(end - 1ms),
@@ -108,12 +112,13 @@ TEST_F(AppSettingsGrace, aRestoredScreenshotIsSparedForAWhileAfterItsLastReturn)
     EXPECT_FALSE(list().contains("a.png"));
 }
 
-TEST_F(AppSettingsGrace, oneThatCannotBeSparedLeavesTheListAsItWas) {
+TEST_F(AppSettingsGrace, isKnownByTheFileTooSoThatItHoldsAfterARenameAndWithoutThoseThatAreGone) {
     start();
-    ASSERT_TRUE(m_settings->protectRestoredScreenshots({m_a}, now));
-    const auto before = m_defaults.values;
-    EXPECT_FALSE(m_settings->protectRestoredScreenshots({m_b, path("gone.png")}, now));
-    EXPECT_EQ(m_defaults.values, before);
+    const FileResource file = *m_files.facts(m_a)->resource;
+    m_settings->protectRestoredScreenshots({path("gone.png"), m_a}, now);
+    ASSERT_TRUE(QFile::rename(m_a, path("renamed.png")));
+    EXPECT_EQ(m_settings->autoCleanGraceFiles(now),
+              (QHash<FileResource, Instant>{{file, now + AutoCleanGrace::period}}));
 }
 
 TEST_F(AppSettingsGrace, aListThatCannotBeDecodedIsEmptyAndIsReplacedByTheNext) {
@@ -133,7 +138,7 @@ TEST_F(AppSettingsGrace, aListThatCannotBeDecodedIsEmptyAndIsReplacedByTheNext) 
         EXPECT_TRUE(m_settings->autoCleanGraceDates(now).isEmpty()) << bad;
         m_defaults.setData(settingsKey::autoCleanRestoredFiles, "[" + good + "," + QByteArray(bad).mid(1));
         EXPECT_TRUE(m_settings->autoCleanGraceDates(now).isEmpty()) << bad;
-        ASSERT_TRUE(m_settings->protectRestoredScreenshots({m_a}, now));
+        m_settings->protectRestoredScreenshots({m_a}, now);
         EXPECT_EQ(m_settings->autoCleanGraceDates(now).keys(), QStringList{m_a}) << bad;
     }
 }

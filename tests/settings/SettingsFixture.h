@@ -58,21 +58,24 @@ protected:
 
 private:
     AppSettings::Functions functions() {
-        return {.updateSystemFolder = [this](const QString &folder) -> Result<void> {
-                    if (m_systemFolderFails)
-                        return failure(error());
-                    m_systemFolders.append(folder);
-                    return {};
-                },
-                .thumbnailPreference = ScreenshotThumbnailPreference::system(m_tool),
-                .createBookmark = [this](const QString &path) { return m_bookmarks.create(path); },
-                .resolvePinnedBookmark =
-                    [this](const QByteArray &bookmark) -> std::optional<PinnedScreenshot::Resolved> {
-                    const auto found = m_bookmarks.resolve(bookmark);
-                    if (!found || m_absent.contains(bookmark))
-                        return std::nullopt;
-                    return PinnedScreenshot::Resolved{found->path, m_files.facts(found->path)->resource};
-                }};
+        return {
+            .updateSystemFolder = [this](const QString &folder) -> Result<void> {
+                if (m_systemFolderFails)
+                    return failure(error());
+                m_systemFolders.append(folder);
+                return {};
+            },
+            .thumbnailPreference = ScreenshotThumbnailPreference::system(m_tool),
+            .createBookmark = [this](const QString &path) { return m_bookmarks.create(path); },
+            .resolvePinnedBookmark =
+                [this](const QByteArray &bookmark) -> Result<PinnedScreenshot::Resolved> {
+                if (m_absent.contains(bookmark))
+                    return failure({.domain = Bookmarks::errorDomain, .code = Bookmarks::volumeAbsent});
+                return m_bookmarks.resolve(bookmark).map([this](const Bookmarks::Resolved &found) {
+                    return PinnedScreenshot::Resolved{found.path, m_files.facts(found.path)->resource};
+                });
+            },
+            .bookmarkedFile = [this](const QByteArray &bookmark) { return m_bookmarks.resource(bookmark); }};
     }
 };
 

@@ -75,14 +75,18 @@ protected:
     }
 
     AppSettings::Functions functions() {
-        return {.updateSystemFolder =
-                    [this](const QString &chosen) {
-                        destination = ScreenshotDestination::toFolder(chosen);
-                        return systemRefusal;
-                    },
-                .thumbnailPreference = {[] { return std::nullopt; }, [](auto) { return Result<void>(); }},
-                .createBookmark = [this](const QString &path) { return bookmarks.create(path); },
-                .resolvePinnedBookmark = [](const QByteArray &) { return std::nullopt; }};
+        return {
+            .updateSystemFolder =
+                [this](const QString &chosen) {
+                    destination = ScreenshotDestination::toFolder(chosen);
+                    return systemRefusal;
+                },
+            .thumbnailPreference = {[] { return std::nullopt; }, [](auto) { return Result<void>(); }},
+            .createBookmark = [this](const QString &path) { return bookmarks.create(path); },
+            .resolvePinnedBookmark = [](const QByteArray &) -> Result<PinnedScreenshot::Resolved> {
+                return failure({.domain = Bookmarks::errorDomain, .code = Bookmarks::gone});
+            },
+            .bookmarkedFile = [this](const QByteArray &bookmark) { return bookmarks.resource(bookmark); }};
     }
 
     std::unique_ptr<FileWatcherService> makeWatcher() {

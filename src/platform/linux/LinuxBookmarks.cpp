@@ -74,6 +74,11 @@ std::optional<QString> LinuxBookmarks::lastKnownPath(const QByteArray &bookmark)
     return record ? std::optional(record->path) : std::nullopt;
 }
 
+std::optional<FileResource> LinuxBookmarks::resource(const QByteArray &bookmark) const {
+    const auto record = decode(bookmark);
+    return record ? record->resource : std::nullopt;
+}
+
 Result<Bookmarks::Resolved> LinuxBookmarks::resolve(const QByteArray &bookmark) const {
     const auto record = decode(bookmark);
     if (!record)

@@ -16,6 +16,7 @@ public:
 
     [[nodiscard]] Result<QByteArray> create(const QString &path) const override;
     [[nodiscard]] std::optional<QString> lastKnownPath(const QByteArray &bookmark) const override;
+    [[nodiscard]] std::optional<FileResource> resource(const QByteArray &bookmark) const override;
     [[nodiscard]] Result<Resolved> resolve(const QByteArray &bookmark) const override;
 
 private:

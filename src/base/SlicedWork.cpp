@@ -1,0 +1,35 @@
+#include "base/SlicedWork.h"
+
+#include "base/MainThread.h"
+
+#include <utility>
+
+namespace tembra {
+
+SlicedWork::SlicedWork(Scheduler &scheduler, UptimeClock uptime)
+    : m_scheduler(scheduler), m_uptime(std::move(uptime)) {}
+
+void SlicedWork::start(std::function<bool()> step, std::function<void()> done) {
+    requireMainThread();
+    m_jobs.push_back({std::move(step), std::move(done)});
+    if (!m_isInSlice && !m_nextSlice.isPending())
+        run();
+}
+
+void SlicedWork::run() {
+    const Uptime end = m_uptime() + slice;
+    m_isInSlice = true;
+    while (!m_jobs.empty() && m_uptime() < end) {
+        if (m_jobs.front().step())
+            continue;
+        // What follows may start the next job, which waits for its turn.
+        const std::function<void()> done = std::exchange(m_jobs.front().done, nullptr);
+        done();
+        m_jobs.pop_front();
+    }
+    m_isInSlice = false;
+    if (!m_jobs.empty())
+        m_nextSlice = m_scheduler.schedule(Scheduler::Duration::zero(), [this] { run(); });
+}
+
+} // namespace tembra
