@@ -159,7 +159,7 @@ Result<QByteArray> TrashFolder::receive(const HeldEntry &entry, Instant deletedA
                                         const TrashSteps &steps) const {
     const auto path = originalPath(entry);
     if (!path)
-        return path;
+        return failure(path.error());
     const QByteArray info = trashInfo(*path, deletedAt);
     for (int attempt = 1; attempt <= mostNamesakes; ++attempt) {
         const QByteArray name = trashName(entry.name(), attempt, m_nameLimit);
