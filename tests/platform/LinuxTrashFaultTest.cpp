@@ -3,7 +3,14 @@
 #include <QDirIterator>
 
 #include <algorithm>
+#include <array>
+#include <cerrno>
 #include <csignal>
+#include <cstddef>
+#include <linux/filter.h>
+#include <linux/seccomp.h>
+#include <sys/prctl.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -79,6 +86,24 @@ private:
     QStringList m_trashed;
 };
 
+// Takes away from this process what older kernels and some file systems do not have; gives whether it could.
+bool loseNewerCalls() {
+    constexpr auto answer = [](unsigned code) { return SECCOMP_RET_ERRNO | code; };
+    std::array<sock_filter, 6> rules{{
+        BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
+        BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, SYS_renameat2, 2, 0),
+        BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, SYS_openat2, 2, 0),
+        BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW),
+        BPF_STMT(BPF_RET | BPF_K, answer(EINVAL)),
+        BPF_STMT(BPF_RET | BPF_K, answer(ENOSYS)),
+    }};
+    const sock_fprog filter{rules.size(), rules.data()};
+    return ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 &&
+           ::prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &filter) == 0;
+}
+
+using LinuxTrashWithoutNewerCalls = TrashFixture;
+
 class LinuxTrashKilled : public testing::TestWithParam<bool> {};
 
 INSTANTIATE_TEST_SUITE_P(On, LinuxTrashKilled, testing::Bool(),
@@ -98,4 +123,24 @@ TEST_P(LinuxTrashKilled, leavesEveryFileInOnePlaceAndGoesOnAfterwards) {
         EXPECT_EQ(batch.contents(GetParam() ? "shots" : "Trash/files"), all) << "killed at step " << steps;
     }
     EXPECT_GT(steps, 9);
+}
+
+TEST_F(LinuxTrashWithoutNewerCalls, stillReplacesNothingAndFollowsNoLink) {
+    const auto isRight = [this] {
+        if (!loseNewerCalls())
+            return false;
+        const QString file = writeFile(path("shots/sub/a.png"), "first");
+        QFile::link(path("shots/sub"), path("shots/link"));
+        const bool isRefused =
+            codeOf(m_trash.moveToTrash(path("shots/link/a.png"), guard())) == Trash::outsideRoot;
+        const auto first = m_trash.moveToTrash(file, guard());
+        QFile::remove(path("data/Trash/info/a.png.trashinfo"));
+        const auto second = m_trash.moveToTrash(writeFile(file, "second"), guard());
+        writeFile(file, "third");
+        return isRefused && first && second && contentOf(*first) == "first" &&
+               contentOf(*second) == "second" &&
+               codeOf(m_trash.restore(*first, file, guard())) == Trash::occupied && QFile::remove(file) &&
+               m_trash.restore(*second, file, guard()) && contentOf(file) == "second";
+    };
+    EXPECT_EXIT(::_exit(isRight() ? 0 : 1), testing::ExitedWithCode(0), "");
 }
