@@ -122,7 +122,7 @@ TEST_P(LinuxTrashKilled, leavesEveryFileInOnePlaceAndGoesOnAfterwards) {
         EXPECT_TRUE(batch.run([](const char *) {})) << "killed at step " << steps;
         EXPECT_EQ(batch.contents(GetParam() ? "shots" : "Trash/files"), all) << "killed at step " << steps;
     }
-    EXPECT_GT(steps, 9);
+    EXPECT_GT(steps, 12);
 }
 
 TEST_F(LinuxTrashWithoutNewerCalls, stillReplacesNothingAndFollowsNoLink) {
