@@ -9,6 +9,7 @@
 #include "platform/linux/LinuxFileReferences.h"
 #include "platform/linux/LinuxFolderFiles.h"
 #include "platform/linux/LinuxStandardFolders.h"
+#include "platform/linux/LinuxTrash.h"
 #include "platform/linux/desktop/DesktopServices.h"
 #include "platform/linux/tools/ScreenshotTool.h"
 
@@ -28,6 +29,7 @@ Platform makeHeadlessPlatform(Scheduler &scheduler) {
     platform.bookmarks = std::make_unique<LinuxBookmarks>(*facts, platform.folders);
     platform.folderEvents = std::make_unique<InotifyFolderEvents>(*facts, scheduler);
     platform.captureMarkers = std::make_unique<LinuxCaptureMarkers>();
+    platform.trash = std::make_unique<LinuxTrash>(*facts, platform.folders.trash.first());
     platform.fileFacts = std::move(facts);
     return platform;
 }
