@@ -1,6 +1,5 @@
 #include "platform/linux/desktop/CanberraSounds.h"
 
-#include "platform/linux/Descriptor.h"
 #include "support/EventLoop.h"
 #include "support/Files.h"
 
@@ -41,9 +40,9 @@ QByteArray wave(const QByteArray &samples) {
 class CanberraSoundsTest : public testing::Test {
 protected:
     CanberraSoundsTest() {
-        const QString sounds = path(QStringLiteral("sounds/Test/stereo"));
+        const QString sounds = path(QStringLiteral("sounds/%1/stereo").arg(theme));
         QDir().mkpath(sounds);
-        writeFile(path(QStringLiteral("sounds/Test/index.theme")),
+        writeFile(sounds + QStringLiteral("/../index.theme"),
                   "[Sound Theme]\nName=Test\nDirectories=stereo\n[stereo]\nOutputProfile=stereo\n");
         writeFile(sounds + QStringLiteral("/trash-empty.wav"), wave(trashSamples));
         writeFile(sounds + QStringLiteral("/device-added.wav"), wave(restoreSamples));
@@ -59,9 +58,7 @@ protected:
 
     [[nodiscard]] QString path(const QString &name) const { return m_folder.filePath(name); }
     [[nodiscard]] EventSoundSetting setting() const {
-        return EventSoundSetting({[this] {
-            return EventSoundSetting::Statement{isEnabled, QStringLiteral("Test")};
-        }});
+        return EventSoundSetting({[this] { return EventSoundSetting::Statement{isEnabled, theme}; }});
     }
     [[nodiscard]] QByteArray played() const {
         QFile file(output);
@@ -76,6 +73,8 @@ private:
     const QTemporaryDir m_folder;
 
 protected:
+    // Of another name each time: what is known of a theme is remembered.
+    const QString theme = QFileInfo(m_folder.path()).fileName();
     const QString output = path(QStringLiteral("played.raw"));
 };
 
@@ -92,11 +91,11 @@ TEST_F(CanberraSoundsTest, playsTheSoundsOfTheTheme) {
 
 TEST_F(CanberraSoundsTest, isSilentWhileSoundsAreOff) {
     isEnabled = false;
-    {
-        CanberraSounds sounds(setting());
-        sounds.play(Sounds::Event::movedToTrash);
-    }
-    EXPECT_FALSE(QFile::exists(output));
+    CanberraSounds sounds(setting());
+    sounds.play(Sounds::Event::movedToTrash);
+    isEnabled = true;
+    sounds.play(Sounds::Event::restored);
+    EXPECT_TRUE(eventually([this] { return played().contains(restoreSamples); }));
 }
 
 TEST_F(CanberraSoundsTest, isSilentWithoutSound) {
@@ -115,9 +114,10 @@ TEST_F(CanberraSoundsTest, nobodyWaitsForACardThatHangs) {
         sounds.play(Sounds::Event::movedToTrash);
         sounds.play(Sounds::Event::restored);
     }
-    const Descriptor reader(::open(card.constData(), O_RDONLY | O_NONBLOCK));
-    const auto wasOpenedByThePlayer = [&reader] {
-        pollfd state{reader.number(), POLLIN, 0};
+    // Stays open: the player is still at it when the test ends.
+    const int reader = ::open(card.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    const auto wasOpenedByThePlayer = [reader] {
+        pollfd state{reader, POLLIN, 0};
         return ::poll(&state, 1, 0) > 0;
     };
     EXPECT_TRUE(eventually(wasOpenedByThePlayer));

@@ -4,6 +4,8 @@
 #include "platform/Sounds.h"
 #include "platform/linux/desktop/EventSoundSetting.h"
 
+#include <atomic>
+
 namespace tembra {
 
 // Sounds through libcanberra, which finds them in the theme and plays them with what the machine has. It may
@@ -19,12 +21,10 @@ public:
     void play(Event event) override;
 
 private:
-    class Player;
-
     const EventSoundSetting m_setting;
     std::unique_ptr<ThreadQueue> m_queue;
-    // Used on the queue. Nothing before the first sound.
-    std::shared_ptr<Player> m_player;
+    // While a sound is being handed over.
+    std::shared_ptr<std::atomic<bool>> m_isBusy;
 };
 
 } // namespace tembra
