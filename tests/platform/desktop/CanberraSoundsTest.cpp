@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <fcntl.h>
 #include <poll.h>
 #include <sys/stat.h>
@@ -81,11 +82,15 @@ protected:
 } // namespace
 
 TEST_F(CanberraSoundsTest, playsTheSoundsOfTheTheme) {
-    for (const auto &[event, samples] : {std::pair(Sounds::Event::movedToTrash, trashSamples),
-                                         std::pair(Sounds::Event::restored, restoreSamples)}) {
+    struct Case {
+        Sounds::Event event;
+        QByteArray samples;
+    };
+    for (const Case &c :
+         {Case{Sounds::Event::movedToTrash, trashSamples}, Case{Sounds::Event::restored, restoreSamples}}) {
         CanberraSounds sounds(setting());
-        sounds.play(event);
-        EXPECT_TRUE(eventually([this, &samples] { return played().contains(samples); }));
+        sounds.play(c.event);
+        EXPECT_TRUE(eventually([this, &c] { return played().contains(c.samples); }));
     }
 }
 
@@ -106,19 +111,23 @@ TEST_F(CanberraSoundsTest, isSilentWithoutSound) {
 }
 
 TEST_F(CanberraSoundsTest, nobodyWaitsForACardThatHangs) {
-    // Opening it to write waits until somebody reads.
-    const QByteArray card = QFile::encodeName(output);
-    ASSERT_EQ(::mkfifo(card.constData(), 0600), 0);
-    {
-        CanberraSounds sounds(setting());
-        sounds.play(Sounds::Event::movedToTrash);
-        sounds.play(Sounds::Event::restored);
-    }
-    // Stays open: the player is still at it when the test ends.
-    const int reader = ::open(card.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-    const auto wasOpenedByThePlayer = [reader] {
-        pollfd state{reader, POLLIN, 0};
-        return ::poll(&state, 1, 0) > 0;
+    // In a process of its own: the thread that hangs stays to its end.
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    const auto playOnCardThatHangs = [this] {
+        // Opening it to write waits until somebody reads.
+        const QByteArray card = QFile::encodeName(output);
+        ::mkfifo(card.constData(), 0600);
+        {
+            CanberraSounds sounds(setting());
+            sounds.play(Sounds::Event::movedToTrash);
+            sounds.play(Sounds::Event::restored);
+        }
+        const int reader = ::open(card.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+        const auto isOpenedByThePlayer = [reader] {
+            pollfd state{reader, POLLIN, 0};
+            return ::poll(&state, 1, 0) > 0;
+        };
+        std::_Exit(eventually(isOpenedByThePlayer) ? 0 : 1);
     };
-    EXPECT_TRUE(eventually(wasOpenedByThePlayer));
+    EXPECT_EXIT(playOnCardThatHangs(), testing::ExitedWithCode(0), "");
 }

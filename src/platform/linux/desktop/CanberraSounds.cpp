@@ -8,6 +8,9 @@ namespace tembra {
 
 namespace {
 
+// Of the program's end with a sound that is just being handed over.
+constexpr int patienceMilliseconds = 100;
+
 // Names of the freedesktop.org Sound Naming Specification 0.1.
 const char *soundName(Sounds::Event event) {
     switch (event) {
@@ -46,23 +49,23 @@ void playNow(const char *name, const QByteArray &theme, const QByteArray &progra
 CanberraSounds::CanberraSounds(EventSoundSetting setting)
     : m_setting(std::move(setting)),
       m_queue(std::make_unique<ThreadQueue>(QStringLiteral("Tembra.Sounds"))),
-      m_isBusy(std::make_shared<std::atomic<bool>>(false)) {}
+      m_turn(std::make_shared<QSemaphore>(1)) {}
 
 CanberraSounds::~CanberraSounds() {
     // A queue ends when its job is done, which may be never: then it is left to the end of the process.
-    if (*m_isBusy)
+    if (!m_turn->tryAcquire(1, patienceMilliseconds))
         static_cast<void>(m_queue.release());
 }
 
 void CanberraSounds::play(Event event) {
     const EventSoundSetting::Value setting = m_setting.read();
     // While a server makes others wait, sounds do not gather for later.
-    if (!setting.isEnabled || m_isBusy->exchange(true))
+    if (!setting.isEnabled || !m_turn->tryAcquire())
         return;
-    m_queue->post([isBusy = m_isBusy, name = soundName(event), theme = setting.theme.toUtf8(),
+    m_queue->post([turn = m_turn, name = soundName(event), theme = setting.theme.toUtf8(),
                    programName = QCoreApplication::applicationName().toUtf8()] {
         playNow(name, theme, programName);
-        *isBusy = false;
+        turn->release();
     });
 }
 

@@ -4,7 +4,7 @@
 #include "platform/Sounds.h"
 #include "platform/linux/desktop/EventSoundSetting.h"
 
-#include <atomic>
+#include <QSemaphore>
 
 namespace tembra {
 
@@ -23,8 +23,8 @@ public:
 private:
     const EventSoundSetting m_setting;
     std::unique_ptr<ThreadQueue> m_queue;
-    // While a sound is being handed over.
-    std::shared_ptr<std::atomic<bool>> m_isBusy;
+    // Taken while a sound is being handed over.
+    std::shared_ptr<QSemaphore> m_turn;
 };
 
 } // namespace tembra

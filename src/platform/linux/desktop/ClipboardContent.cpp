@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <mutex>
-#include <ranges>
 
 namespace tembra {
 
@@ -79,10 +78,9 @@ ClipboardContent::ClipboardContent(const std::vector<Pasteboard::Item> &items) {
         m_files.append(fileUri(item.path));
     if (!m_files.isEmpty())
         m_formats = {uriList, copiedFiles};
-    const auto newestFirst = std::views::reverse(items);
-    const auto last =
-        std::ranges::find_if(newestFirst, [](const auto &item) { return !imageFormat(item).isEmpty(); });
-    if (last == newestFirst.end())
+    const auto last = std::find_if(items.rbegin(), items.rend(),
+                                   [](const Pasteboard::Item &item) { return !imageFormat(item).isEmpty(); });
+    if (last == items.rend())
         return;
     m_image = std::make_shared<Image>(imageFormat(*last), last->data);
     m_formats += m_image->formats();

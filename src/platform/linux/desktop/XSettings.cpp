@@ -3,6 +3,7 @@
 #include "platform/linux/desktop/X11Connection.h"
 
 #include <QDataStream>
+#include <QIODevice>
 
 #include <optional>
 
