@@ -5,7 +5,8 @@ build_packages=(
   qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
   libexpected-dev libglib2.0-dev
   libxcb1-dev libxcb-xfixes0-dev libxcb-xinput-dev libxcb-shape0-dev libxcb-xtest0-dev
-  libheif-dev
+  libwayland-dev
+  libheif-dev libcanberra-dev
   libgtest-dev libgmock-dev libbenchmark-dev
 )
 
@@ -15,7 +16,7 @@ run_packages=(qt6-image-formats-plugins qt6-qpa-plugins fonts-inter dconf-gsetti
 # A private desktop to run on, and real tools to take captures with and to drive it.
 desktop_packages=(
   xvfb openbox picom dbus dbus-daemon xdotool x11-utils x11-xserver-utils
-  hsetroot scrot imagemagick gnome-screenshot libglib2.0-bin
+  sway wl-clipboard xsettingsd hsetroot scrot imagemagick gnome-screenshot libglib2.0-bin
 )
 
 # Installs those of the named packages that are missing, with sudo where needed.

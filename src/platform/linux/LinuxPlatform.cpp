@@ -42,6 +42,7 @@ Platform makePlatform(Scheduler &scheduler) {
     platform.inputMonitor = std::move(desktop.inputMonitor);
     platform.panelWindows = std::move(desktop.panelWindows);
     platform.hotZones = std::move(desktop.hotZones);
+    platform.sounds = std::move(desktop.sounds);
     platform.thumbnails =
         std::make_unique<FreedesktopThumbnails>(scheduler, FreedesktopThumbnails::userLocations());
     return platform;

@@ -1,5 +1,7 @@
 #include "platform/linux/ThumbnailCacheFolder.h"
 
+#include "platform/linux/FileUri.h"
+
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
@@ -51,7 +53,7 @@ int ThumbnailCacheFolder::sideFor(int pixels) {
 }
 
 QByteArray ThumbnailCacheFolder::uri(const QString &path) {
-    return "file://" + QFile::encodeName(path).toPercentEncoding("/!*'()&=:@+$,");
+    return fileUri(path);
 }
 
 QString ThumbnailCacheFolder::file(const QString &path, const char *folder) const {

@@ -1,5 +1,6 @@
 #include "platform/linux/desktop/DesktopServices.h"
 
+#include "platform/linux/desktop/CanberraSounds.h"
 #include "platform/linux/desktop/LinuxWorkspace.h"
 #include "platform/linux/desktop/QtDisplays.h"
 #include "platform/linux/desktop/QtHotZones.h"
@@ -16,6 +17,7 @@ DesktopServices makeDesktopServices(Scheduler &scheduler, std::optional<CameraHo
     DesktopServices services;
     services.displays = std::make_unique<QtDisplays>(scheduler, std::move(camera));
     services.workspace = std::make_unique<LinuxWorkspace>(connection);
+    services.sounds = std::make_unique<CanberraSounds>(EventSoundSetting::ofDesktop(connection));
     if (!connection) {
         services.inputMonitor = std::make_unique<QtInputMonitor>(scheduler);
         services.panelWindows = std::make_unique<QtPanelWindows>();

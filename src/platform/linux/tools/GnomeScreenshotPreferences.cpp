@@ -1,8 +1,7 @@
 #include "platform/linux/tools/GnomeScreenshotPreferences.h"
 
+#include "platform/linux/GSettingsObject.h"
 #include "platform/linux/tools/SettingsText.h"
-
-#include <gio/gio.h>
 
 namespace tembra {
 
@@ -11,29 +10,14 @@ namespace {
 constexpr char schemaName[] = "org.gnome.gnome-screenshot";
 constexpr char locationKey[] = "auto-save-directory";
 
-struct Unreferences {
-    void operator()(GSettings *settings) const { g_object_unref(settings); }
-    void operator()(GSettingsSchema *schema) const { g_settings_schema_unref(schema); }
-};
-
-using Schema = std::unique_ptr<GSettingsSchema, Unreferences>;
-
 } // namespace
 
 struct GnomeScreenshotPreferences::Settings {
-    std::unique_ptr<GSettings, Unreferences> object;
+    GSettingsObject object;
 
-    // Asking for a schema that is not there, or for a key that it does not have, would end the process.
     static std::unique_ptr<Settings> open(GSettingsBackend *backend) {
-        GSettingsSchemaSource *source = g_settings_schema_source_get_default();
-        if (!source)
-            return nullptr;
-        const Schema schema(g_settings_schema_source_lookup(source, schemaName, TRUE));
-        if (!schema || !g_settings_schema_has_key(schema.get(), locationKey))
-            return nullptr;
-        auto settings = std::make_unique<Settings>();
-        settings->object.reset(g_settings_new_full(schema.get(), backend, nullptr));
-        return settings;
+        GSettingsObject object = openGSettings(schemaName, {locationKey}, backend);
+        return object ? std::unique_ptr<Settings>(new Settings{std::move(object)}) : nullptr;
     }
 };
 
