@@ -112,7 +112,7 @@ int main(int argc, char **argv) {
         arrivedAfter = since(start);
         surfaces.activateForOpening(DisplayPreference::main, {});
         content.apply({.notification = CaptureNotification{
-                           QStringLiteral("Screenshot saved"), {}, {shots.front().location}, 1}});
+                           QStringLiteral("Got it"), {shots.front().location}, 1}});
         paintWatch.painted = false;
         surfaces.present(ShelfPresentation::notification({360, 84}));
     };

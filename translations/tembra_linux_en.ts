@@ -11,6 +11,23 @@
             <numerusform>%n captures</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n screenshots</source>
+        <translation>
+            <numerusform>%n screenshot</numerusform>
+            <numerusform>%n screenshots</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SafetyReview</name>
+    <message numerus="yes">
+        <source>%n files</source>
+        <translation>
+            <numerusform>%n file</numerusform>
+            <numerusform>%n files</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>FolderChooser</name>

@@ -4,6 +4,7 @@
 #include "app/CommandService.h"
 #include "screenshots/FileWatcherService.h"
 #include "screenshots/FolderReader.h"
+#include "screenshots/ScreenshotAutoCleanScan.h"
 #include "screenshots/ScreenshotDestination.h"
 #include "screenshots/ScreenshotLocationMonitor.h"
 #include "screenshots/ScreenshotSaveLocation.h"
@@ -35,7 +36,9 @@ AppDelegate::AppDelegate(Platform &platform, Scheduler &scheduler)
       m_folderTraversal(platform.folders, *platform.fileFacts),
       m_capturePreferences(platform.screenCapturePreferences()),
       m_folderScanQueue(QStringLiteral("Tembra.FolderScan")),
-      m_locationQueue(QStringLiteral("app.tembra.screenshot-location")) {}
+      m_locationQueue(QStringLiteral("app.tembra.screenshot-location")),
+      m_autoCleanQueue(QStringLiteral("Tembra.AutoClean")),
+      m_screenshotCopyQueue(QStringLiteral("local.dova.Tembra.screenshot-copy")) {}
 
 AppDelegate::~AppDelegate() = default;
 
@@ -73,7 +76,6 @@ std::unique_ptr<AppSettings> AppDelegate::makeSettings() {
 }
 
 std::unique_ptr<ShelfController> AppDelegate::makeShelfController() {
-    auto session = std::make_unique<ShelfSession>(*m_settings, *m_platform.defaults, makeFileWatcher());
     const ShelfServices services{.scheduler = m_scheduler,
                                  .uptime = systemUptime,
                                  .now = systemNow,
@@ -83,22 +85,53 @@ std::unique_ptr<ShelfController> AppDelegate::makeShelfController() {
                                  .panelWindows = *m_platform.panelWindows,
                                  .hotZones = *m_platform.hotZones,
                                  .thumbnails = *m_platform.thumbnails,
-                                 .files = *m_platform.fileFacts};
+                                 .files = *m_platform.fileFacts,
+                                 .isCapture = [this](const QString &path) { return isCapture(path); }};
     auto controller =
-        std::make_unique<ShelfController>(*m_settings, std::move(session), makeLocationMonitor(), services);
+        std::make_unique<ShelfController>(*m_settings, makeSession(), makeLocationMonitor(), services);
     controller->onError = showAlert;
     return controller;
 }
 
-std::unique_ptr<FileWatcherService> AppDelegate::makeFileWatcher() {
-    // Made by the first scan, on the queue, which is the only one to use it.
+bool AppDelegate::isCapture(const QString &path) const {
+    return m_captureDetector.isCapture(path, m_capturePreferences->name().value_or(QString()));
+}
+
+std::function<QString()> AppDelegate::makeCustomPrefix() const {
+    // Made by the first call, on the queue, which is the only one to use it.
     auto preferences = std::make_shared<std::unique_ptr<ScreenCapturePreferences>>();
-    auto customPrefix = [preferences, make = m_platform.screenCapturePreferences] {
+    return [preferences, make = m_platform.screenCapturePreferences] {
         if (!*preferences)
             *preferences = make();
         return (*preferences)->name().value_or(QString());
     };
-    auto reader = std::make_shared<FolderReader>(*m_platform.folderFiles, m_captureDetector, customPrefix);
+}
+
+std::unique_ptr<ShelfSession> AppDelegate::makeSession() {
+    ShelfSessionServices services{
+        .scheduler = m_scheduler,
+        .uptime = systemUptime,
+        .now = systemNow,
+        .defaults = *m_platform.defaults,
+        .files = *m_platform.fileFacts,
+        .references = *m_platform.fileReferences,
+        .trash = *m_platform.trash,
+        .pasteboard = *m_platform.pasteboard,
+        .pictures = *m_platform.pictureDecoder,
+        .sounds = *m_platform.sounds,
+        .autoCleanQueue = m_autoCleanQueue,
+        .copyQueue = m_screenshotCopyQueue,
+        .isCapture = [this](const QString &path) { return isCapture(path); },
+        .folderTraversal =
+            [this](const QString &folder) { return m_folderTraversal.includesSubfolders(folder); },
+        .autoCleanScan = std::make_shared<ScreenshotAutoCleanScan>(*m_platform.folderFiles, m_captureDetector,
+                                                                   makeCustomPrefix())};
+    return std::make_unique<ShelfSession>(*m_settings, std::move(services), makeFileWatcher());
+}
+
+std::unique_ptr<FileWatcherService> AppDelegate::makeFileWatcher() {
+    auto reader =
+        std::make_shared<FolderReader>(*m_platform.folderFiles, m_captureDetector, makeCustomPrefix());
     FileWatcherService::Services services{.events = *m_platform.folderEvents,
                                           .scheduler = m_scheduler,
                                           .uptime = systemUptime,

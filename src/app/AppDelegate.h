@@ -5,6 +5,7 @@
 #include "screenshots/ScreenshotCaptureDetector.h"
 #include "screenshots/ScreenshotFolderTraversal.h"
 
+#include <functional>
 #include <memory>
 
 namespace tembra {
@@ -15,6 +16,7 @@ class CommandService;
 class FileWatcherService;
 class ScreenshotLocationMonitor;
 class ShelfController;
+class ShelfSession;
 
 // The composition root: makes the settings, then the flow, and answers the program's life-cycle questions.
 // Main thread; lives in main().
@@ -39,7 +41,12 @@ public:
 private:
     [[nodiscard]] std::unique_ptr<AppSettings> makeSettings();
     [[nodiscard]] std::unique_ptr<ShelfController> makeShelfController();
+    [[nodiscard]] std::unique_ptr<ShelfSession> makeSession();
     [[nodiscard]] std::unique_ptr<FileWatcherService> makeFileWatcher();
+    // Asks the screenshot tool how names begin, on the queue that the function is used on.
+    [[nodiscard]] std::function<QString()> makeCustomPrefix() const;
+    // Main thread.
+    [[nodiscard]] bool isCapture(const QString &path) const;
     [[nodiscard]] std::unique_ptr<ScreenshotLocationMonitor> makeLocationMonitor();
 
     Platform &m_platform;
@@ -50,6 +57,8 @@ private:
     std::unique_ptr<ScreenCapturePreferences> m_capturePreferences;
     ThreadQueue m_folderScanQueue;
     ThreadQueue m_locationQueue;
+    ThreadQueue m_autoCleanQueue;
+    ThreadQueue m_screenshotCopyQueue;
     std::unique_ptr<AppSettings> m_settings;
     std::unique_ptr<AppFlowCoordinator> m_coordinator;
     std::unique_ptr<CommandService> m_commands;

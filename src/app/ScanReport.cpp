@@ -78,10 +78,11 @@ Result<ScanReport> ScanReport::of(const QString &folder, bool includesSubfolders
                                   Instant now) {
     ScanReport report{.folder = folder};
     Scanner scanner(report, detector, customPrefix, now);
-    const auto listed = files.list(folder, includesSubfolders, [&scanner](const FolderFiles::Listed &file) {
-        scanner.visit(file);
-        return true;
-    });
+    const auto listed = files.list(folder, FolderFiles::enteredIf(includesSubfolders),
+                                   [&scanner](const FolderFiles::Listed &file) {
+                                       scanner.visit(file);
+                                       return true;
+                                   });
     if (!listed)
         return failure(listed.error());
     std::ranges::sort(report.captures, [](const Capture &a, const Capture &b) {

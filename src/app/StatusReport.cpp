@@ -38,6 +38,16 @@ QJsonValue lastCaptureValue(const ShelfStatus &status) {
                        {QStringLiteral("at"), isoDate(status.lastCapture->at)}};
 }
 
+QJsonObject autoCleanObject(const ShelfStatus &status) {
+    QJsonValue next = QJsonValue::Null;
+    if (status.nextAutoCleanCheck)
+        next =
+            static_cast<qint64>(std::chrono::ceil<std::chrono::seconds>(*status.nextAutoCleanCheck).count());
+    return {{QStringLiteral("days"), status.autoCleanDays},
+            {QStringLiteral("review"), status.autoCleanReview},
+            {QStringLiteral("nextCheckSeconds"), next}};
+}
+
 } // namespace
 
 QByteArray statusJson(const ShelfStatus &status, const QString &version) {
@@ -51,8 +61,13 @@ QByteArray statusJson(const ShelfStatus &status, const QString &version) {
         {QStringLiteral("screenshots"), screenshotsObject(status)},
         {QStringLiteral("notification"), QJsonObject{{QStringLiteral("showing"), status.showingNotification},
                                                      {QStringLiteral("text"), status.notificationText},
+                                                     {QStringLiteral("detail"), status.notificationDetail},
                                                      {QStringLiteral("count"), status.notificationCount}}},
-        {QStringLiteral("lastCapture"), lastCaptureValue(status)}};
+        {QStringLiteral("tray"), QJsonObject{{QStringLiteral("count"), status.trayCount}}},
+        {QStringLiteral("lastCapture"), lastCaptureValue(status)},
+        {QStringLiteral("autoClean"), autoCleanObject(status)},
+        {QStringLiteral("undo"), QJsonArray::fromStringList(status.undo)},
+        {QStringLiteral("redo"), QJsonArray::fromStringList(status.redo)}};
     return QJsonDocument(report).toJson(QJsonDocument::Indented);
 }
 

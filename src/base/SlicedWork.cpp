@@ -22,10 +22,10 @@ void SlicedWork::run() {
     while (!m_jobs.empty() && m_uptime() < end) {
         if (m_jobs.front().step())
             continue;
-        // What follows may start the next job, which waits for its turn.
-        const std::function<void()> done = std::exchange(m_jobs.front().done, nullptr);
-        done();
+        // What follows may start another job, which waits for its turn.
+        const Job finished = std::move(m_jobs.front());
         m_jobs.pop_front();
+        finished.done();
     }
     m_isInSlice = false;
     if (!m_jobs.empty())

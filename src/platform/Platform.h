@@ -12,6 +12,7 @@
 #include "platform/InputMonitor.h"
 #include "platform/PanelWindows.h"
 #include "platform/Pasteboard.h"
+#include "platform/PictureDecoder.h"
 #include "platform/ScreenCapturePreferences.h"
 #include "platform/SingleInstance.h"
 #include "platform/Sounds.h"
@@ -40,6 +41,7 @@ struct Platform {
     std::unique_ptr<FolderEvents> folderEvents;
     std::unique_ptr<CaptureMarkers> captureMarkers;
     std::unique_ptr<Trash> trash;
+    std::unique_ptr<PictureDecoder> pictureDecoder;
     // The services below need a display and are absent in commands that run without one.
     std::unique_ptr<Displays> displays;
     std::unique_ptr<Workspace> workspace;

@@ -17,4 +17,9 @@ bool CaptureMedia::isVideoExtension(QStringView extension) {
     return std::ranges::find(videoExtensions, extension) != videoExtensions.end();
 }
 
+bool CaptureMedia::mayBeMedia(std::string_view fileName) {
+    const auto dot = fileName.rfind('.');
+    return dot != std::string_view::npos && fileName.size() - dot >= 4 && fileName.size() - dot <= 5;
+}
+
 } // namespace tembra

@@ -4,6 +4,7 @@
 #include <QStringView>
 
 #include <array>
+#include <string_view>
 
 namespace tembra {
 
@@ -16,6 +17,9 @@ struct CaptureMedia {
     [[nodiscard]] static QString extension(QStringView fileName);
     [[nodiscard]] static bool isImageExtension(QStringView extension);
     [[nodiscard]] static bool isVideoExtension(QStringView extension);
+    // Whether the ending of a name, in the file system's bytes, is as long as those of images and recordings
+    // are: most other files need no closer look.
+    [[nodiscard]] static bool mayBeMedia(std::string_view fileName);
 };
 
 } // namespace tembra

@@ -4,6 +4,7 @@
 #include "base/MainThread.h"
 #include "screenshots/FolderReader.h"
 #include "screenshots/ScreenshotCaptureDetector.h"
+#include "screenshots/ScreenshotTimeline.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -12,6 +13,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace tembra {
 
@@ -82,6 +84,7 @@ void FileWatcherService::stop() {
         work->cancel();
     m_scanRequested = false;
     m_scanning = false;
+    m_heldArrivals.clear();
     m_earliestScan.reset();
     m_pendingTreeEventID = 0;
     m_reconciledEventID = 0;
@@ -171,8 +174,15 @@ void FileWatcherService::scanNow() {
     m_scanWork.cancel();
     m_earliestScan.reset();
     m_scanRequested = true;
+    if (m_pauses > 0)
+        return;
     qCDebug(log, "scan: %s", rawValue(ScanReason::immediate));
     scanFolder();
+}
+
+void FileWatcherService::requestScan() {
+    requireMainThread();
+    scheduleScan(ScanReason::request);
 }
 
 void FileWatcherService::requestScanAfterEditorWrite() {
@@ -196,7 +206,20 @@ void FileWatcherService::scheduleScan(ScanReason reason) {
                                                [this] { runScan(); });
 }
 
+void FileWatcherService::pause() {
+    requireMainThread();
+    ++m_pauses;
+}
+
+void FileWatcherService::resume() {
+    requireMainThread();
+    if (--m_pauses == 0 && m_scanRequested)
+        scheduleScan(ScanReason::stateChanged);
+}
+
 void FileWatcherService::runScan() {
+    if (m_pauses > 0)
+        return;
     // The time may have been put off after this scan was scheduled.
     if (m_earliestScan && *m_earliestScan > m_services.uptime())
         return scheduleScan(ScanReason::editorWrite);
@@ -227,6 +250,12 @@ void FileWatcherService::scanFolder() {
 
 void FileWatcherService::apply(FolderScanResult result) {
     m_scanning = false;
+    // It was found before the moves: told, it would bring back what they took away.
+    if (m_pauses > 0) {
+        m_scanRequested = true;
+        std::ranges::move(result.arrivals, std::back_inserter(m_heldArrivals));
+        return;
+    }
     if (m_scanRequested)
         scheduleScan(ScanReason::request);
     if (result.error)
@@ -236,7 +265,7 @@ void FileWatcherService::apply(FolderScanResult result) {
     scheduleChecks(result);
 
     FolderShelf &shelf = *m_shelf;
-    const std::vector<Shot> news = newShots(result.arrivals);
+    const std::vector<Shot> news = newShots(withHeldArrivals(std::move(result.arrivals), result.shots));
     const bool changed =
         !shelf.hasCompletedInitialScan || shelf.errorText.has_value() || shelf.shots != result.shots;
     shelf.hasCompletedInitialScan = true;
@@ -263,6 +292,17 @@ void FileWatcherService::applyFailure(const Error &error) {
     scheduleRecovery();
     if (onChange)
         onChange(shelf, changed, 0);
+}
+
+// Those that are still there.
+std::vector<Shot> FileWatcherService::withHeldArrivals(std::vector<Shot> arrivals,
+                                                       const std::vector<Shot> &shots) {
+    for (Shot &held : std::exchange(m_heldArrivals, {})) {
+        if (std::ranges::find(shots, held) != shots.end())
+            arrivals.push_back(std::move(held));
+    }
+    std::ranges::sort(arrivals, ScreenshotTimeline::isShownBefore);
+    return arrivals;
 }
 
 // A file is new when neither it nor another of its name was shown before: renamed and edited ones are not.

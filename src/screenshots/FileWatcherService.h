@@ -56,9 +56,15 @@ public:
     void start(FolderShelf &shelf);
     void stop();
     void scanNow();
+    // Soon, together with what else is asked for.
+    void requestScan();
     // The editor has written a file into the folder.
     void requestScanAfterEditorWrite();
     void receiveTreeEvents(const std::vector<TreeEvent> &events);
+    // Between the two nothing is scanned and nothing told, so that the shelf does not see half of what is
+    // moved in number. Pauses add up.
+    void pause();
+    void resume();
 
     [[nodiscard]] bool isRunning() const { return m_shelf != nullptr; }
 
@@ -77,6 +83,8 @@ private:
     void applyFailure(const Error &error);
     void scheduleChecks(const FolderScanResult &result);
     void scheduleRecovery();
+    [[nodiscard]] std::vector<Shot> withHeldArrivals(std::vector<Shot> arrivals,
+                                                     const std::vector<Shot> &shots);
     [[nodiscard]] std::vector<Shot> newShots(const std::vector<Shot> &arrivals) const;
 
     const Services m_services;
@@ -96,6 +104,9 @@ private:
 
     bool m_scanRequested = false;
     bool m_scanning = false;
+    int m_pauses = 0;
+    // New captures that a scan met whose result came while paused.
+    std::vector<Shot> m_heldArrivals;
     std::optional<Uptime> m_earliestScan;
     WorkItem m_scanWork;
     WorkItem m_stabilizationWork;

@@ -26,13 +26,6 @@ QString stampOf(const FileVersion &version) {
         .arg(version.inode, 0, 16);
 }
 
-// Whether the name's ending is as long as those of images and recordings are: most other files need no closer
-// look.
-bool mayBeMedia(std::string_view path) {
-    const auto dot = path.rfind('.');
-    return dot != std::string_view::npos && path.size() - dot >= 4 && path.size() - dot <= 5;
-}
-
 QStringView lastPart(QStringView path) {
     return path.sliced(path.lastIndexOf(u'/') + 1);
 }
@@ -47,11 +40,11 @@ FolderScanResult FolderReader::readFolder(const FolderScanRequest &request) {
     begin(request);
     FolderScanResult result;
     const auto isCancelled = [&request] { return request.cancellation && *request.cancellation; };
-    const auto listed =
-        m_files.list(request.folder, request.includesSubfolders, [&](const FolderFiles::Listed &file) {
-            visit(file, request);
-            return !isCancelled();
-        });
+    const auto subfolders = FolderFiles::enteredIf(request.includesSubfolders);
+    const auto listed = m_files.list(request.folder, subfolders, [&](const FolderFiles::Listed &file) {
+        visit(file, request);
+        return !isCancelled();
+    });
     if (!listed) {
         result.error = listed.error();
         return result;
@@ -75,7 +68,7 @@ void FolderReader::begin(const FolderScanRequest &request) {
 }
 
 void FolderReader::visit(const FolderFiles::Listed &listed, const FolderScanRequest &request) {
-    if (!mayBeMedia(listed.relativePath()))
+    if (!CaptureMedia::mayBeMedia(listed.relativePath()))
         return;
     auto found = m_entries.find(listed.relativePath());
     const bool isKnown = found != m_entries.end();

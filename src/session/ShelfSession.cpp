@@ -1,21 +1,50 @@
 #include "session/ShelfSession.h"
 
-#include "platform/UserDefaults.h"
+#include "base/Background.h"
 #include "settings/AppSettings.h"
+
+#include <QCoreApplication>
 
 namespace tembra {
 
-ShelfSession::ShelfSession(AppSettings &settings, const UserDefaults &defaults,
+namespace {
+
+const QString dismissedKey = QStringLiteral("dismissed");
+
+ScreenshotAutoCopy::Services autoCopyServices(const ShelfSessionServices &services) {
+    return {.pasteboard = services.pasteboard,
+            .queue = services.copyQueue,
+            .scheduler = services.scheduler,
+            .prepare = [&pictures = services.pictures](
+                           const QString &path) { return ScreenshotImageData::load(path, pictures); },
+            .isCapture = services.isCapture};
+}
+
+} // namespace
+
+ShelfSession::ShelfSession(AppSettings &settings, ShelfSessionServices services,
                            std::unique_ptr<FileWatcherService> fileWatcher)
-    : m_settings(settings), m_fileWatcher(std::move(fileWatcher)) {
-    const QStringList stamps = defaults.stringArray(QStringLiteral("dismissed")).value_or(QStringList());
+    : clipboard(services.files),
+      screenshotAutoCopy(autoCopyServices(services)),
+      m_settings(settings),
+      m_services(std::move(services)),
+      m_fileWatcher(std::move(fileWatcher)),
+      m_batches(m_services.scheduler, m_services.uptime) {
+    const QStringList stamps = m_services.defaults.stringArray(dismissedKey).value_or(QStringList());
     dismissed = QSet<QString>(stamps.cbegin(), stamps.cend());
     shelves.push_back(std::make_unique<FolderShelf>());
     folderShelf().url = settings.state().screenshotsFolder;
+    moveScreenshotToTrash = [this](const QString &path, const Trash::Guard &guard) {
+        return m_services.trash.moveToTrash(path, guard);
+    };
+    playScreenshotTrashSound = [this] { m_services.sounds.play(Sounds::Event::movedToTrash); };
+    playScreenshotRestoreSound = [this] { m_services.sounds.play(Sounds::Event::restored); };
     wire();
 }
 
-ShelfSession::~ShelfSession() = default;
+ShelfSession::~ShelfSession() {
+    m_autoCleanCancellation->cancel();
+}
 
 void ShelfSession::wire() {
     m_fileWatcher->dismissedStamps = [this] { return dismissed; };
@@ -23,9 +52,12 @@ void ShelfSession::wire() {
         folderChanged(shelf, flag, count);
     };
     m_fileWatcher->onNewFiles = [this](const std::vector<Shot> &shots) {
+        // Told newest first, copied in the order they were made.
+        screenshotAutoCopy.receive({shots.crbegin(), shots.crend()}, continuesScreenshotCopySeries());
         if (onNewFiles)
             onNewFiles(shots);
     };
+    clipboard.canReceive = [this] { return m_settings.state().fileTrayEnabled; };
 }
 
 void ShelfSession::folderChanged(FolderShelf &shelf, bool flag, int count) {
@@ -39,8 +71,34 @@ void ShelfSession::folderChanged(FolderShelf &shelf, bool flag, int count) {
             present.insert(shot.identity);
         selected.intersect(present);
     }
+    if (flag)
+        followPins(shelf);
     if (onFolderChange)
         onFolderChange(shelf, flag, count);
+}
+
+// A pinned screenshot that was renamed stays pinned under its new name.
+void ShelfSession::followPins(const FolderShelf &shelf) {
+    QHash<FileResource, QString> lost;
+    for (const PinnedScreenshot &pin : m_settings.pinnedScreenshots()) {
+        if (pin.resolved && pin.resolved->reference && !m_services.files.facts(pin.resolved->path))
+            lost.insert(*pin.resolved->reference, pin.resolved->path);
+    }
+    if (lost.isEmpty())
+        return;
+    for (const Shot &shot : shelf.shots) {
+        const auto file = shot.identity.resource();
+        if (!file || !lost.contains(*file))
+            continue;
+        if (const auto bound = m_settings.rebindScreenshotPin(lost.take(*file), shot.location); !bound)
+            qWarning("The pin of %s is lost: %s", qUtf8Printable(shot.location),
+                     qUtf8Printable(bound.error().message));
+    }
+}
+
+void ShelfSession::changed() {
+    if (onChange)
+        onChange();
 }
 
 void ShelfSession::refreshWatcher() {
@@ -55,10 +113,67 @@ void ShelfSession::refreshWatcher() {
     }
     if (folder)
         m_fileWatcher->start(folderShelf());
+    applySettings();
 }
 
 void ShelfSession::stopWatcher() {
     m_fileWatcher->stop();
+}
+
+void ShelfSession::applySettings() {
+    const AppSettingsState &state = m_settings.state();
+    screenshotAutoCopy.configure(state.automaticallyCopyScreenshots && isRunning, state.screenshotsFolder,
+                                 m_services.now());
+    if (state.screenshotAutoClean != m_scheduledAutoCleanPeriod ||
+        state.screenshotsFolder != m_scheduledAutoCleanFolder)
+        restartAutoClean();
+}
+
+void ShelfSession::copyScreenshots(const std::vector<Shot> &shots) {
+    if (shots.empty())
+        return;
+    std::vector<Pasteboard::Item> items;
+    for (const Shot &shot : shots)
+        items.push_back({.path = shot.location});
+    performInBackground(
+        m_services.copyQueue, m_services.scheduler, m_life.ticket(),
+        [&pictures = m_services.pictures, path = shots.back().location] {
+            return ScreenshotImageData::load(path, pictures);
+        },
+        [this, items = std::move(items)](const std::optional<ScreenshotImageData> &image) mutable {
+            if (image) {
+                items.back().type = image->type;
+                items.back().data = image->data;
+            }
+            const auto written = m_services.pasteboard.writeObjects(items);
+            if (!written && onError)
+                onError(QCoreApplication::translate("ShelfSession", "Couldn’t Copy Screenshots"),
+                        written.error().message);
+        });
+}
+
+void ShelfSession::runBatch(std::function<bool()> step, std::function<void()> done) {
+    m_fileWatcher->pause();
+    m_batches.start(std::move(step), [this, done = std::move(done)] {
+        done();
+        m_fileWatcher->resume();
+    });
+}
+
+bool ShelfSession::undo() {
+    if (m_batches.isRunning()) {
+        m_batches.start([] { return false; }, [this] { screenshotUndoManager.undo(); });
+        return true;
+    }
+    return screenshotUndoManager.undo();
+}
+
+bool ShelfSession::redo() {
+    if (m_batches.isRunning()) {
+        m_batches.start([] { return false; }, [this] { screenshotUndoManager.redo(); });
+        return true;
+    }
+    return screenshotUndoManager.redo();
 }
 
 } // namespace tembra

@@ -4,7 +4,8 @@
 
 namespace tembra::settingsKey {
 
-// The persisted keys. AppSettings is their only writer.
+// The persisted keys. AppSettings is their only writer, but for the review of auto-clean, whose state the
+// session keeps.
 inline const QString hasCompletedOnboarding = QStringLiteral("hasCompletedOnboarding");
 inline const QString hasCaughtFirstScreenshot = QStringLiteral("hasCaughtFirstScreenshot");
 inline const QString activationMode = QStringLiteral("activationMode");
@@ -22,8 +23,8 @@ inline const QString groupScreenshotsByDate = QStringLiteral("groupScreenshotsBy
 inline const QString screenshotAutoCleanDays = QStringLiteral("screenshotAutoCleanDays");
 inline const QString pinnedScreenshotBookmarks = QStringLiteral("pinnedScreenshotBookmarks");
 inline const QString autoCleanRestoredFiles = QStringLiteral("autoCleanRestoredFiles");
-// State of the review of an auto-clean that was on before the review existed: 0 still owed to the user, 2 not
-// needed.
+// The review of an auto-clean that was on before the review existed: 0 still owed to the user, 1 shown but
+// not answered, 2 not needed.
 inline const QString autoCleanSafetyReview = QStringLiteral("autoCleanSafetyReviewV1");
 inline const QString previousScreenshotThumbnailPreference =
     QStringLiteral("previousScreenshotThumbnailPreference");

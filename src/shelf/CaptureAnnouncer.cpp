@@ -16,14 +16,21 @@ constexpr auto folderDuration = 5s;
 
 CaptureAnnouncer::CaptureAnnouncer(Scheduler &scheduler) : m_lifetime(scheduler) {}
 
-void CaptureAnnouncer::announceCaptures(const std::vector<CaptureNews> &news) {
+void CaptureAnnouncer::announceCaptures(const std::vector<CaptureNews> &news, const QString &phrase) {
     if (news.empty() || !canShow())
         return;
-    const bool isSeries = m_showing && m_showing->captureCount > 0;
+    const bool isSeries = isSeriesOpen();
     // A folder notice that has to give way is shown again afterwards.
     if (m_showing && !isSeries)
         m_pendingFolderNotification = m_showing->text;
-    show(joined(isSeries ? *m_showing : CaptureNotification(), news), captureDuration);
+    show(joined(isSeries ? *m_showing : CaptureNotification(), news, phrase), captureDuration);
+}
+
+void CaptureAnnouncer::setCopyState(CaptureNotification::CopyState state) {
+    if (!isSeriesOpen())
+        return;
+    m_showing->copyState = state;
+    onShow(m_showing);
 }
 
 void CaptureAnnouncer::announceFolder(const QString &text) {

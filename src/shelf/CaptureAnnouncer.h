@@ -19,7 +19,9 @@ public:
     // Shows the notice, or with nothing takes away the one that shows.
     std::function<void(const std::optional<CaptureNotification> &)> onShow;
 
-    void announceCaptures(const std::vector<CaptureNews> &news);
+    void announceCaptures(const std::vector<CaptureNews> &news, const QString &phrase);
+    // What became of the copies of the captures that show.
+    void setCopyState(CaptureNotification::CopyState state);
     // A folder notice replaces one that still waits.
     void announceFolder(const QString &text);
     // What a waiting folder notice tells is no longer so.
@@ -29,6 +31,8 @@ public:
     // The shelf closed: a folder notice that waited is shown.
     void flushFolderNotification();
 
+    // Captures that arrive now join those that show.
+    [[nodiscard]] bool isSeriesOpen() const { return m_showing && m_showing->captureCount > 0; }
     [[nodiscard]] const std::optional<CaptureNotification> &showing() const { return m_showing; }
 
 private:

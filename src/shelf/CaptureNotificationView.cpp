@@ -35,7 +35,7 @@ void CaptureNotificationView::apply(const CaptureNotification &notification) {
         return;
     m_notification = notification;
     setAccessibleName(notification.text);
-    setAccessibleDescription(notification.detail);
+    setAccessibleDescription(notification.detail());
     std::erase_if(m_requests,
                   [&](const auto &entry) { return !notification.previews.contains(entry.first); });
     m_images.removeIf([&](const auto &entry) { return !notification.previews.contains(entry.key()); });
@@ -103,7 +103,8 @@ void CaptureNotificationView::paintOverflow(QPainter &painter) const {
 void CaptureNotificationView::paintText(QPainter &painter) const {
     const int left = m_notification.previews.isEmpty() ? textLeftWithoutPreviews : textLeft;
     const int width = this->width() - left - 20;
-    const bool hasDetail = !m_notification.detail.isEmpty();
+    const QString detail = m_notification.detail();
+    const bool hasDetail = !detail.isEmpty();
     painter.setFont(typography::font(typography::headlineSize, QFont::DemiBold));
     painter.setPen(palette::text);
     const QRect title = hasDetail ? QRect(left, 24, width, 20) : QRect(left, 0, width, height());
@@ -113,7 +114,8 @@ void CaptureNotificationView::paintText(QPainter &painter) const {
         return;
     painter.setFont(typography::font(typography::itemSize));
     painter.setPen(palette::secondaryText);
-    painter.drawText(QRect(left, 44, width, 18), Qt::AlignLeft | Qt::AlignVCenter, m_notification.detail);
+    painter.drawText(QRect(left, 44, width, 18), Qt::AlignLeft | Qt::AlignVCenter,
+                     painter.fontMetrics().elidedText(detail, Qt::ElideRight, width));
 }
 
 } // namespace tembra

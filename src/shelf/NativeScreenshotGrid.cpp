@@ -69,6 +69,10 @@ void NativeScreenshotGrid::clearSelection() {
     m_collectionView->clearSelection();
 }
 
+void NativeScreenshotGrid::select(const QSet<ScreenshotFileIdentity> &identities) {
+    m_collectionView->select(identities);
+}
+
 void NativeScreenshotGrid::revealSelection() {
     if (const auto index = m_collectionView->currentIndex())
         m_scrollView->reveal(m_collectionView->gridLayout().itemRectWithTitle(*index));

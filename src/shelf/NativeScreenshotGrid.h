@@ -28,6 +28,7 @@ public:
     [[nodiscard]] QStringList selectedPaths() const;
     void selectAll();
     void clearSelection();
+    void select(const QSet<ScreenshotFileIdentity> &identities);
     // Scrolls to where the keyboard is, else to the first selected shot.
     void revealSelection();
     void scrollToTop();

@@ -112,6 +112,10 @@ void ScreenshotCollectionView::clearSelection() {
     changed(m_selection.clear());
 }
 
+void ScreenshotCollectionView::select(const QSet<ScreenshotFileIdentity> &identities) {
+    changed(m_selection.select(identities));
+}
+
 void ScreenshotCollectionView::choose(int index, ScreenshotSelection::Mode mode) {
     changed(m_selection.choose(m_state, index, mode));
 }

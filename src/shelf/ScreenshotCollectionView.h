@@ -30,6 +30,7 @@ public:
     // Found by its name from the menu.
     Q_SLOT void selectAll();
     void clearSelection();
+    void select(const QSet<ScreenshotFileIdentity> &identities);
     [[nodiscard]] std::vector<Shot> selectedShots() const { return m_selection.shots(m_state); }
 
     [[nodiscard]] const ScreenshotGridState &state() const { return m_state; }

@@ -23,6 +23,7 @@ public:
     // Each tells whether the selection changed.
     bool choose(const ScreenshotGridState &state, int index, Mode mode);
     bool selectAll(const ScreenshotGridState &state);
+    bool select(const QSet<ScreenshotFileIdentity> &identities) { return assign(identities); }
     bool clear();
     // Drops what is not there any more.
     bool retain(const ScreenshotGridState &state);

@@ -41,15 +41,20 @@ void ShelfContent::apply(const State &state) {
                     .pinnedPaths = state.pinnedPaths,
                     .showFileNames = state.showsFileNames,
                     .grouped = state.isGrouped});
+    m_grid->select(state.selection);
 }
 
 QStringList ShelfContent::selectedPaths() const {
     return m_grid->selectedPaths();
 }
 
+std::vector<Shot> ShelfContent::selectedShots() const {
+    return m_grid->selectedShots();
+}
+
 QSet<ScreenshotFileIdentity> ShelfContent::selection() const {
     QSet<ScreenshotFileIdentity> identities;
-    for (const Shot &shot : m_grid->selectedShots())
+    for (const Shot &shot : selectedShots())
         identities.insert(shot.identity);
     return identities;
 }

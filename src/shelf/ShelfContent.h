@@ -35,6 +35,7 @@ public:
         std::optional<ScreenshotMessage> message;
         std::vector<ScreenshotSection> sections;
         QSet<QString> pinnedPaths;
+        QSet<ScreenshotFileIdentity> selection;
         bool isGrouped = false;
         bool showsFileNames = true;
         // Shown in place of everything else.
@@ -47,6 +48,7 @@ public:
     void apply(const State &state);
     [[nodiscard]] const State &state() const { return m_state; }
     [[nodiscard]] QStringList selectedPaths() const;
+    [[nodiscard]] std::vector<Shot> selectedShots() const;
     [[nodiscard]] QSet<ScreenshotFileIdentity> selection() const;
 
 Q_SIGNALS:

@@ -1,18 +1,19 @@
 #include "shelf/ShelfController.h"
 
 #include "base/MainThread.h"
-#include "screenshots/CaptureMedia.h"
 #include "screenshots/ScreenshotLocationMonitor.h"
 #include "screenshots/ScreenshotTimeline.h"
 #include "session/ShelfSession.h"
 #include "settings/AppSettings.h"
 #include "shelf/FolderChooser.h"
+#include "shelf/SafetyReviewDialog.h"
 #include "shelf/ScreenshotFolderMessage.h"
 #include "shelf/ShelfContent.h"
 #include "shelf/ShelfSurfaces.h"
 #include "shelf/ShelfTabs.h"
 
 #include <QDateTime>
+#include <QRandomGenerator>
 #include <QTimeZone>
 
 #include <algorithm>
@@ -24,7 +25,6 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr QSize panelSize{744, 256};
-constexpr QSize notificationSize{360, 84};
 
 // Screens come and go in bursts while a desktop rearranges itself.
 constexpr auto displaySettling = 200ms;
@@ -34,10 +34,6 @@ const std::vector<ShelfTab> builtTabs{ShelfTab::screenshots};
 
 bool isShown(const std::vector<ShelfTab> &tabs, ShelfTab tab) {
     return std::ranges::find(tabs, tab) != tabs.end();
-}
-
-bool isRecording(const Shot &shot) {
-    return !CaptureMedia::isImageExtension(CaptureMedia::extension(shot.location));
 }
 
 } // namespace
@@ -51,8 +47,12 @@ ShelfController::ShelfController(AppSettings &settings, std::unique_ptr<ShelfSes
       m_locationMonitor(std::move(locationMonitor)),
       m_hover(services.scheduler, services.uptime, services.inputMonitor),
       m_tabHover(services.scheduler),
-      m_announcer(services.scheduler) {
+      m_announcer(services.scheduler),
+      m_screenshotFeedback(
+          [](QStringList &phrases) { std::ranges::shuffle(phrases, *QRandomGenerator::global()); }),
+      m_screenshotAutoOpen(services.isCapture) {
     askForFolder = askForScreenshotsFolder;
+    askForSafetyReview = showSafetyReview;
     onError = [](const QString &title, const QString &message) {
         qWarning("%s: %s", qUtf8Printable(title), qUtf8Printable(message));
     };
@@ -73,6 +73,7 @@ void ShelfController::start() {
     startObserving();
     reconcileDisplayWindows();
     refreshWatchers();
+    m_session->restartAutoClean();
     m_hover.start();
     m_locationMonitor->start();
     scheduleTimelineRefresh();
@@ -95,6 +96,7 @@ void ShelfController::stop() {
         return;
     m_started = false;
     m_session->isRunning = false;
+    m_session->cancelAutoClean();
     disconnect(&m_settings, nullptr, this, nullptr);
     m_displayReconcileWork.cancel();
     m_timelineRefreshWork.cancel();
@@ -138,6 +140,7 @@ void ShelfController::connectHover() {
             setExpanded(true);
     };
     m_surfaces->onEscape = [this] { collapse(); };
+    m_surfaces->onKey = [this](const QKeyEvent &event) { return handleShelfKey(event); };
 }
 
 void ShelfController::connectAnnouncer() {
@@ -148,6 +151,16 @@ void ShelfController::connectAnnouncer() {
 void ShelfController::connectSession() {
     m_session->onFolderChange = [this](FolderShelf &shelf, bool, int) { receiveFolderChange(shelf); };
     m_session->onNewFiles = [this](const std::vector<Shot> &shots) { receiveNewFiles(shots); };
+    m_session->onChange = [this] { render(); };
+    m_session->onError = [this](const QString &title, const QString &message) { onError(title, message); };
+    m_session->isBusy = [this](bool) { return m_expanded || m_choosingFolder; };
+    m_session->continuesScreenshotCopySeries = [this] { return m_announcer.isSeriesOpen(); };
+    m_session->screenshotAutoCopy.onFinished = [this](ScreenshotAutoCopy::Outcome outcome) {
+        copyFinished(outcome);
+    };
+    m_session->onSafetyReview = [this](int count, ScreenshotAutoCleanPeriod period, auto decide) {
+        askForSafetyReview(count, period, std::move(decide));
+    };
 }
 
 void ShelfController::setExpanded(bool expanded) {
@@ -169,6 +182,7 @@ void ShelfController::showExpanded() {
     m_locationMonitor->check();
     render();
     m_surfaces->present(ShelfPresentation::expanded(QSize(panelSize.width(), targetPanelHeight())));
+    m_session->screenshotAutoCopy.writePostponed();
 }
 
 // A display that has just come may not have its window yet.
@@ -193,6 +207,7 @@ void ShelfController::openManually() {
     m_hover.openManually();
     if (m_expanded)
         m_surfaces->active()->takeKeyboardFocus();
+    m_session->screenshotAutoCopy.writePostponed();
 }
 
 void ShelfController::toggleFromShortcut() {
@@ -231,6 +246,8 @@ void ShelfController::applySettings(const AppSettingsState &state) {
         rereadDestination();
         refreshWatchers();
     }
+    m_session->applySettings();
+    m_screenshotAutoOpen.configure(state.automaticallyOpenEditor, state.screenshotsFolder, m_services.now());
     if (!isShown(tabs(), m_activeTab))
         m_activeTab = ShelfTab::screenshots;
     reconcileDisplayWindows();
@@ -239,6 +256,8 @@ void ShelfController::applySettings(const AppSettingsState &state) {
 
 void ShelfController::refreshWatchers() {
     m_session->refreshWatcher();
+    const AppSettingsState &state = m_settings.state();
+    m_screenshotAutoOpen.configure(state.automaticallyOpenEditor, state.screenshotsFolder, m_services.now());
 }
 
 // Nothing is drawn for a shelf that nobody sees: opening renders it.
@@ -252,36 +271,11 @@ void ShelfController::render() {
         state.pinnedPaths = m_settings.pinnedScreenshotPaths();
         state.sections = ScreenshotTimeline::sections(m_session->folderShelf().shots, state.pinnedPaths,
                                                       m_services.now(), QTimeZone::systemTimeZone());
+        state.selection = m_session->selected;
     }
     state.isGrouped = settings.groupScreenshotsByDate;
     state.showsFileNames = settings.showFileNames;
     content().apply(state);
-}
-
-void ShelfController::receiveNewFiles(const std::vector<Shot> &shots) {
-    if (shots.empty())
-        return;
-    m_lastCapture = ShelfStatus::Capture{shots.front().location, shots.front().createdAt};
-    const bool isFirst = !m_settings.state().hasCaughtFirstScreenshot;
-    m_settings.markFirstScreenshotCaught();
-    if (!m_settings.state().screenshotNotifications)
-        return;
-    std::vector<CaptureNews> news;
-    for (const Shot &shot : shots)
-        news.push_back({.path = shot.location, .isRecording = isRecording(shot), .isFirst = isFirst});
-    m_announcer.announceCaptures(news);
-}
-
-void ShelfController::showNotification(const std::optional<CaptureNotification> &notification) {
-    if (!notification) {
-        if (!m_expanded)
-            m_surfaces->present(ShelfPresentation::collapsed());
-        return;
-    }
-    if (!activateSurface())
-        return;
-    content().apply({.notification = notification});
-    m_surfaces->present(ShelfPresentation::notification(notificationSize));
 }
 
 HoverSnapshot ShelfController::hoverSnapshot() const {
@@ -383,9 +377,16 @@ ShelfStatus ShelfController::status() const {
     if (const auto &showing = m_announcer.showing()) {
         status.showingNotification = true;
         status.notificationText = showing->text;
+        status.notificationDetail = showing->detail();
         status.notificationCount = showing->captureCount;
     }
     status.lastCapture = m_lastCapture;
+    status.autoCleanDays = static_cast<int>(m_settings.state().screenshotAutoClean);
+    status.autoCleanReview = static_cast<int>(m_session->autoCleanReview());
+    status.nextAutoCleanCheck = m_session->timeToAutoCleanCheck();
+    status.undo = m_session->screenshotUndoManager.undoNames();
+    status.redo = m_session->screenshotUndoManager.redoNames();
+    status.trayCount = static_cast<int>(m_session->clipboard.entries().size());
     return status;
 }
 

@@ -2,11 +2,16 @@
 
 #include "base/Generation.h"
 #include "base/Result.h"
+#include "screenshots/ScreenshotAutoCopy.h"
+#include "screenshots/ScreenshotAutoOpen.h"
 #include "screenshots/ScreenshotDestination.h"
+#include "screenshots/ScreenshotFeedback.h"
 #include "screenshots/Shot.h"
+#include "settings/ScreenshotAutoCleanPeriod.h"
 #include "shelf/CaptureAnnouncer.h"
 #include "shelf/HoverController.h"
 #include "shelf/ScreenshotFolderState.h"
+#include "shelf/ShelfCommand.h"
 #include "shelf/ShelfServices.h"
 #include "shelf/ShelfStatus.h"
 #include "shelf/ShelfTab.h"
@@ -46,6 +51,11 @@ public:
     std::function<std::optional<QString>(const QString &suggested)> askForFolder;
     // Shows a failure as title and message. Replaceable.
     std::function<void(const QString &title, const QString &message)> onError;
+    // Asks whether auto-clean, which would move that many files, is to stay on. Replaceable.
+    std::function<void(int count, ScreenshotAutoCleanPeriod, std::function<void(bool keeps)> decide)>
+        askForSafetyReview;
+    // New captures that are to open in the editor by themselves.
+    std::function<void(const std::vector<Shot> &)> onOpenInEditor;
     // Where the screenshot tool saves was read.
     std::function<void(const ScreenshotDestination &)> onDestinationRead;
 
@@ -66,6 +76,16 @@ public:
     // since the folder came from there.
     Result<void> acceptScreenshotFolder(const QString &folder, bool adopting);
     [[nodiscard]] QString suggestedScreenshotFolder() const;
+
+    // On the selected screenshots.
+    void copySelectedScreenshots();
+    void toggleSelectedScreenshotPins();
+    void revealSelectedScreenshots();
+    // Those that are not pinned.
+    void trashSelected();
+    // The last removal or restore.
+    void undo();
+    void redo();
 
     [[nodiscard]] bool isExpanded() const { return m_expanded; }
     [[nodiscard]] ShelfStatus status() const;
@@ -89,6 +109,11 @@ private:
     void receiveDestination(const ScreenshotDestination &destination);
     [[nodiscard]] ScreenshotFolderFacts folderFacts() const;
     void receiveNewFiles(const std::vector<Shot> &shots);
+    void announce(const std::vector<Shot> &shots, bool isFirst);
+    void copyFinished(ScreenshotAutoCopy::Outcome outcome);
+    bool handleShelfKey(const QKeyEvent &event);
+    void perform(ShelfCommand command);
+    [[nodiscard]] std::vector<Shot> removableSelectedShots() const;
     void showNotification(const std::optional<CaptureNotification> &notification);
     bool activateSurface();
     void showExpanded();
@@ -112,6 +137,8 @@ private:
     HoverController m_hover;
     TabHover m_tabHover;
     CaptureAnnouncer m_announcer;
+    ScreenshotFeedback m_screenshotFeedback;
+    ScreenshotAutoOpen m_screenshotAutoOpen;
 
     bool m_started = false;
     bool m_expanded = false;

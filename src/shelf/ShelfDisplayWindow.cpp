@@ -60,6 +60,7 @@ void ShelfDisplayWindow::makePanel() {
     m_panel = std::make_unique<ShelfPanel>();
     m_panel->onPress = [this] { takeKeyboardFocus(); };
     m_panel->onEscape = [this] { onEscape(); };
+    m_panel->onKey = [this](const QKeyEvent &event) { return onKey(event); };
     m_root = new ShelfView(m_panel.get());
     m_root->onPointerActivity = [this] { onPointerActivity(); };
     m_viewport = new QWidget(m_root);

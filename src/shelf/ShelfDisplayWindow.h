@@ -11,6 +11,7 @@
 #include <memory>
 
 QT_BEGIN_NAMESPACE
+class QKeyEvent;
 class QWidget;
 QT_END_NAMESPACE
 
@@ -32,6 +33,7 @@ public:
     std::function<void()> onPointerActivity;
     std::function<void()> onActivationPressed;
     std::function<void()> onEscape;
+    std::function<bool(const QKeyEvent &)> onKey;
 
     void setDisplay(const ShelfDisplay &display);
     [[nodiscard]] const ShelfDisplay &display() const { return m_display; }

@@ -19,6 +19,8 @@ void ShelfPanel::showEvent(QShowEvent *) {
 bool ShelfPanel::eventFilter(QObject *watched, QEvent *event) {
     if (event->type() == QEvent::MouseButtonPress && onPress)
         onPress();
+    if (event->type() == QEvent::KeyPress && onKey && onKey(*static_cast<QKeyEvent *>(event)))
+        return true;
     return QWidget::eventFilter(watched, event);
 }
 

@@ -16,6 +16,8 @@ public:
     // A mouse button went down somewhere in the panel.
     std::function<void()> onPress;
     std::function<void()> onEscape;
+    // A key, before the view with the focus sees it; whether it is handled.
+    std::function<bool(const QKeyEvent &)> onKey;
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -10,6 +10,8 @@
 #include "platform/Thumbnails.h"
 #include "platform/Workspace.h"
 
+#include <functional>
+
 namespace tembra {
 
 // What the shelf takes from the platform; everything outlives it.
@@ -24,6 +26,8 @@ struct ShelfServices {
     HotZones &hotZones;
     Thumbnails &thumbnails;
     const FileFactsReader &files;
+    // Whether a file is a capture.
+    std::function<bool(const QString &path)> isCapture;
 };
 
 } // namespace tembra

@@ -40,9 +40,20 @@ struct ShelfStatus {
 
     bool showingNotification = false;
     QString notificationText;
+    // The line below the text.
+    QString notificationDetail;
     int notificationCount = 0;
 
     std::optional<Capture> lastCapture;
+
+    int trayCount = 0;
+    // 0 is never.
+    int autoCleanDays = 0;
+    int autoCleanReview = 0;
+    std::optional<std::chrono::nanoseconds> nextAutoCleanCheck;
+    // Names of what can be undone and redone, newest first.
+    QStringList undo;
+    QStringList redo;
 };
 
 } // namespace tembra

@@ -52,6 +52,7 @@ void ShelfSurfaces::add(const ShelfDisplay &display) {
     window->onPointerActivity = [this] { onPointerActivity(); };
     window->onActivationPressed = [this] { onActivationPressed(); };
     window->onEscape = [this] { onEscape(); };
+    window->onKey = [this](const QKeyEvent &event) { return onKey(event); };
     m_windows.emplace(display.identifier, std::move(window));
 }
 

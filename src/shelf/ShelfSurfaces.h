@@ -29,6 +29,7 @@ public:
     std::function<void()> onPointerActivity;
     std::function<void()> onActivationPressed;
     std::function<void()> onEscape;
+    std::function<bool(const QKeyEvent &)> onKey;
 
     // Brings the windows in step with the displays. When the active one's display has gone, what it presents
     // goes to a remaining one.

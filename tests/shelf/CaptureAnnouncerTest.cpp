@@ -16,7 +16,9 @@ protected:
         };
     }
 
-    void capture(const char *path) { announcer.announceCaptures({{.path = QString::fromLatin1(path)}}); }
+    void capture(const char *path) {
+        announcer.announceCaptures({{.path = QString::fromLatin1(path)}}, QStringLiteral("Got it"));
+    }
     [[nodiscard]] QString text() const { return shown ? shown->text : QString(); }
 
     ManualScheduler scheduler;
@@ -43,7 +45,7 @@ TEST_F(CaptureAnnouncerTest, aFolderNoticeWaitsForItsTurn) {
     capture("/a.png");
     announcer.announceFolder(QStringLiteral("one"));
     announcer.announceFolder(QStringLiteral("two"));
-    EXPECT_EQ(text(), QStringLiteral("Screenshot saved"));
+    EXPECT_EQ(text(), QStringLiteral("Got it"));
     scheduler.advance(3s);
     EXPECT_EQ(text(), QStringLiteral("two"));
     capture("/b.png");

@@ -119,11 +119,10 @@ TEST_F(ContentTest, aNotificationTakesThePlaceOfEverythingAndGivesItBack) {
     content.apply(state);
     EXPECT_TRUE(showsGrid());
     content.findChild<NativeScreenshotGrid *>()->selectAll();
+    state.selection = content.selection();
 
-    state.notification = CaptureNotification{.text = u"Screenshot saved"_s,
-                                             .detail = u"2 captures"_s,
-                                             .previews = {u"/a"_s, u"/b"_s},
-                                             .captureCount = 2};
+    state.notification =
+        CaptureNotification{.text = u"Screenshot saved"_s, .previews = {u"/a"_s, u"/b"_s}, .captureCount = 2};
     content.apply(state);
     EXPECT_EQ(shown<CaptureNotificationView>(), QStringList{u"Screenshot saved"_s});
     EXPECT_FALSE(showsGrid());
@@ -142,10 +141,7 @@ protected:
     NotificationViewTest() { view.resize(360, 84); }
 
     void show(const QStringList &previews, int count) {
-        view.apply({.text = u"Screenshot saved"_s,
-                    .detail = count > 1 ? u"%1 captures"_s.arg(count) : QString(),
-                    .previews = previews,
-                    .captureCount = count});
+        view.apply({.text = u"Screenshot saved"_s, .previews = previews, .captureCount = count});
     }
     [[nodiscard]] QImage look() { return view.grab().toImage(); }
 
@@ -157,11 +153,11 @@ TEST_F(NotificationViewTest, countsWhatIsNotSeen) {
     const QStringList three{u"/a"_s, u"/b"_s, u"/c"_s};
     show(three, 3);
     EXPECT_EQ(pixelsOf(look(), palette::accent), 0);
-    EXPECT_EQ(view.accessibleDescription(), u"3 captures"_s);
+    EXPECT_EQ(view.accessibleDescription(), u"3 screenshots"_s);
     show(three, 5);
     const int small = pixelsOf(look(), palette::accent);
     EXPECT_GT(small, 50);
-    EXPECT_EQ(view.accessibleDescription(), u"5 captures"_s);
+    EXPECT_EQ(view.accessibleDescription(), u"5 screenshots"_s);
     show(three, 5000);
     EXPECT_GT(pixelsOf(look(), palette::accent), small) << "the count has room";
 }

@@ -63,17 +63,24 @@ TEST(FolderNotification, announcesOnlyTurnsForTheWorseAndTheRecovery) {
 
 TEST(CaptureNotification, capturesThatArriveWhileItShowsJoinIt) {
     const auto path = [](int i) { return QStringLiteral("/s/%1.png").arg(i); };
-    CaptureNotification showing = joined({}, {{.path = path(1), .isFirst = true}});
+    const QString phrase = QStringLiteral("Got that");
+    CaptureNotification showing = joined({}, {{.path = path(1), .isFirst = true}}, phrase);
     EXPECT_EQ(showing.text, QStringLiteral("Got it! First one caught"));
-    EXPECT_EQ(showing.detail, QString());
+    EXPECT_EQ(showing.detail(), QStringLiteral("Screenshot saved"));
+    showing.copyState = CaptureNotification::CopyState::copied;
+    EXPECT_EQ(showing.detail(), QStringLiteral("Screenshot saved · copied"));
 
-    showing = joined(showing, {{.path = path(3)}, {.path = path(2)}});
-    EXPECT_EQ(showing.text, QStringLiteral("Screenshot saved"));
+    showing = joined(showing, {{.path = path(3)}, {.path = path(2)}}, phrase);
+    EXPECT_EQ(showing.text, phrase);
+    EXPECT_EQ(showing.detail(), QStringLiteral("3 screenshots")) << "not all of them are copied yet";
+    showing.copyState = CaptureNotification::CopyState::postponed;
+    EXPECT_EQ(showing.detail(), QStringLiteral("Copies when you open the shelf"));
     EXPECT_EQ(showing.previews, (QStringList{path(3), path(2), path(1)}));
     EXPECT_EQ(showing.overflow(), 0);
 
-    showing = joined(showing, {{.path = path(4), .isRecording = true}});
+    showing = joined(showing, {{.path = path(4), .isRecording = true}}, phrase);
     EXPECT_EQ(showing.text, QStringLiteral("Got the recording"));
+    EXPECT_EQ(showing.detail(), QStringLiteral("4 captures"));
     EXPECT_EQ(showing.previews, (QStringList{path(4), path(3), path(2)}));
     EXPECT_EQ(showing.overflow(), 1);
 }

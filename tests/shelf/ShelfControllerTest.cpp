@@ -1,8 +1,6 @@
 #include "shelf/ShelfController.h"
 
 #include "platform/linux/LinuxBookmarks.h"
-#include "platform/linux/LinuxCaptureMarkers.h"
-#include "platform/linux/LinuxFolderFiles.h"
 #include "screenshots/FileWatcherService.h"
 #include "screenshots/FolderReader.h"
 #include "screenshots/ScreenshotLocationMonitor.h"
@@ -13,10 +11,8 @@
 #include "support/FakeInputMonitor.h"
 #include "support/FakeWorkspace.h"
 #include "support/Files.h"
-#include "support/ManualQueue.h"
-#include "support/ManualScheduler.h"
-#include "support/MemoryUserDefaults.h"
 #include "support/Pictures.h"
+#include "support/SessionServices.h"
 
 #include <QApplication>
 #include <QDir>
@@ -64,12 +60,17 @@ protected:
 
     void start(AppSettings &appSettings) {
         controller = std::make_unique<ShelfController>(
-            appSettings, std::make_unique<ShelfSession>(appSettings, defaults, makeWatcher()),
+            appSettings, std::make_unique<ShelfSession>(appSettings, parts.services(), makeWatcher()),
             std::make_unique<ScreenshotLocationMonitor>([this] { return destination; }, queue, scheduler,
                                                         workspace),
             ShelfServices{scheduler, scheduler.uptimeClock(), clock, displays, workspace, input, panelWindows,
-                          hotZones, thumbnails, files});
+                          hotZones, thumbnails, files,
+                          [this](const QString &path) { return detector.isCapture(path); }});
         controller->onError = [this](const QString &title, const QString &) { errors += title; };
+        controller->askForSafetyReview = [this](int count, ScreenshotAutoCleanPeriod, auto answer) {
+            reviewedCount = count;
+            decide = std::move(answer);
+        };
         controller->start();
         settle();
     }
@@ -93,7 +94,7 @@ protected:
         return std::make_unique<FileWatcherService>(
             FileWatcherService::Services{events, scheduler, scheduler.uptimeClock(), clock, queue, detector,
                                          [](const QString &) { return true; }},
-            std::make_shared<FolderReader>(folderFiles, detector, [] { return QString(); }));
+            std::make_shared<FolderReader>(parts.folderFiles, detector, [] { return QString(); }));
     }
 
     // Lets what is scheduled soon and what is queued happen.
@@ -101,6 +102,8 @@ protected:
         for (int turn = 0; turn < 3; ++turn) {
             scheduler.advance(100ms);
             queue.runAll();
+            parts.copyQueue.runAll();
+            parts.autoCleanQueue.runAll();
             scheduler.settle();
         }
     }
@@ -121,14 +124,14 @@ protected:
     QTemporaryDir root;
     QString folder = root.filePath(QStringLiteral("Screenshots"));
     StandardFolders folders{.trash = {root.filePath(QStringLiteral("Trash"))}};
-    LinuxFileFactsReader files;
-    LinuxFolderFiles folderFiles{files};
+    SessionServices parts;
+    const LinuxFileFactsReader &files = parts.files;
+    const ScreenshotCaptureDetector &detector = parts.detector;
+    ManualScheduler &scheduler = parts.scheduler;
+    const WallClock &clock = parts.now;
+    MemoryUserDefaults &defaults = parts.defaults;
     LinuxBookmarks bookmarks{files, folders};
-    LinuxCaptureMarkers markers;
-    ScreenshotCaptureDetector detector{markers, folderFiles};
-    ManualScheduler scheduler;
     ManualQueue queue;
-    WallClock clock = scheduler.wallClock(systemNow());
     FakeFolderEvents events;
     FakeWorkspace workspace;
     FakeInputMonitor input;
@@ -136,12 +139,13 @@ protected:
     FakePanelWindows panelWindows;
     FakeHotZones hotZones;
     NoThumbnails thumbnails;
-    MemoryUserDefaults defaults;
     AppSettings settings{defaults, FolderPreferences(), ScreenshotFolderAccess(bookmarks, files, folders),
                          functions()};
     ScreenshotDestination destination;
     Result<void> systemRefusal;
     QStringList errors;
+    int reviewedCount = 0;
+    std::function<void(bool)> decide;
     std::unique_ptr<ShelfController> controller;
 };
 
@@ -156,7 +160,7 @@ TEST_F(ShelfControllerTest, aNewCaptureIsAnnouncedAndStandsUnderToday) {
     EXPECT_FALSE(status().showingNotification);
 
     capture(QStringLiteral("Screenshot from 2026-11-21 10-15-23.png"));
-    EXPECT_EQ(status().notificationText, QStringLiteral("Screenshot saved"));
+    EXPECT_EQ(status().notificationDetail, QStringLiteral("Screenshot saved · copied"));
     ASSERT_EQ(status().sections.size(), 1U);
     EXPECT_EQ(status().sections[0].title, QStringLiteral("Today"));
     EXPECT_EQ(status().sections[0].count, 2);

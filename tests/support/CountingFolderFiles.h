@@ -13,7 +13,7 @@ public:
         ++m_opened;
         return m_files.open(path);
     }
-    [[nodiscard]] Result<void> list(const QString &folder, bool subfolders,
+    [[nodiscard]] Result<void> list(const QString &folder, Subfolders subfolders,
                                     const Visit &visit) const override {
         return m_files.list(folder, subfolders,
                             [&](const Listed &file) { return visit(CountedFile(file, m_opened)); });

@@ -40,6 +40,11 @@ private:
     const LinuxFileFactsReader &m_reader;
 };
 
+std::uint64_t mountOf(int folder) {
+    struct statx facts {};
+    return ::statx(folder, "", AT_EMPTY_PATH, STATX_MNT_ID, &facts) == 0 ? facts.stx_mnt_id : 0;
+}
+
 FileVersion fileVersion(const struct statx &facts) {
     return {facts.stx_ino, facts.stx_size, modificationTime(facts), changeTime(facts)};
 }
@@ -49,29 +54,33 @@ FileVersion fileVersion(const struct statx &facts) {
 FolderWalk::FolderWalk(const LinuxFileFactsReader &reader, const FolderFiles::Visit &visit)
     : m_reader(reader), m_visit(visit) {}
 
-Result<void> FolderWalk::run(const QString &folder, bool subfolders) {
+Result<void> FolderWalk::run(const QString &folder, FolderFiles::Subfolders subfolders) {
+    m_subfolders = subfolders;
     const int descriptor = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    const int code = descriptor < 0 ? errno : walk(descriptor, {}, subfolders);
+    const int code = descriptor < 0 ? errno : walk(descriptor, {});
     if (code != 0)
         return failure(posixError(code));
     return {};
 }
 
-int FolderWalk::walk(int folder, const std::string &prefix, bool subfolders) {
+int FolderWalk::walk(int folder, const std::string &prefix) {
     DIR *entries = ::fdopendir(folder);
     if (!entries) {
         const int code = errno;
         ::close(folder);
         return code;
     }
+    if (m_depth == 0)
+        m_mount = mountOf(folder);
     ++m_depth;
     errno = 0;
     const dirent *entry = nullptr;
     while (m_goesOn && (entry = ::readdir(entries))) {
         const bool mayCount =
-            entry->d_type == DT_REG || entry->d_type == DT_UNKNOWN || (entry->d_type == DT_DIR && subfolders);
+            entry->d_type == DT_REG || entry->d_type == DT_UNKNOWN ||
+            (entry->d_type == DT_DIR && m_subfolders != FolderFiles::Subfolders::passedOver);
         if (mayCount && entry->d_name[0] != '.')
-            meet(folder, entry->d_name, prefix, subfolders);
+            meet(folder, entry->d_name, prefix);
         errno = 0;
     }
     const int code = errno;
@@ -80,20 +89,26 @@ int FolderWalk::walk(int folder, const std::string &prefix, bool subfolders) {
     return code;
 }
 
-void FolderWalk::meet(int folder, const char *name, const std::string &prefix, bool subfolders) {
+void FolderWalk::meet(int folder, const char *name, const std::string &prefix) {
     struct statx facts {};
-    constexpr unsigned wanted = STATX_TYPE | STATX_INO | STATX_SIZE | STATX_MTIME | STATX_CTIME;
+    constexpr unsigned wanted =
+        STATX_TYPE | STATX_INO | STATX_SIZE | STATX_MTIME | STATX_CTIME | STATX_MNT_ID;
     if (::statx(folder, name, AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT, wanted, &facts) != 0)
         return;
     if (S_ISREG(facts.stx_mode)) {
         const FileVersion version = fileVersion(facts);
         const std::string relativePath = prefix + name;
         m_goesOn = m_visit(ListedFile(folder, name, relativePath, version, m_reader));
-    } else if (S_ISDIR(facts.stx_mode) && subfolders && m_depth < deepest) {
+    } else if (S_ISDIR(facts.stx_mode) && isEntered(facts.stx_mnt_id) && m_depth < deepest) {
         const int below = ::openat(folder, name, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
         if (below >= 0)
-            walk(below, prefix + name + '/', subfolders);
+            walk(below, prefix + name + '/');
     }
+}
+
+bool FolderWalk::isEntered(std::uint64_t mount) const {
+    return m_subfolders == FolderFiles::Subfolders::entered ||
+           (m_subfolders == FolderFiles::Subfolders::onSameMount && mount == m_mount);
 }
 
 } // namespace tembra

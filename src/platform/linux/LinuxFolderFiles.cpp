@@ -13,7 +13,7 @@ Result<std::unique_ptr<OpenFile>> LinuxFolderFiles::open(const QString &path) co
     return LinuxOpenFile::open(AT_FDCWD, QFile::encodeName(path).constData(), m_reader);
 }
 
-Result<void> LinuxFolderFiles::list(const QString &folder, bool subfolders, const Visit &visit) const {
+Result<void> LinuxFolderFiles::list(const QString &folder, Subfolders subfolders, const Visit &visit) const {
     return FolderWalk(m_reader, visit).run(folder, subfolders);
 }
 

@@ -12,7 +12,7 @@ public:
     explicit LinuxFolderFiles(const LinuxFileFactsReader &reader) : m_reader(reader) {}
 
     [[nodiscard]] Result<std::unique_ptr<OpenFile>> open(const QString &path) const override;
-    [[nodiscard]] Result<void> list(const QString &folder, bool subfolders,
+    [[nodiscard]] Result<void> list(const QString &folder, Subfolders subfolders,
                                     const Visit &visit) const override;
 
 private:

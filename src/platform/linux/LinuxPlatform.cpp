@@ -8,6 +8,7 @@
 #include "platform/linux/LinuxFileFacts.h"
 #include "platform/linux/LinuxFileReferences.h"
 #include "platform/linux/LinuxFolderFiles.h"
+#include "platform/linux/LinuxPictureDecoder.h"
 #include "platform/linux/LinuxStandardFolders.h"
 #include "platform/linux/LinuxTrash.h"
 #include "platform/linux/desktop/DesktopServices.h"
@@ -30,6 +31,7 @@ Platform makeHeadlessPlatform(Scheduler &scheduler) {
     platform.folderEvents = std::make_unique<InotifyFolderEvents>(*facts, scheduler);
     platform.captureMarkers = std::make_unique<LinuxCaptureMarkers>();
     platform.trash = std::make_unique<LinuxTrash>(*facts, platform.folders.trash.first());
+    platform.pictureDecoder = std::make_unique<LinuxPictureDecoder>();
     platform.fileFacts = std::move(facts);
     return platform;
 }
@@ -42,6 +44,7 @@ Platform makePlatform(Scheduler &scheduler) {
     platform.inputMonitor = std::move(desktop.inputMonitor);
     platform.panelWindows = std::move(desktop.panelWindows);
     platform.hotZones = std::move(desktop.hotZones);
+    platform.pasteboard = std::move(desktop.pasteboard);
     platform.sounds = std::move(desktop.sounds);
     platform.thumbnails =
         std::make_unique<FreedesktopThumbnails>(scheduler, FreedesktopThumbnails::userLocations());

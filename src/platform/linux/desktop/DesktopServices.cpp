@@ -6,11 +6,25 @@
 #include "platform/linux/desktop/QtHotZones.h"
 #include "platform/linux/desktop/QtInputMonitor.h"
 #include "platform/linux/desktop/QtPanelWindows.h"
+#include "platform/linux/desktop/QtPasteboard.h"
+#include "platform/linux/desktop/WaylandDataControlPasteboard.h"
 #include "platform/linux/desktop/X11HotZones.h"
 #include "platform/linux/desktop/X11InputMonitor.h"
 #include "platform/linux/desktop/X11PanelWindows.h"
 
 namespace tembra {
+
+namespace {
+
+// Where a Wayland compositor lets us own its clipboard we do so also from the X server that it runs.
+std::unique_ptr<Pasteboard> makePasteboard(Scheduler &scheduler,
+                                           const std::shared_ptr<X11Connection> &connection) {
+    if (auto compositors = WaylandDataControlPasteboard::open(scheduler))
+        return compositors;
+    return std::make_unique<QtPasteboard>(connection);
+}
+
+} // namespace
 
 DesktopServices makeDesktopServices(Scheduler &scheduler, std::optional<CameraHousing> camera) {
     const std::shared_ptr<X11Connection> connection = X11Connection::open();
@@ -18,6 +32,7 @@ DesktopServices makeDesktopServices(Scheduler &scheduler, std::optional<CameraHo
     services.displays = std::make_unique<QtDisplays>(scheduler, std::move(camera));
     services.workspace = std::make_unique<LinuxWorkspace>(connection);
     services.sounds = std::make_unique<CanberraSounds>(EventSoundSetting::ofDesktop(connection));
+    services.pasteboard = makePasteboard(scheduler, connection);
     if (!connection) {
         services.inputMonitor = std::make_unique<QtInputMonitor>(scheduler);
         services.panelWindows = std::make_unique<QtPanelWindows>();

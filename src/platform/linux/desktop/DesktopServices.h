@@ -5,6 +5,7 @@
 #include "platform/HotZones.h"
 #include "platform/InputMonitor.h"
 #include "platform/PanelWindows.h"
+#include "platform/Pasteboard.h"
 #include "platform/Sounds.h"
 #include "platform/Workspace.h"
 #include "platform/linux/desktop/CameraHousing.h"
@@ -22,6 +23,7 @@ struct DesktopServices {
     std::unique_ptr<PanelWindows> panelWindows;
     std::unique_ptr<HotZones> hotZones;
     std::unique_ptr<Sounds> sounds;
+    std::unique_ptr<Pasteboard> pasteboard;
 };
 
 // The services for the windowing system that Qt runs on. The application object and the scheduler must

@@ -1,0 +1,146 @@
+#include "screenshots/ScreenshotAutoCleanScan.h"
+
+#include "platform/FolderFiles.h"
+#include "screenshots/CaptureCompleteness.h"
+#include "screenshots/CaptureMedia.h"
+#include "screenshots/ScreenshotCaptureDetector.h"
+#include "settings/FolderPath.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+namespace tembra {
+
+namespace {
+
+// Where the file system keeps no birth time, nothing tells that the file is older than its last change.
+Instant creationDate(const FileFacts &facts) {
+    return facts.createdAt.value_or(std::max(facts.modifiedAt, facts.changedAt));
+}
+
+QSet<QString> withAliases(QSet<QString> paths) {
+    const QSet<QString> written = paths;
+    for (const QString &path : written)
+        paths.insert(withoutLinks(path));
+    return paths;
+}
+
+} // namespace
+
+// One run over one folder.
+class ScreenshotAutoCleanScan::Run {
+public:
+    Run(const ScreenshotCaptureDetector &detector, const AutoCleanRequest &request,
+        const QString &customPrefix)
+        : m_detector(detector),
+          m_request(request),
+          m_customPrefix(customPrefix),
+          m_root(withoutLinks(request.root)),
+          m_pinnedPaths(withAliases(request.pinnedPaths)) {}
+
+    void visit(const FolderFiles::Listed &listed) {
+        const FileVersion &version = listed.version();
+        if (!CaptureMedia::mayBeMedia(listed.relativePath()) ||
+            std::max(version.modifiedAt, version.changedAt) >= m_request.now - settling)
+            return;
+        const std::string_view relative = listed.relativePath();
+        const QString path =
+            m_root + u'/' +
+            QFile::decodeName(QByteArray(relative.data(), static_cast<qsizetype>(relative.size())));
+        if (m_pinnedPaths.contains(path) || isSpared(path, m_request.gracePaths))
+            return;
+        if (const auto file = listed.open())
+            judge(path, version, **file);
+    }
+
+    [[nodiscard]] std::vector<AutoCleanCandidate> found() {
+        std::ranges::sort(m_found, [](const AutoCleanCandidate &a, const AutoCleanCandidate &b) {
+            return std::tie(a.createdAt, a.path) < std::tie(b.createdAt, b.path);
+        });
+        return std::move(m_found);
+    }
+
+private:
+    void judge(const QString &path, const FileVersion &version, const OpenFile &file) {
+        const QStringView fileName = QStringView(path).sliced(path.lastIndexOf(u'/') + 1);
+        const FileFacts facts = file.facts();
+        if (!isOldEnough(facts, m_request) || isExempt(facts.resource) ||
+            !m_detector.classify(fileName, file, m_customPrefix))
+            return;
+        const bool isWhole =
+            m_detector.isVideoName(fileName) ||
+            CaptureCompleteness::isComplete(file, CaptureMedia::extension(fileName), false,
+                                            CaptureCompleteness::stillFor(version, m_request.now));
+        if (isWhole)
+            m_found.push_back({.path = path,
+                               .identity = ScreenshotFileIdentity::of(path, facts),
+                               .createdAt = creationDate(facts),
+                               .modifiedAt = facts.modifiedAt,
+                               .size = facts.size});
+    }
+
+    [[nodiscard]] bool isExempt(const std::optional<FileResource> &file) const {
+        return file && (m_request.pinnedFiles.contains(*file) || isSpared(*file, m_request.graceFiles));
+    }
+
+    template <class Key>
+    [[nodiscard]] bool isSpared(const Key &key, const QHash<Key, Instant> &dates) const {
+        const auto date = dates.constFind(key);
+        return date != dates.cend() && *date > m_request.now;
+    }
+
+    const ScreenshotCaptureDetector &m_detector;
+    const AutoCleanRequest &m_request;
+    const QString m_customPrefix;
+    const QString m_root;
+    const QSet<QString> m_pinnedPaths;
+    std::vector<AutoCleanCandidate> m_found;
+};
+
+ScreenshotAutoCleanScan::ScreenshotAutoCleanScan(const FolderFiles &files,
+                                                 const ScreenshotCaptureDetector &detector,
+                                                 std::function<QString()> customPrefix)
+    : m_files(files), m_detector(detector), m_customPrefix(std::move(customPrefix)) {}
+
+Result<std::vector<AutoCleanCandidate>>
+ScreenshotAutoCleanScan::candidates(const AutoCleanRequest &request) const {
+    Run run(m_detector, request, m_customPrefix());
+    const auto subfolders = request.includesSubfolders ? FolderFiles::Subfolders::onSameMount
+                                                       : FolderFiles::Subfolders::passedOver;
+    return m_files
+        .list(request.root, subfolders,
+              [&](const FolderFiles::Listed &listed) {
+                  run.visit(listed);
+                  return !request.cancellation->isCancelled();
+              })
+        .map([&run] { return run.found(); });
+}
+
+bool ScreenshotAutoCleanScan::isOldEnough(const FileFacts &facts, const AutoCleanRequest &request) {
+    const Instant createdAt = creationDate(facts);
+    return createdAt < request.cutoff &&
+           std::max({createdAt, facts.modifiedAt, facts.changedAt}) < request.now - settling;
+}
+
+bool ScreenshotAutoCleanScan::isSafeDescendant(const QString &path, const QString &root, int depth) {
+    const QFileInfo file(path);
+    const QString canonicalRoot = QFileInfo(root).canonicalFilePath();
+    const QString canonicalFolder = QFileInfo(file.path()).canonicalFilePath();
+    const QString fileName = file.fileName();
+    if (canonicalRoot.isEmpty() || canonicalFolder.isEmpty() || fileName.isEmpty() || fileName == u"." ||
+        fileName == u".." || file.isSymbolicLink())
+        return false;
+    const QString relative = QDir(canonicalRoot).relativeFilePath(canonicalFolder + u'/' + fileName);
+    return !relative.startsWith(u"../") && relative.count(u'/') < depth;
+}
+
+bool ScreenshotAutoCleanScan::isSafeDescendant(const QString &path, const QString &root, bool recursive) {
+    return isSafeDescendant(path, root, recursive ? std::numeric_limits<int>::max() : 1);
+}
+
+} // namespace tembra

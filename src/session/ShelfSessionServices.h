@@ -1,0 +1,44 @@
+#pragma once
+
+#include "base/Clocks.h"
+#include "base/Scheduler.h"
+#include "base/SerialQueue.h"
+#include "platform/FileFacts.h"
+#include "platform/FileReferences.h"
+#include "platform/Pasteboard.h"
+#include "platform/PictureDecoder.h"
+#include "platform/Sounds.h"
+#include "platform/Trash.h"
+#include "platform/UserDefaults.h"
+
+#include <functional>
+#include <memory>
+
+namespace tembra {
+
+class ScreenshotAutoCleanScan;
+
+// What the session takes from the platform and from the composition root; everything outlives it.
+struct ShelfSessionServices {
+    Scheduler &scheduler;
+    UptimeClock uptime;
+    WallClock now;
+    UserDefaults &defaults;
+    const FileFactsReader &files;
+    const FileReferences &references;
+    Trash &trash;
+    Pasteboard &pasteboard;
+    const PictureDecoder &pictures;
+    Sounds &sounds;
+    // The queues "Tembra.AutoClean" and "Tembra.ScreenshotCopy".
+    SerialQueue &autoCleanQueue;
+    SerialQueue &copyQueue;
+    // Whether a file is a capture, asked on the main thread.
+    std::function<bool(const QString &path)> isCapture;
+    // Whether the subfolders of a folder belong to it.
+    std::function<bool(const QString &folder)> folderTraversal;
+    // Used on the auto-clean queue alone.
+    std::shared_ptr<const ScreenshotAutoCleanScan> autoCleanScan;
+};
+
+} // namespace tembra

@@ -1,0 +1,37 @@
+#include "shelf/ShelfCommand.h"
+
+namespace tembra {
+
+namespace {
+
+std::optional<ShelfCommand> withCtrl(int key) {
+    switch (key) {
+    case Qt::Key_Z:
+        return ShelfCommand::undo;
+    case Qt::Key_Y:
+        return ShelfCommand::redo;
+    case Qt::Key_C:
+        return ShelfCommand::copy;
+    case Qt::Key_P:
+        return ShelfCommand::pin;
+    case Qt::Key_F:
+        return ShelfCommand::reveal;
+    default:
+        return std::nullopt;
+    }
+}
+
+} // namespace
+
+std::optional<ShelfCommand> shelfCommand(const QKeyEvent &event) {
+    const auto modifiers = event.modifiers() & ~Qt::KeypadModifier;
+    const int key = event.key();
+    if ((key == Qt::Key_Delete || key == Qt::Key_Backspace) &&
+        !(modifiers & (Qt::ControlModifier | Qt::AltModifier)))
+        return ShelfCommand::remove;
+    if (modifiers == (Qt::ControlModifier | Qt::ShiftModifier) && key == Qt::Key_Z)
+        return ShelfCommand::redo;
+    return modifiers == Qt::ControlModifier ? withCtrl(key) : std::nullopt;
+}
+
+} // namespace tembra

@@ -1,0 +1,63 @@
+// New captures: announced, and handed to where they go by themselves.
+
+#include "screenshots/CaptureMedia.h"
+#include "settings/AppSettings.h"
+#include "shelf/ShelfContent.h"
+#include "shelf/ShelfController.h"
+#include "shelf/ShelfSurfaces.h"
+
+namespace tembra {
+
+namespace {
+
+constexpr QSize notificationSize{360, 84};
+
+bool isRecording(const Shot &shot) {
+    return !CaptureMedia::isImageExtension(CaptureMedia::extension(shot.location));
+}
+
+} // namespace
+
+void ShelfController::receiveNewFiles(const std::vector<Shot> &shots) {
+    if (shots.empty())
+        return;
+    m_lastCapture = ShelfStatus::Capture{shots.front().location, shots.front().createdAt};
+    const bool isFirst = !m_settings.state().hasCaughtFirstScreenshot;
+    m_settings.markFirstScreenshotCaught();
+    announce(shots, isFirst);
+    const std::vector<Shot> taken = m_screenshotAutoOpen.take(shots);
+    if (!taken.empty() && onOpenInEditor)
+        onOpenInEditor(taken);
+}
+
+void ShelfController::announce(const std::vector<Shot> &shots, bool isFirst) {
+    std::vector<Instant> dates;
+    std::vector<CaptureNews> news;
+    for (const Shot &shot : shots) {
+        dates.push_back(shot.createdAt);
+        news.push_back({.path = shot.location, .isRecording = isRecording(shot), .isFirst = isFirst});
+    }
+    m_screenshotFeedback.recordCaptures(dates);
+    if (m_settings.state().screenshotNotifications)
+        m_announcer.announceCaptures(news, m_screenshotFeedback.nextPhrase());
+}
+
+void ShelfController::copyFinished(ScreenshotAutoCopy::Outcome outcome) {
+    m_announcer.setCopyState(outcome == ScreenshotAutoCopy::Outcome::copied
+                                 ? CaptureNotification::CopyState::copied
+                                 : CaptureNotification::CopyState::postponed);
+}
+
+void ShelfController::showNotification(const std::optional<CaptureNotification> &notification) {
+    if (!notification) {
+        if (!m_expanded)
+            m_surfaces->present(ShelfPresentation::collapsed());
+        return;
+    }
+    if (!activateSurface())
+        return;
+    content().apply({.notification = notification});
+    m_surfaces->present(ShelfPresentation::notification(notificationSize));
+}
+
+} // namespace tembra

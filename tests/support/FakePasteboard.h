@@ -1,0 +1,32 @@
+#pragma once
+
+#include "platform/Pasteboard.h"
+
+namespace tembra {
+
+// A clipboard in memory, which the test may take as another program would, and which may refuse.
+class FakePasteboard final : public Pasteboard {
+public:
+    bool refuses = false;
+    std::vector<Item> items;
+    int writes = 0;
+
+    [[nodiscard]] std::int64_t changeCount() override { return m_changeCount; }
+    [[nodiscard]] Result<void> writeObjects(const std::vector<Item> &objects) override {
+        if (refuses)
+            return failure({.domain = errorDomain, .code = refused});
+        items = objects;
+        ++writes;
+        ++m_changeCount;
+        return {};
+    }
+    void takeByAnother() {
+        items.clear();
+        ++m_changeCount;
+    }
+
+private:
+    std::int64_t m_changeCount = 7;
+};
+
+} // namespace tembra

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "platform/linux/LinuxCaptureMarkers.h"
+#include "platform/linux/LinuxFileReferences.h"
+#include "platform/linux/LinuxFolderFiles.h"
+#include "platform/linux/LinuxPictureDecoder.h"
+#include "platform/linux/LinuxTrash.h"
+#include "screenshots/ScreenshotAutoCleanScan.h"
+#include "screenshots/ScreenshotCaptureDetector.h"
+#include "session/ShelfSessionServices.h"
+#include "support/FakePasteboard.h"
+#include "support/FakeSounds.h"
+#include "support/ManualQueue.h"
+#include "support/ManualScheduler.h"
+#include "support/MemoryUserDefaults.h"
+
+#include <QTemporaryDir>
+
+namespace tembra {
+
+// What a session needs: files and a Trash that are real, in scratch folders, the rest of the test.
+struct SessionServices {
+    QTemporaryDir home;
+    QString trashFolder = home.filePath(QStringLiteral("Trash"));
+    bool includesSubfolders = true;
+    ManualScheduler scheduler;
+    ManualQueue autoCleanQueue;
+    ManualQueue copyQueue;
+    WallClock now = scheduler.wallClock(systemNow());
+    MemoryUserDefaults defaults;
+    FakePasteboard pasteboard;
+    FakeSounds sounds;
+    LinuxFileFactsReader files;
+    LinuxFileReferences references{files};
+    LinuxFolderFiles folderFiles{files};
+    LinuxCaptureMarkers markers;
+    LinuxPictureDecoder pictures;
+    ScreenshotCaptureDetector detector{markers, folderFiles};
+    LinuxTrash trash{files, trashFolder};
+
+    [[nodiscard]] ShelfSessionServices services() {
+        return {.scheduler = scheduler,
+                .uptime = scheduler.uptimeClock(),
+                .now = now,
+                .defaults = defaults,
+                .files = files,
+                .references = references,
+                .trash = trash,
+                .pasteboard = pasteboard,
+                .pictures = pictures,
+                .sounds = sounds,
+                .autoCleanQueue = autoCleanQueue,
+                .copyQueue = copyQueue,
+                .isCapture = [this](const QString &path) { return detector.isCapture(path); },
+                .folderTraversal = [this](const QString &) { return includesSubfolders; },
+                .autoCleanScan = std::make_shared<ScreenshotAutoCleanScan>(folderFiles, detector,
+                                                                           [] { return QString(); })};
+    }
+};
+
+} // namespace tembra
