@@ -48,7 +48,19 @@ QString TembraProcess::settingsFile() const {
 }
 
 void TembraProcess::start() {
-    m_process.start(program, {});
+    start(program, {});
+}
+
+void TembraProcess::startInDays(int days) {
+    // Only the date: delays stay as they are, and files as old as they are.
+    m_environment.insert(QStringLiteral("DONT_FAKE_MONOTONIC"), QStringLiteral("1"));
+    m_environment.insert(QStringLiteral("NO_FAKE_STAT"), QStringLiteral("1"));
+    m_process.setProcessEnvironment(m_environment);
+    start(QStringLiteral("faketime"), {QStringLiteral("-f"), QStringLiteral("+%1d").arg(days), program});
+}
+
+void TembraProcess::start(const QString &name, const QStringList &arguments) {
+    m_process.start(name, arguments);
     m_process.waitForStarted();
     if (!waitFor([](const QJsonObject &status) { return !status.isEmpty(); }))
         qFatal("Tembra does not answer: %s", qUtf8Printable(log()));

@@ -31,6 +31,8 @@ public:
 
     // Starts the program and waits until it answers.
     void start();
+    // The program sees a date that many days from now; everything else does not.
+    void startInDays(int days);
     // Starts it once more, as a user does who forgot that it runs, and gives what that start said.
     Answer startAgain() const;
     Answer command(const QStringList &words) const;
@@ -45,6 +47,7 @@ public:
     QString log();
 
 private:
+    void start(const QString &name, const QStringList &arguments);
     Answer run(const QString &program, const QStringList &arguments) const;
 
     QTemporaryDir m_home;
