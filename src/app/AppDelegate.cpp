@@ -1,5 +1,6 @@
 #include "app/AppDelegate.h"
 
+#include "app/Alert.h"
 #include "app/AppFlowCoordinator.h"
 #include "app/CommandService.h"
 #include "screenshots/FileWatcherService.h"
@@ -13,21 +14,8 @@
 #include "shelf/ShelfController.h"
 
 #include <QCoreApplication>
-#include <QMessageBox>
 
 namespace tembra {
-
-namespace {
-
-// Tells of a failure without keeping the program waiting.
-void showAlert(const QString &title, const QString &message) {
-    auto *alert = new QMessageBox(QMessageBox::Warning, QStringLiteral("Tembra"), title, QMessageBox::Ok);
-    alert->setAttribute(Qt::WA_DeleteOnClose);
-    alert->setInformativeText(message);
-    alert->open();
-}
-
-} // namespace
 
 AppDelegate::AppDelegate(Platform &platform, Scheduler &scheduler)
     : m_platform(platform),
