@@ -47,4 +47,49 @@
         <translation>Your previous folder is still selected. Try again, or change the folder in your screenshot tool’s own settings.</translation>
     </message>
 </context>
+<context>
+    <name>ScreenshotMenu</name>
+    <message>
+        <source>Show in Finder</source>
+        <translation>Show in Files</translation>
+    </message>
+    <message>
+        <source>Open Folder in Finder</source>
+        <translation>Open Folder in Files</translation>
+    </message>
+</context>
+<context>
+    <name>ClearScreenshots</name>
+    <message numerus="yes">
+        <source>Move %n screenshots to Trash?</source>
+        <translation>
+            <numerusform>Move %n screenshot to Trash?</numerusform>
+            <numerusform>Move %n screenshots to Trash?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pinned screenshots stay.</source>
+        <translation>
+            <numerusform>%n pinned screenshot stays.</numerusform>
+            <numerusform>%n pinned screenshots stay.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tembra::ShelfController</name>
+    <message>
+        <source>Couldn’t Show in Finder</source>
+        <translation>Couldn’t Show in Files</translation>
+    </message>
+</context>
+<context>
+    <name>Alert</name>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>and %n more</numerusform>
+            <numerusform>and %n more</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

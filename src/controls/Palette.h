@@ -10,6 +10,8 @@ inline constexpr QColor group{21, 22, 26};
 inline constexpr QColor groupHovered{32, 32, 36};
 inline constexpr QColor groupActive{41, 41, 45};
 inline constexpr QColor field{23, 23, 25};
+inline constexpr QColor menu{30, 30, 34};
+inline constexpr QColor menuBorder{58, 58, 64};
 
 inline constexpr QColor text{242, 242, 244};
 inline constexpr QColor itemText{222, 222, 226};

@@ -2,10 +2,12 @@
 
 #include "base/Result.h"
 
+#include <QIcon>
 #include <QStringList>
 
 #include <functional>
 #include <memory>
+#include <vector>
 
 namespace tembra {
 
@@ -15,6 +17,15 @@ public:
     class Observation {
     public:
         virtual ~Observation() = default;
+    };
+
+    // A program that opens files.
+    struct Application {
+        // Names it to the desktop.
+        QString identifier;
+        QString name;
+        QIcon icon;
+        bool isDefault = false;
     };
 
     enum class Event { willSleep, didWake, didMount, didUnmount, activeSpaceChanged, compositingChanged };
@@ -27,6 +38,10 @@ public:
     // Shows the files in the file manager, or opens a folder in it.
     virtual Result<void> reveal(const QStringList &paths) = 0;
     virtual Result<void> openFolder(const QString &path) = 0;
+    // Those that open every one of the files, the default of the first of them first, then by name.
+    [[nodiscard]] virtual std::vector<Application> applicationsFor(const QStringList &paths) const = 0;
+    // Opens the files in that application; with an empty identifier in the default one.
+    virtual Result<void> open(const QStringList &paths, const QString &identifier) = 0;
 };
 
 } // namespace tembra

@@ -1,5 +1,6 @@
 #include "shelf/NativeScreenshotGrid.h"
 
+#include "shelf/NativeScreenshotCell.h"
 #include "shelf/ScreenshotCollectionView.h"
 #include "shelf/ScreenshotScrollView.h"
 
@@ -59,6 +60,15 @@ QStringList NativeScreenshotGrid::selectedPaths() const {
     for (const Shot &shot : selectedShots())
         paths += shot.location;
     return paths;
+}
+
+QList<QImage> NativeScreenshotGrid::selectedPictures() const {
+    QList<QImage> pictures;
+    for (const auto &[index, cell] : m_collectionView->cells().shown()) {
+        if (cell->isSelected() && !cell->image().isNull())
+            pictures.append(cell->image());
+    }
+    return pictures;
 }
 
 void NativeScreenshotGrid::selectAll() {

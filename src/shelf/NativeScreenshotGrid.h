@@ -3,6 +3,7 @@
 #include "shelf/FilePresentation.h"
 #include "shelf/ScreenshotGridState.h"
 
+#include <QImage>
 #include <QPoint>
 #include <QStringList>
 #include <QWidget>
@@ -26,6 +27,8 @@ public:
     [[nodiscard]] std::vector<Shot> selectedShots() const;
     // Locations of the selected shots in display order.
     [[nodiscard]] QStringList selectedPaths() const;
+    // Of the selected shots that can be seen, in display order.
+    [[nodiscard]] QList<QImage> selectedPictures() const;
     void selectAll();
     void clearSelection();
     void select(const QSet<ScreenshotFileIdentity> &identities);

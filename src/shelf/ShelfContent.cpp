@@ -1,6 +1,7 @@
 #include "shelf/ShelfContent.h"
 
 #include "shelf/CaptureNotificationView.h"
+#include "shelf/FileDrag.h"
 #include "shelf/NativeScreenshotGrid.h"
 #include "shelf/ScreenshotMessageView.h"
 #include "shelf/ShelfHeader.h"
@@ -14,6 +15,12 @@ ShelfContent::ShelfContent(const ShelfServices &services) {
     connect(m_header, &ShelfHeader::tabLeft, this, &ShelfContent::tabLeft);
     connect(m_message, &ScreenshotMessageView::acted, this, &ShelfContent::messageActed);
     connect(m_grid, &NativeScreenshotGrid::selectionChanged, this, &ShelfContent::selectionChanged);
+    connect(m_grid, &NativeScreenshotGrid::contextMenuRequested, this,
+            [this](const Shot &, QPoint position) { Q_EMIT contextMenuRequested(position); });
+    connect(m_grid, &NativeScreenshotGrid::backgroundMenuRequested, this,
+            &ShelfContent::backgroundMenuRequested);
+    connect(m_grid, &NativeScreenshotGrid::dragRequested, this, &ShelfContent::dragRequested);
+    connect(m_grid, &NativeScreenshotGrid::activated, this, &ShelfContent::activated);
 }
 
 ShelfContent::~ShelfContent() = default;
@@ -46,6 +53,10 @@ void ShelfContent::apply(const State &state) {
 
 QStringList ShelfContent::selectedPaths() const {
     return m_grid->selectedPaths();
+}
+
+void ShelfContent::dragSelected() {
+    dragFiles(*m_grid, m_grid->selectedPaths(), m_grid->selectedPictures());
 }
 
 std::vector<Shot> ShelfContent::selectedShots() const {

@@ -49,6 +49,8 @@ public:
     [[nodiscard]] const State &state() const { return m_state; }
     [[nodiscard]] QStringList selectedPaths() const;
     [[nodiscard]] std::vector<Shot> selectedShots() const;
+    // Drags the selected screenshots out; returns when the drag has ended.
+    void dragSelected();
     [[nodiscard]] QSet<ScreenshotFileIdentity> selection() const;
 
 Q_SIGNALS:
@@ -58,6 +60,11 @@ Q_SIGNALS:
     // The button of the message.
     void messageActed();
     void selectionChanged();
+    // For the selected screenshots.
+    void contextMenuRequested(QPoint globalPosition);
+    void backgroundMenuRequested(QPoint globalPosition);
+    void dragRequested();
+    void activated(const tembra::Shot &shot);
 
 protected:
     void resizeEvent(QResizeEvent *event) override;

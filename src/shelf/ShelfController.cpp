@@ -5,6 +5,7 @@
 #include "screenshots/ScreenshotTimeline.h"
 #include "session/ShelfSession.h"
 #include "settings/AppSettings.h"
+#include "shelf/ClearScreenshotsDialog.h"
 #include "shelf/FolderChooser.h"
 #include "shelf/SafetyReviewDialog.h"
 #include "shelf/ScreenshotFolderMessage.h"
@@ -13,6 +14,7 @@
 #include "shelf/ShelfTabs.h"
 
 #include <QDateTime>
+#include <QMenu>
 #include <QRandomGenerator>
 #include <QTimeZone>
 
@@ -53,6 +55,7 @@ ShelfController::ShelfController(AppSettings &settings, std::unique_ptr<ShelfSes
       m_screenshotAutoOpen(services.isCapture) {
     askForFolder = askForScreenshotsFolder;
     askForSafetyReview = showSafetyReview;
+    askForClearing = showClearScreenshots;
     onError = [](const QString &title, const QString &message) {
         qWarning("%s: %s", qUtf8Printable(title), qUtf8Printable(message));
     };
@@ -123,6 +126,10 @@ ShelfContent &ShelfController::content() {
     connect(m_content.get(), &ShelfContent::messageActed, this, &ShelfController::chooseFolder);
     connect(m_content.get(), &ShelfContent::selectionChanged, this,
             [this] { m_session->selected = m_content->selection(); });
+    connect(m_content.get(), &ShelfContent::contextMenuRequested, this, &ShelfController::showScreenshotMenu);
+    connect(m_content.get(), &ShelfContent::backgroundMenuRequested, this,
+            &ShelfController::showScreenshotBackgroundMenu);
+    connect(m_content.get(), &ShelfContent::dragRequested, this, &ShelfController::dragSelected);
     m_tabHover.canSwitchTo = [this](ShelfTab tab) { return canSwitchTabsWithHover(tab); };
     m_tabHover.onActivate = [this](ShelfTab tab) { activateTab(tab); };
     return *m_content;
@@ -284,6 +291,7 @@ HoverSnapshot ShelfController::hoverSnapshot() const {
     snapshot.expanded = m_expanded;
     snapshot.compact = !m_expanded && m_announcer.showing().has_value();
     snapshot.choosingFolder = m_choosingFolder;
+    snapshot.previewOpen = m_dragging || (m_menu && m_menu->isVisible());
     snapshot.activationNotches = m_surfaces->activationNotches();
     if (const ShelfDisplayWindow *active = m_surfaces->active()) {
         snapshot.notch = active->display().activationRect();

@@ -18,11 +18,16 @@
 #include "shelf/TabHover.h"
 
 #include <QObject>
+#include <QPoint>
 
 #include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
+
+QT_BEGIN_NAMESPACE
+class QMenu;
+QT_END_NAMESPACE
 
 namespace tembra {
 
@@ -54,6 +59,8 @@ public:
     // Asks whether auto-clean, which would move that many files, is to stay on. Replaceable.
     std::function<void(int count, ScreenshotAutoCleanPeriod, std::function<void(bool keeps)> decide)>
         askForSafetyReview;
+    // Asks whether so many screenshots are to go to the Trash while so many pinned ones stay. Replaceable.
+    std::function<void(int count, int pinnedCount, std::function<void()> clear)> askForClearing;
     // New captures that are to open in the editor by themselves.
     std::function<void(const std::vector<Shot> &)> onOpenInEditor;
     // Where the screenshot tool saves was read.
@@ -81,8 +88,12 @@ public:
     void copySelectedScreenshots();
     void toggleSelectedScreenshotPins();
     void revealSelectedScreenshots();
+    void openScreenshotsWith(const QString &applicationIdentifier);
     // Those that are not pinned.
     void trashSelected();
+    // All of them, after a question.
+    void clearScreenshots();
+    void revealFolder();
     // The last removal or restore.
     void undo();
     void redo();
@@ -114,6 +125,11 @@ private:
     bool handleShelfKey(const QKeyEvent &event);
     void perform(ShelfCommand command);
     [[nodiscard]] std::vector<Shot> removableSelectedShots() const;
+    [[nodiscard]] std::vector<Shot> removable(const std::vector<Shot> &shots) const;
+    void dragSelected();
+    void showScreenshotMenu(QPoint globalPosition);
+    void showScreenshotBackgroundMenu(QPoint globalPosition);
+    void showMenu(std::unique_ptr<QMenu> menu, QPoint globalPosition);
     void showNotification(const std::optional<CaptureNotification> &notification);
     bool activateSurface();
     void showExpanded();
@@ -143,6 +159,9 @@ private:
     bool m_started = false;
     bool m_expanded = false;
     bool m_choosingFolder = false;
+    bool m_dragging = false;
+    // Keeps the shelf open while it is up.
+    std::unique_ptr<QMenu> m_menu;
     ShelfTab m_activeTab = ShelfTab::screenshots;
     std::optional<ScreenshotDestination> m_destination;
     std::optional<ScreenshotFolderState> m_folderState;

@@ -2,8 +2,11 @@
 
 #include "session/ShelfSession.h"
 #include "settings/AppSettings.h"
+#include "shelf/ScreenshotMenu.h"
 #include "shelf/ShelfContent.h"
 #include "shelf/ShelfController.h"
+
+#include <QMenu>
 
 #include <algorithm>
 #include <iterator>
@@ -65,12 +68,76 @@ void ShelfController::revealSelectedScreenshots() {
         onError(tr("Couldn’t Show in Finder"), revealed.error().message);
 }
 
-std::vector<Shot> ShelfController::removableSelectedShots() const {
+std::vector<Shot> ShelfController::removable(const std::vector<Shot> &shots) const {
     const QSet<QString> pinned = m_settings.pinnedScreenshotPaths();
     std::vector<Shot> removable;
-    std::ranges::copy_if(m_content->selectedShots(), std::back_inserter(removable),
+    std::ranges::copy_if(shots, std::back_inserter(removable),
                          [&pinned](const Shot &shot) { return !pinned.contains(shot.location); });
     return removable;
+}
+
+std::vector<Shot> ShelfController::removableSelectedShots() const {
+    return removable(m_content->selectedShots());
+}
+
+void ShelfController::openScreenshotsWith(const QString &applicationIdentifier) {
+    const auto opened = m_services.workspace.open(content().selectedPaths(), applicationIdentifier);
+    if (!opened)
+        onError(tr("Couldn’t Open Files"), opened.error().message);
+}
+
+void ShelfController::revealFolder() {
+    const auto &folder = m_settings.state().screenshotsFolder;
+    if (!folder)
+        return;
+    if (const auto opened = m_services.workspace.openFolder(*folder); !opened)
+        onError(tr("Couldn’t Open Folder"), opened.error().message);
+}
+
+void ShelfController::clearScreenshots() {
+    const std::vector<Shot> &shots = m_session->folderShelf().shots;
+    const auto count = static_cast<int>(removable(shots).size());
+    if (count == 0)
+        return;
+    // The panel is above every other window, also above the question.
+    collapse();
+    askForClearing(count, static_cast<int>(shots.size()) - count,
+                   [this] { m_session->removeScreenshots(removable(m_session->folderShelf().shots)); });
+}
+
+// The drag needs the window it began in until it ends.
+void ShelfController::dragSelected() {
+    m_dragging = true;
+    content().dragSelected();
+    m_dragging = false;
+    m_hover.requestPointerEvaluation();
+}
+
+void ShelfController::showScreenshotMenu(QPoint globalPosition) {
+    const QStringList paths = content().selectedPaths();
+    const auto count = static_cast<int>(paths.size());
+    const ScreenshotMenuState state{.selectedCount = count,
+                                    .pinnedCount = count - static_cast<int>(removableSelectedShots().size()),
+                                    .applications = m_services.workspace.applicationsFor(paths)};
+    showMenu(screenshotMenu(state, {.copy = [this] { copySelectedScreenshots(); },
+                                    .openWith = [this](const QString &id) { openScreenshotsWith(id); },
+                                    .reveal = [this] { revealSelectedScreenshots(); },
+                                    .togglePins = [this] { toggleSelectedScreenshotPins(); },
+                                    .trash = [this] { trashSelected(); }}),
+             globalPosition);
+}
+
+void ShelfController::showScreenshotBackgroundMenu(QPoint globalPosition) {
+    ScreenshotBackgroundMenuActions actions{.openFolder = [this] { revealFolder(); }};
+    if (!removable(m_session->folderShelf().shots).empty())
+        actions.clear = [this] { clearScreenshots(); };
+    showMenu(screenshotBackgroundMenu(actions), globalPosition);
+}
+
+void ShelfController::showMenu(std::unique_ptr<QMenu> menu, QPoint globalPosition) {
+    m_menu = std::move(menu);
+    connect(m_menu.get(), &QMenu::aboutToHide, this, [this] { m_hover.requestPointerEvaluation(); });
+    m_menu->popup(globalPosition);
 }
 
 void ShelfController::trashSelected() {

@@ -24,6 +24,15 @@ public:
         return {};
     }
 
+    [[nodiscard]] std::vector<Application> applicationsFor(const QStringList &) const override {
+        return applications;
+    }
+    Result<void> open(const QStringList &paths, const QString &identifier) override {
+        opened = paths;
+        openedWith = identifier;
+        return openRefusal;
+    }
+
     void raise(Event event) {
         const auto observers = *m_observers;
         for (const auto &[number, onEvent] : observers)
@@ -33,6 +42,10 @@ public:
 
     QStringList revealed;
     QString openedFolder;
+    std::vector<Application> applications;
+    QStringList opened;
+    QString openedWith;
+    Result<void> openRefusal;
 
 private:
     using Observers = std::map<int, std::function<void(Event)>>;

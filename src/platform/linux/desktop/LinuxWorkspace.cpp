@@ -1,5 +1,7 @@
 #include "platform/linux/desktop/LinuxWorkspace.h"
 
+#include "platform/linux/desktop/DesktopApplications.h"
+
 namespace tembra {
 
 struct LinuxWorkspace::Watches {
@@ -41,6 +43,14 @@ Result<void> LinuxWorkspace::reveal(const QStringList &paths) {
 
 Result<void> LinuxWorkspace::openFolder(const QString &path) {
     return m_fileManager.openFolder(path);
+}
+
+std::vector<Workspace::Application> LinuxWorkspace::applicationsFor(const QStringList &paths) const {
+    return DesktopApplications::applicationsFor(paths);
+}
+
+Result<void> LinuxWorkspace::open(const QStringList &paths, const QString &identifier) {
+    return DesktopApplications::open(paths, identifier);
 }
 
 } // namespace tembra

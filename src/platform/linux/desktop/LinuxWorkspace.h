@@ -20,6 +20,8 @@ public:
     [[nodiscard]] bool isComposited() const override;
     Result<void> reveal(const QStringList &paths) override;
     Result<void> openFolder(const QString &path) override;
+    [[nodiscard]] std::vector<Application> applicationsFor(const QStringList &paths) const override;
+    Result<void> open(const QStringList &paths, const QString &identifier) override;
 
 private:
     struct Watches;

@@ -1,0 +1,46 @@
+#include "controls/ShelfMenu.h"
+
+#include "controls/Palette.h"
+#include "controls/Typography.h"
+
+namespace tembra {
+
+namespace {
+
+QString css(const QColor &color) {
+    return QStringLiteral("rgba(%1, %2, %3, %4)")
+        .arg(color.red())
+        .arg(color.green())
+        .arg(color.blue())
+        .arg(color.alpha());
+}
+
+QString shelfStyle() {
+    return QStringLiteral("QMenu { background: %1; border: 1px solid %2; border-radius: 10px; padding: 5px; }"
+                          "QMenu::item { color: %3; padding: 5px 22px 5px 12px; border-radius: 6px; }"
+                          "QMenu::item:selected { background: %4; color: %5; }"
+                          "QMenu::item:disabled { color: %6; background: transparent; }"
+                          "QMenu::icon { padding-left: 8px; }"
+                          "QMenu::separator { height: 1px; background: %2; margin: 5px 10px; }")
+        .arg(css(palette::menu), css(palette::menuBorder), css(palette::text), css(palette::accent),
+             css(palette::onAccent), css(palette::secondaryText));
+}
+
+} // namespace
+
+ShelfMenu::ShelfMenu(QWidget *parent) : QMenu(parent) {
+    setAttribute(Qt::WA_TranslucentBackground);
+    setWindowFlag(Qt::FramelessWindowHint);
+    setWindowFlag(Qt::NoDropShadowWindowHint);
+    setFont(typography::font(typography::itemSize));
+    setStyleSheet(shelfStyle());
+}
+
+ShelfMenu *ShelfMenu::addSubmenu(const QString &title) {
+    auto *submenu = new ShelfMenu(this);
+    submenu->setTitle(title);
+    addMenu(submenu);
+    return submenu;
+}
+
+} // namespace tembra
