@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QContextMenuEvent>
+#include <QFileInfo>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -28,7 +29,7 @@ ScreenshotSelection::Mode selectionMode(Qt::KeyboardModifiers modifiers) {
 } // namespace
 
 ScreenshotCollectionView::ScreenshotCollectionView(const FilePresentation &presentation, QWidget *parent)
-    : QWidget(parent), m_cells(presentation, *this) {
+    : QWidget(parent), m_cells(presentation, *this), m_band(new RubberBand(this)) {
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setAccessibleName(tr("Screenshots"));
@@ -41,6 +42,7 @@ void ScreenshotCollectionView::apply(ScreenshotGridState state) {
     const bool selectionShrank = m_selection.retain(m_state);
     m_hovered.reset();
     m_press.reset();
+    m_band->end();
     fit(m_viewport);
     changed(selectionShrank);
 }
@@ -160,6 +162,7 @@ void ScreenshotCollectionView::mousePressEvent(QMouseEvent *event) {
     if (!index) {
         if (mode == ScreenshotSelection::Mode::replace)
             clearSelection();
+        m_band->begin(position, m_selection.identities());
         return;
     }
     m_press = Press{position, std::nullopt};
@@ -174,6 +177,8 @@ void ScreenshotCollectionView::mouseMoveEvent(QMouseEvent *event) {
     const QPoint position = event->position().toPoint();
     if (event->buttons() == Qt::NoButton)
         setHovered(m_layout.itemAt(position));
+    if (m_band->isActive() && (event->buttons() & Qt::LeftButton))
+        return stretchBand(position);
     const bool drags = m_press && (event->buttons() & Qt::LeftButton) &&
                        (position - m_press->position).manhattanLength() >= QApplication::startDragDistance();
     if (!drags)
@@ -184,11 +189,27 @@ void ScreenshotCollectionView::mouseMoveEvent(QMouseEvent *event) {
 }
 
 void ScreenshotCollectionView::mouseReleaseEvent(QMouseEvent *event) {
+    if (event->button() == Qt::LeftButton)
+        m_band->end();
     if (event->button() != Qt::LeftButton || !m_press)
         return;
     const auto press = std::exchange(m_press, std::nullopt);
     if (press->narrowsTo)
         choose(*press->narrowsTo, ScreenshotSelection::Mode::replace);
+}
+
+void ScreenshotCollectionView::stretchBand(QPoint position) {
+    m_band->stretchTo(position);
+    QSet<ScreenshotFileIdentity> selected = m_band->base();
+    const QRect area = m_band->geometry();
+    const auto range = m_layout.itemsWithin(area.top(), area.bottom());
+    for (int index = range.first; index < range.last; ++index) {
+        if (m_layout.itemRect(index).intersects(area))
+            selected.insert(m_state.at(index).identity);
+    }
+    select(selected);
+    // Drawn beyond the edge it takes the document along.
+    Q_EMIT revealRequested(QRect(position, QSize(1, 1)));
 }
 
 void ScreenshotCollectionView::mouseDoubleClickEvent(QMouseEvent *event) {
@@ -262,6 +283,19 @@ std::optional<int> ScreenshotCollectionView::target(const QKeyEvent &event) cons
     }
 }
 
+bool ScreenshotCollectionView::searchFor(const QKeyEvent &event) {
+    const QString text = event.text();
+    if (text.isEmpty() || !text.front().isPrint() || text == u" ")
+        return false;
+    const QString &wanted = m_typeAhead.append(text, std::chrono::milliseconds(event.timestamp()));
+    const auto found =
+        TypeAhead::find(wanted, m_layout.count(), currentIndex().value_or(0),
+                        [this](int index) { return QFileInfo(m_state.at(index).location).fileName(); });
+    if (found)
+        moveTo(*found, false);
+    return true;
+}
+
 void ScreenshotCollectionView::moveTo(int index, bool extending) {
     choose(index, extending ? ScreenshotSelection::Mode::extend : ScreenshotSelection::Mode::replace);
     Q_EMIT revealRequested(m_layout.itemRectWithTitle(index));
@@ -281,6 +315,8 @@ void ScreenshotCollectionView::keyPressEvent(QKeyEvent *event) {
         moveTo(*index, event->modifiers() & Qt::ShiftModifier);
         return;
     }
+    if (searchFor(*event))
+        return;
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     const auto current = isReturn ? currentIndex() : std::nullopt;
     if (!current) {

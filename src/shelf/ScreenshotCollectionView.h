@@ -1,10 +1,12 @@
 #pragma once
 
+#include "shelf/RubberBand.h"
 #include "shelf/ScreenshotCellPool.h"
 #include "shelf/ScreenshotGridLayout.h"
 #include "shelf/ScreenshotGridState.h"
 #include "shelf/ScreenshotSectionHeader.h"
 #include "shelf/ScreenshotSelection.h"
+#include "shelf/TypeAhead.h"
 
 #include <QWidget>
 
@@ -70,6 +72,9 @@ private:
     void changed(bool didChange);
     void moveTo(int index, bool extending);
     [[nodiscard]] std::optional<int> target(const QKeyEvent &event) const;
+    void stretchBand(QPoint position);
+    // Whether the key was a letter of a name.
+    bool searchFor(const QKeyEvent &event);
     [[nodiscard]] int indexAfterPage(int index, int rows) const;
 
     ScreenshotGridState m_state;
@@ -88,6 +93,8 @@ private:
         std::optional<int> narrowsTo;
     };
     std::optional<Press> m_press;
+    RubberBand *m_band;
+    TypeAhead m_typeAhead;
 };
 
 } // namespace tembra

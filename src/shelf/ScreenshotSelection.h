@@ -29,6 +29,7 @@ public:
     bool retain(const ScreenshotGridState &state);
 
     [[nodiscard]] bool contains(const Shot &shot) const { return m_selected.contains(shot.identity); }
+    [[nodiscard]] const QSet<ScreenshotFileIdentity> &identities() const { return m_selected; }
     [[nodiscard]] bool isEmpty() const { return m_selected.isEmpty(); }
     // Where the keyboard is.
     [[nodiscard]] std::optional<int> current(const ScreenshotGridState &state) const;
