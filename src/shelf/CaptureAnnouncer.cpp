@@ -21,7 +21,7 @@ void CaptureAnnouncer::announceCaptures(const std::vector<CaptureNews> &news, co
         return;
     const bool isSeries = isSeriesOpen();
     // A folder notice that has to give way is shown again afterwards.
-    if (m_showing && !isSeries)
+    if (m_showing && !isSeries && !m_showing->offersUndo)
         m_pendingFolderNotification = m_showing->text;
     show(joined(isSeries ? *m_showing : CaptureNotification(), news, phrase), captureDuration);
 }
@@ -36,6 +36,11 @@ void CaptureAnnouncer::setCopyState(CaptureNotification::CopyState state) {
 void CaptureAnnouncer::announceFolder(const QString &text) {
     m_pendingFolderNotification = text;
     flushFolderNotification();
+}
+
+void CaptureAnnouncer::announceRemoval(const QString &text) {
+    if (canShow() && !m_showing)
+        show({.text = text, .offersUndo = true}, folderDuration);
 }
 
 void CaptureAnnouncer::forgetFolder() {

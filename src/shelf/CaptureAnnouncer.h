@@ -22,6 +22,8 @@ public:
     void announceCaptures(const std::vector<CaptureNews> &news, const QString &phrase);
     // What became of the copies of the captures that show.
     void setCopyState(CaptureNotification::CopyState state);
+    // Screenshots went to the Trash; the notice offers to bring them back.
+    void announceRemoval(const QString &text);
     // A folder notice replaces one that still waits.
     void announceFolder(const QString &text);
     // What a waiting folder notice tells is no longer so.

@@ -23,6 +23,8 @@ struct CaptureNotification {
     int captureCount = 0;
     bool hasRecording = false;
     CopyState copyState = CopyState::none;
+    // It tells of a removal.
+    bool offersUndo = false;
 
     static constexpr int visiblePreviews = 3;
 

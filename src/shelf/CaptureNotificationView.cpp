@@ -1,9 +1,11 @@
 #include "shelf/CaptureNotificationView.h"
 
 #include "controls/Palette.h"
+#include "controls/TembraButton.h"
 #include "controls/Typography.h"
 #include "shelf/ScreenshotPreviewImageView.h"
 
+#include <QMouseEvent>
 #include <QPainter>
 
 #include <array>
@@ -28,12 +30,18 @@ constexpr Pose alone{{74, 42}, -3};
 } // namespace
 
 CaptureNotificationView::CaptureNotificationView(Thumbnails &thumbnails, QWidget *parent)
-    : QWidget(parent), m_thumbnails(thumbnails) {}
+    : QWidget(parent), m_thumbnails(thumbnails), m_undo(new TembraButton(TembraButton::Kind::plain, this)) {
+    m_undo->setText(tr("Undo"));
+    m_undo->resize(m_undo->sizeHint());
+    m_undo->hide();
+    connect(m_undo, &TembraButton::clicked, this, &CaptureNotificationView::undoClicked);
+}
 
 void CaptureNotificationView::apply(const CaptureNotification &notification) {
     if (notification == m_notification)
         return;
     m_notification = notification;
+    m_undo->setVisible(notification.offersUndo);
     setAccessibleName(notification.text);
     setAccessibleDescription(notification.detail());
     std::erase_if(m_requests,
@@ -42,6 +50,15 @@ void CaptureNotificationView::apply(const CaptureNotification &notification) {
     for (const QString &path : notification.previews)
         requestPreview(path);
     update();
+}
+
+void CaptureNotificationView::resizeEvent(QResizeEvent *) {
+    m_undo->move(width() - m_undo->width() - textLeftWithoutPreviews, (height() - m_undo->height()) / 2);
+}
+
+void CaptureNotificationView::mouseReleaseEvent(QMouseEvent *event) {
+    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
+        Q_EMIT clicked();
 }
 
 void CaptureNotificationView::requestPreview(const QString &path) {
@@ -102,7 +119,7 @@ void CaptureNotificationView::paintOverflow(QPainter &painter) const {
 
 void CaptureNotificationView::paintText(QPainter &painter) const {
     const int left = m_notification.previews.isEmpty() ? textLeftWithoutPreviews : textLeft;
-    const int width = this->width() - left - 20;
+    const int width = (m_undo->isVisible() ? m_undo->x() : this->width() - 20) - left;
     const QString detail = m_notification.detail();
     const bool hasDetail = !detail.isEmpty();
     painter.setFont(typography::font(typography::headlineSize, QFont::DemiBold));

@@ -12,6 +12,8 @@
 
 namespace tembra {
 
+class TembraButton;
+
 // The notification: the newest captures as a small stack of pictures, beside a line of text and one of
 // detail. The pictures come when they are made; until then their places are plain.
 class CaptureNotificationView final : public QWidget {
@@ -22,8 +24,15 @@ public:
 
     void apply(const CaptureNotification &notification);
 
+Q_SIGNALS:
+    void undoClicked();
+    // Somewhere else on it.
+    void clicked();
+
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
     void requestPreview(const QString &path);
@@ -33,6 +42,7 @@ private:
 
     Thumbnails &m_thumbnails;
     CaptureNotification m_notification;
+    TembraButton *m_undo;
     QHash<QString, QImage> m_images;
     std::map<QString, std::unique_ptr<Thumbnails::Request>> m_requests;
 };

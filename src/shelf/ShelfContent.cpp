@@ -13,6 +13,9 @@ ShelfContent::ShelfContent(const ShelfServices &services) {
     connect(m_header, &ShelfHeader::tabClicked, this, &ShelfContent::tabClicked);
     connect(m_header, &ShelfHeader::tabHovered, this, &ShelfContent::tabHovered);
     connect(m_header, &ShelfHeader::tabLeft, this, &ShelfContent::tabLeft);
+    connect(m_header, &ShelfHeader::undoClicked, this, &ShelfContent::undoRequested);
+    connect(m_notification, &CaptureNotificationView::undoClicked, this, &ShelfContent::undoRequested);
+    connect(m_notification, &CaptureNotificationView::clicked, this, &ShelfContent::notificationClicked);
     connect(m_message, &ScreenshotMessageView::acted, this, &ShelfContent::messageActed);
     connect(m_grid, &NativeScreenshotGrid::selectionChanged, this, &ShelfContent::selectionChanged);
     connect(m_grid, &NativeScreenshotGrid::contextMenuRequested, this,
@@ -42,6 +45,7 @@ void ShelfContent::apply(const State &state) {
     if (isNotification)
         return m_notification->apply(*state.notification);
     m_header->apply(state.tabs, state.activeTab);
+    m_header->offerUndo(state.undoName);
     if (state.message)
         return m_message->apply(*state.message);
     m_grid->render({.sections = state.sections,
@@ -53,6 +57,10 @@ void ShelfContent::apply(const State &state) {
 
 QStringList ShelfContent::selectedPaths() const {
     return m_grid->selectedPaths();
+}
+
+void ShelfContent::revealSelection() {
+    m_grid->revealSelection();
 }
 
 void ShelfContent::dragSelected() {

@@ -36,6 +36,8 @@ public:
         std::vector<ScreenshotSection> sections;
         QSet<QString> pinnedPaths;
         QSet<ScreenshotFileIdentity> selection;
+        // What an offered undo would reverse.
+        std::optional<QString> undoName;
         bool isGrouped = false;
         bool showsFileNames = true;
         // Shown in place of everything else.
@@ -49,6 +51,7 @@ public:
     [[nodiscard]] const State &state() const { return m_state; }
     [[nodiscard]] QStringList selectedPaths() const;
     [[nodiscard]] std::vector<Shot> selectedShots() const;
+    void revealSelection();
     // Drags the selected screenshots out; returns when the drag has ended.
     void dragSelected();
     [[nodiscard]] QSet<ScreenshotFileIdentity> selection() const;
@@ -64,6 +67,8 @@ Q_SIGNALS:
     void contextMenuRequested(QPoint globalPosition);
     void backgroundMenuRequested(QPoint globalPosition);
     void dragRequested();
+    void undoRequested();
+    void notificationClicked();
     void activated(const tembra::Shot &shot);
 
 protected:

@@ -103,6 +103,7 @@ void ShelfController::stop() {
     disconnect(&m_settings, nullptr, this, nullptr);
     m_displayReconcileWork.cancel();
     m_timelineRefreshWork.cancel();
+    m_undoOffer.cancel();
     m_tabHover.cancelTabHover();
     m_announcer.dismiss();
     m_locationMonitor->stop();
@@ -129,6 +130,8 @@ ShelfContent &ShelfController::content() {
     connect(m_content.get(), &ShelfContent::contextMenuRequested, this, &ShelfController::showScreenshotMenu);
     connect(m_content.get(), &ShelfContent::backgroundMenuRequested, this,
             &ShelfController::showScreenshotBackgroundMenu);
+    connect(m_content.get(), &ShelfContent::undoRequested, this, &ShelfController::undo);
+    connect(m_content.get(), &ShelfContent::notificationClicked, this, &ShelfController::openAnnounced);
     connect(m_content.get(), &ShelfContent::dragRequested, this, &ShelfController::dragSelected);
     m_tabHover.canSwitchTo = [this](ShelfTab tab) { return canSwitchTabsWithHover(tab); };
     m_tabHover.onActivate = [this](ShelfTab tab) { activateTab(tab); };
@@ -159,6 +162,7 @@ void ShelfController::connectSession() {
     m_session->onFolderChange = [this](FolderShelf &shelf, bool, int) { receiveFolderChange(shelf); };
     m_session->onNewFiles = [this](const std::vector<Shot> &shots) { receiveNewFiles(shots); };
     m_session->onChange = [this] { render(); };
+    m_session->onBeforeRemoval = [this] { removalBegins(); };
     m_session->onError = [this](const QString &title, const QString &message) { onError(title, message); };
     m_session->isBusy = [this](bool) { return m_expanded || m_choosingFolder; };
     m_session->continuesScreenshotCopySeries = [this] { return m_announcer.isSeriesOpen(); };
@@ -272,6 +276,9 @@ void ShelfController::render() {
     if (!m_started || !m_expanded)
         return;
     ShelfContent::State state{.tabs = tabs(), .activeTab = m_activeTab};
+    const QStringList undoable = m_session->screenshotUndoManager.undoNames();
+    if (m_undoOffer.isPending() && !undoable.isEmpty())
+        state.undoName = undoable.first();
     const AppSettingsState &settings = m_settings.state();
     state.message = screenshotFolderMessage(m_folderState.value_or(ScreenshotFolderState::none));
     if (!state.message) {

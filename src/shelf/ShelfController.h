@@ -121,6 +121,9 @@ private:
     [[nodiscard]] ScreenshotFolderFacts folderFacts() const;
     void receiveNewFiles(const std::vector<Shot> &shots);
     void announce(const std::vector<Shot> &shots, bool isFirst);
+    void removalBegins();
+    // Opens the shelf on the captures that the notification told of.
+    void openAnnounced();
     void copyFinished(ScreenshotAutoCopy::Outcome outcome);
     bool handleShelfKey(const QKeyEvent &event);
     void perform(ShelfCommand command);
@@ -166,9 +169,13 @@ private:
     std::optional<ScreenshotDestination> m_destination;
     std::optional<ScreenshotFolderState> m_folderState;
     std::optional<ShelfStatus::Capture> m_lastCapture;
+    // The captures of the notification.
+    QSet<ScreenshotFileIdentity> m_pendingToastSelection;
 
     std::unique_ptr<Workspace::Observation> m_workspaceObservation;
     std::unique_ptr<Displays::Observation> m_displayObservation;
+    // While it is pending the last removal can be undone by a button.
+    WorkItem m_undoOffer;
     WorkItem m_displayReconcileWork;
     WorkItem m_timelineRefreshWork;
 };

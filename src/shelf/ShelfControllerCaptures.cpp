@@ -1,6 +1,7 @@
 // New captures: announced, and handed to where they go by themselves.
 
 #include "screenshots/CaptureMedia.h"
+#include "session/ShelfSession.h"
 #include "settings/AppSettings.h"
 #include "shelf/ShelfContent.h"
 #include "shelf/ShelfController.h"
@@ -38,8 +39,23 @@ void ShelfController::announce(const std::vector<Shot> &shots, bool isFirst) {
         news.push_back({.path = shot.location, .isRecording = isRecording(shot), .isFirst = isFirst});
     }
     m_screenshotFeedback.recordCaptures(dates);
+    if (!m_announcer.isSeriesOpen())
+        m_pendingToastSelection.clear();
+    for (const Shot &shot : shots)
+        m_pendingToastSelection.insert(shot.identity);
     if (m_settings.state().screenshotNotifications)
         m_announcer.announceCaptures(news, m_screenshotFeedback.nextPhrase());
+}
+
+void ShelfController::openAnnounced() {
+    const bool tellsOfCaptures = m_announcer.isSeriesOpen();
+    if (tellsOfCaptures) {
+        m_activeTab = ShelfTab::screenshots;
+        m_session->selected = m_pendingToastSelection;
+    }
+    openManually();
+    if (tellsOfCaptures)
+        content().revealSelection();
 }
 
 void ShelfController::copyFinished(ScreenshotAutoCopy::Outcome outcome) {

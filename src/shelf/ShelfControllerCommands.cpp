@@ -13,6 +13,13 @@
 
 namespace tembra {
 
+namespace {
+
+// Long enough to see what has gone and to move the pointer there.
+constexpr std::chrono::seconds undoOfferDuration{10};
+
+} // namespace
+
 bool ShelfController::handleShelfKey(const QKeyEvent &event) {
     const auto command = shelfCommand(event);
     if (!command || !m_expanded || m_activeTab != ShelfTab::screenshots || !m_content)
@@ -39,7 +46,15 @@ void ShelfController::perform(ShelfCommand command) {
 }
 
 void ShelfController::undo() {
+    m_undoOffer.cancel();
+    m_announcer.dismiss();
     m_session->undo();
+}
+
+void ShelfController::removalBegins() {
+    m_undoOffer = m_services.scheduler.schedule(undoOfferDuration, [this] { render(); });
+    if (!m_expanded && m_settings.state().screenshotNotifications)
+        m_announcer.announceRemoval(tr("Old screenshots moved to Trash"));
 }
 
 void ShelfController::redo() {

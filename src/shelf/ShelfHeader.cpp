@@ -1,6 +1,7 @@
 #include "shelf/ShelfHeader.h"
 
 #include "controls/Palette.h"
+#include "controls/TembraButton.h"
 #include "shelf/ShelfButton.h"
 
 #include <QPainter>
@@ -40,7 +41,29 @@ QString nameOf(ShelfTab tab) {
 
 } // namespace
 
-ShelfHeader::ShelfHeader(QWidget *parent) : QWidget(parent) {}
+ShelfHeader::ShelfHeader(QWidget *parent)
+    : QWidget(parent), m_undo(new TembraButton(TembraButton::Kind::plain, this)) {
+    m_undo->setText(tr("Undo"));
+    m_undo->setFocusPolicy(Qt::TabFocus);
+    m_undo->hide();
+    connect(m_undo, &TembraButton::clicked, this, &ShelfHeader::undoClicked);
+}
+
+void ShelfHeader::offerUndo(const std::optional<QString> &actionName) {
+    m_undo->setVisible(actionName.has_value());
+    m_undo->setToolTip(actionName ? tr("Undo %1").arg(*actionName) : QString());
+    m_undo->setAccessibleName(m_undo->toolTip());
+    placeUndo();
+}
+
+void ShelfHeader::placeUndo() {
+    m_undo->resize(m_undo->sizeHint());
+    m_undo->move(width() - groupOrigin.x() - m_undo->width(), (height - m_undo->height()) / 2);
+}
+
+void ShelfHeader::resizeEvent(QResizeEvent *) {
+    placeUndo();
+}
 
 void ShelfHeader::apply(const std::vector<ShelfTab> &tabs, ShelfTab active) {
     if (tabs != m_tabs) {

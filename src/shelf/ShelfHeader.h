@@ -4,11 +4,13 @@
 
 #include <QWidget>
 
+#include <optional>
 #include <vector>
 
 namespace tembra {
 
 class ShelfButton;
+class TembraButton;
 
 // The strip of tabs at the top of the open shelf.
 class ShelfHeader final : public QWidget {
@@ -20,21 +22,27 @@ public:
     explicit ShelfHeader(QWidget *parent);
 
     void apply(const std::vector<ShelfTab> &tabs, ShelfTab active);
+    // Offers to undo what is named so; nothing takes the offer away.
+    void offerUndo(const std::optional<QString> &actionName);
 
 Q_SIGNALS:
     void tabClicked(tembra::ShelfTab tab);
     void tabHovered(tembra::ShelfTab tab);
     void tabLeft(tembra::ShelfTab tab);
+    void undoClicked();
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void build();
+    void placeUndo();
     [[nodiscard]] QRect group() const;
 
     std::vector<ShelfTab> m_tabs;
     std::vector<ShelfButton *> m_buttons;
+    TembraButton *m_undo;
 };
 
 } // namespace tembra
