@@ -26,7 +26,8 @@ AppDelegate::AppDelegate(Platform &platform, Scheduler &scheduler)
       m_folderScanQueue(QStringLiteral("Tembra.FolderScan")),
       m_locationQueue(QStringLiteral("app.tembra.screenshot-location")),
       m_autoCleanQueue(QStringLiteral("Tembra.AutoClean")),
-      m_screenshotCopyQueue(QStringLiteral("local.dova.Tembra.screenshot-copy")) {}
+      m_screenshotCopyQueue(QStringLiteral("local.dova.Tembra.screenshot-copy")),
+      m_previewQueue(QStringLiteral("Tembra.Preview")) {}
 
 AppDelegate::~AppDelegate() = default;
 
@@ -74,6 +75,8 @@ std::unique_ptr<ShelfController> AppDelegate::makeShelfController() {
                                  .hotZones = *m_platform.hotZones,
                                  .thumbnails = *m_platform.thumbnails,
                                  .files = *m_platform.fileFacts,
+                                 .pictures = *m_platform.pictureDecoder,
+                                 .previewQueue = m_previewQueue,
                                  .isCapture = [this](const QString &path) { return isCapture(path); }};
     auto controller =
         std::make_unique<ShelfController>(*m_settings, makeSession(), makeLocationMonitor(), services);

@@ -29,6 +29,8 @@ std::optional<ShelfCommand> shelfCommand(const QKeyEvent &event) {
     if ((key == Qt::Key_Delete || key == Qt::Key_Backspace) &&
         !(modifiers & (Qt::ControlModifier | Qt::AltModifier)))
         return ShelfCommand::remove;
+    if (key == Qt::Key_Space && !(modifiers & Qt::ControlModifier))
+        return ShelfCommand::preview;
     if (modifiers == (Qt::ControlModifier | Qt::ShiftModifier) && key == Qt::Key_Z)
         return ShelfCommand::redo;
     return modifiers == Qt::ControlModifier ? withCtrl(key) : std::nullopt;

@@ -50,9 +50,11 @@ ShelfController::ShelfController(AppSettings &settings, std::unique_ptr<ShelfSes
       m_hover(services.scheduler, services.uptime, services.inputMonitor),
       m_tabHover(services.scheduler),
       m_announcer(services.scheduler),
+      m_preview(services),
       m_screenshotFeedback(
           [](QStringList &phrases) { std::ranges::shuffle(phrases, *QRandomGenerator::global()); }),
       m_screenshotAutoOpen(services.isCapture) {
+    m_preview.onOpen = [this](const QStringList &paths) { openInDefaultApplication(paths); };
     askForFolder = askForScreenshotsFolder;
     askForSafetyReview = showSafetyReview;
     askForClearing = showClearScreenshots;
@@ -104,6 +106,7 @@ void ShelfController::stop() {
     m_displayReconcileWork.cancel();
     m_timelineRefreshWork.cancel();
     m_undoOffer.cancel();
+    m_preview.close();
     m_tabHover.cancelTabHover();
     m_announcer.dismiss();
     m_locationMonitor->stop();
@@ -125,8 +128,10 @@ ShelfContent &ShelfController::content() {
     connect(m_content.get(), &ShelfContent::tabLeft, this,
             [this](ShelfTab tab) { m_tabHover.cancelTabHover(tab); });
     connect(m_content.get(), &ShelfContent::messageActed, this, &ShelfController::chooseFolder);
-    connect(m_content.get(), &ShelfContent::selectionChanged, this,
-            [this] { m_session->selected = m_content->selection(); });
+    connect(m_content.get(), &ShelfContent::selectionChanged, this, [this] {
+        m_session->selected = m_content->selection();
+        updatePreview();
+    });
     connect(m_content.get(), &ShelfContent::contextMenuRequested, this, &ShelfController::showScreenshotMenu);
     connect(m_content.get(), &ShelfContent::backgroundMenuRequested, this,
             &ShelfController::showScreenshotBackgroundMenu);
@@ -149,7 +154,7 @@ void ShelfController::connectHover() {
         if (m_settings.state().activationMode == ActivationMode::hover)
             setExpanded(true);
     };
-    m_surfaces->onEscape = [this] { collapse(); };
+    m_surfaces->onEscape = [this] { cancel(); };
     m_surfaces->onKey = [this](const QKeyEvent &event) { return handleShelfKey(event); };
 }
 
@@ -208,6 +213,7 @@ bool ShelfController::activateSurface() {
 
 void ShelfController::hideSurface() {
     m_expanded = false;
+    m_preview.close();
     m_tabHover.cancelTabHover();
     m_surfaces->present(ShelfPresentation::collapsed());
     m_hover.didCollapse();
@@ -298,7 +304,7 @@ HoverSnapshot ShelfController::hoverSnapshot() const {
     snapshot.expanded = m_expanded;
     snapshot.compact = !m_expanded && m_announcer.showing().has_value();
     snapshot.choosingFolder = m_choosingFolder;
-    snapshot.previewOpen = m_dragging || (m_menu && m_menu->isVisible());
+    snapshot.previewOpen = m_dragging || m_preview.isOpen() || (m_menu && m_menu->isVisible());
     snapshot.activationNotches = m_surfaces->activationNotches();
     if (const ShelfDisplayWindow *active = m_surfaces->active()) {
         snapshot.notch = active->display().activationRect();

@@ -9,6 +9,7 @@
 #include "screenshots/Shot.h"
 #include "settings/ScreenshotAutoCleanPeriod.h"
 #include "shelf/CaptureAnnouncer.h"
+#include "shelf/FilePreview.h"
 #include "shelf/HoverController.h"
 #include "shelf/ScreenshotFolderState.h"
 #include "shelf/ShelfCommand.h"
@@ -91,6 +92,8 @@ public:
     void openScreenshotsWith(const QString &applicationIdentifier);
     // Those that are not pinned.
     void trashSelected();
+    // Shows the selected ones large, or not any more.
+    void togglePreview();
     // All of them, after a question.
     void clearScreenshots();
     void revealFolder();
@@ -125,11 +128,16 @@ private:
     // Opens the shelf on the captures that the notification told of.
     void openAnnounced();
     void copyFinished(ScreenshotAutoCopy::Outcome outcome);
+    // Ends the preview, else closes the shelf.
+    void cancel();
     bool handleShelfKey(const QKeyEvent &event);
     void perform(ShelfCommand command);
     [[nodiscard]] std::vector<Shot> removableSelectedShots() const;
     [[nodiscard]] std::vector<Shot> removable(const std::vector<Shot> &shots) const;
     void dragSelected();
+    void updatePreview();
+    [[nodiscard]] QRectF previewArea() const;
+    void openInDefaultApplication(const QStringList &paths);
     void showScreenshotMenu(QPoint globalPosition);
     void showScreenshotBackgroundMenu(QPoint globalPosition);
     void showMenu(std::unique_ptr<QMenu> menu, QPoint globalPosition);
@@ -156,6 +164,7 @@ private:
     HoverController m_hover;
     TabHover m_tabHover;
     CaptureAnnouncer m_announcer;
+    FilePreview m_preview;
     ScreenshotFeedback m_screenshotFeedback;
     ScreenshotAutoOpen m_screenshotAutoOpen;
 

@@ -5,6 +5,7 @@
 #include "shelf/ScreenshotMenu.h"
 #include "shelf/ShelfContent.h"
 #include "shelf/ShelfController.h"
+#include "shelf/ShelfSurfaces.h"
 
 #include <QMenu>
 
@@ -42,6 +43,8 @@ void ShelfController::perform(ShelfCommand command) {
         return revealSelectedScreenshots();
     case ShelfCommand::remove:
         return trashSelected();
+    case ShelfCommand::preview:
+        return togglePreview();
     }
 }
 
@@ -153,6 +156,43 @@ void ShelfController::showMenu(std::unique_ptr<QMenu> menu, QPoint globalPositio
     m_menu = std::move(menu);
     connect(m_menu.get(), &QMenu::aboutToHide, this, [this] { m_hover.requestPointerEvaluation(); });
     m_menu->popup(globalPosition);
+}
+
+void ShelfController::openInDefaultApplication(const QStringList &paths) {
+    const auto opened = m_services.workspace.open(paths, QString());
+    if (!opened)
+        onError(tr("Couldn’t Open Files"), opened.error().message);
+}
+
+void ShelfController::cancel() {
+    if (m_preview.isOpen())
+        m_preview.close();
+    else
+        collapse();
+}
+
+void ShelfController::togglePreview() {
+    if (m_preview.isOpen()) {
+        m_preview.close();
+        return m_hover.requestPointerEvaluation();
+    }
+    m_preview.show(content().selectedPaths(), previewArea());
+}
+
+void ShelfController::updatePreview() {
+    if (m_preview.isOpen())
+        m_preview.show(content().selectedPaths(), previewArea());
+}
+
+// Below the shelf, as far as the display goes.
+QRectF ShelfController::previewArea() const {
+    constexpr double margin = 24;
+    const ShelfDisplayWindow *active = m_surfaces->active();
+    if (!active)
+        return {};
+    const ScreenRect &screen = active->display().screenFrame;
+    const QRectF display(screen.x, screen.y, screen.width, screen.height);
+    return display.adjusted(margin, targetPanelHeight() + margin, -margin, -margin);
 }
 
 void ShelfController::trashSelected() {

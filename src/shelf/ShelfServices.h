@@ -2,11 +2,13 @@
 
 #include "base/Clocks.h"
 #include "base/Scheduler.h"
+#include "base/SerialQueue.h"
 #include "platform/Displays.h"
 #include "platform/FileFacts.h"
 #include "platform/HotZones.h"
 #include "platform/InputMonitor.h"
 #include "platform/PanelWindows.h"
+#include "platform/PictureDecoder.h"
 #include "platform/Thumbnails.h"
 #include "platform/Workspace.h"
 
@@ -26,6 +28,9 @@ struct ShelfServices {
     HotZones &hotZones;
     Thumbnails &thumbnails;
     const FileFactsReader &files;
+    const PictureDecoder &pictures;
+    // Reads what the preview shows.
+    SerialQueue &previewQueue;
     // Whether a file is a capture.
     std::function<bool(const QString &path)> isCapture;
 };
