@@ -153,8 +153,10 @@ private:
     void reportFailures(const QString &title, const QStringList &failures) const;
 
     // Editor.
-    [[nodiscard]] EditorSaveContext::Written writtenFile(const QString &path,
-                                                         const EditorSaveContext &context) const;
+    [[nodiscard]] std::optional<QString> pinnedPath(const QString &path,
+                                                    const ScreenshotFileIdentity &identity) const;
+    [[nodiscard]] std::optional<EditorSaveContext::Written>
+    writtenFile(const QString &path, const EditorSaveContext &context) const;
     void rebind(const EditorSaveContext &context, const EditorSaveContext::Written &written);
 
     // Auto-clean.

@@ -140,13 +140,14 @@ Result<void> ShelfSession::removeScreenshotFromEditor(const QString &path,
     const auto known = std::ranges::find(shelf.shots, identity, &Shot::identity);
     const Shot shot = known == shelf.shots.end() ? Shot{.location = path, .identity = identity} : *known;
     const ScreenshotRemovalContext context = screenshotRemovalContext();
+    m_fileWatcher->pause();
     const auto moved = trashScreenshot(shot, false);
+    if (moved && *moved)
+        finishScreenshotRemoval({**moved}, context, false, true, Phase::doing);
+    m_fileWatcher->resume();
     if (!moved)
         return failure(moved.error());
-    if (!*moved)
-        return failure(ScreenshotRemovalError::isPinned());
-    finishScreenshotRemoval({**moved}, context, false, true, Phase::doing);
-    return {};
+    return *moved ? Result<void>() : failure(ScreenshotRemovalError::isPinned());
 }
 
 } // namespace tembra
