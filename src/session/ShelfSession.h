@@ -133,6 +133,7 @@ private:
     // Removal.
     [[nodiscard]] ScreenshotRemovalContext screenshotRemovalContext() const;
     void moveToTrash(const std::vector<Shot> &shots, Phase phase);
+    void forgetRemoved(RemovalBatch &batch) const;
     [[nodiscard]] bool isPinned(const QString &path, const ScreenshotFileIdentity &identity) const;
     // Nothing when the file is pinned and stays.
     [[nodiscard]] Result<std::optional<RemovedScreenshot>> trashScreenshot(const Shot &shot, bool automatic);

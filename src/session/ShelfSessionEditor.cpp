@@ -42,8 +42,12 @@ void ShelfSession::finishEditorWrite(const std::optional<QString> &path) {
     const auto context = std::exchange(m_editorSaveContext, std::nullopt);
     if (context && path) {
         const auto written = writtenFile(QDir::cleanPath(*path), *context);
-        if (written && context->isReplacedBy(*written))
+        if (written && context->isReplacedBy(*written)) {
+            // A scan that is under way may still tell of the file that was.
+            m_fileWatcher->pause();
             rebind(*context, *written);
+            m_fileWatcher->resume();
+        }
     }
     if (path)
         m_fileWatcher->requestScanAfterEditorWrite();

@@ -112,8 +112,9 @@ TEST_F(EditorSaveTest, trayPinAndSelectionFollowWhatTookThePlace) {
         before();
         session.beginEditorSave(shot);
         EXPECT_TRUE(session.isEditorSaving());
-        const auto written = save();
-        session.finishEditorWrite(written);
+        readFolder();
+        session.finishEditorWrite(save());
+        parts.scheduler.settle();
         EXPECT_FALSE(session.isEditorSaving());
 
         const ClipboardEntry entry = session.clipboard.entries().back();

@@ -248,6 +248,23 @@ TEST_F(ScreenshotRemovalTest, aScanFromBeforeTheMovesChangesNothingAndAnnouncesW
     }
 }
 
+TEST_F(ScreenshotRemovalTest, whatIsLeavingAlreadyIsNotAskedForAgain) {
+    const QStringList names = writeOld(6);
+    start();
+    slowDown(5ms);
+    remove(names.mid(0, 5));
+    remove(names.mid(0, 5));
+    remove(names);
+    settle();
+    EXPECT_TRUE(errors.isEmpty());
+    EXPECT_EQ(shown(), QStringList());
+    session.undo();
+    EXPECT_EQ(shown(), names.mid(5));
+    session.undo();
+    EXPECT_EQ(shown(), names);
+    EXPECT_FALSE(session.undo());
+}
+
 TEST_F(ScreenshotRemovalTest, undoAndRedoWaitForTheBatchThatRunsAndKeepTheirOrder) {
     const QStringList names = writeOld(12);
     start();
