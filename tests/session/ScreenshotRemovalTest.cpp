@@ -1,5 +1,4 @@
 #include "session/LiveSession.h"
-#include "session/ScreenshotRemovalError.h"
 #include "support/Unprivileged.h"
 
 #include <sys/stat.h>
@@ -12,16 +11,41 @@ namespace {
 const QString couldNotMove = QStringLiteral("Couldn’t Move to Trash");
 const QString moveToTrash = QStringLiteral("Move to Trash");
 
+void changeMode(const QString &file, mode_t mode) {
+    ASSERT_EQ(::chmod(QFile::encodeName(file).constData(), mode), 0);
+}
+
+// Another file is put in its place.
+void replace(const QString &file) {
+    ASSERT_EQ(::rename(qPrintable(writeFile(file + u'~', "other")), qPrintable(file)), 0);
+}
+
+enum Spoiling { nothing, replaced, pinned, vanished, locked, kinds };
+
+// Gives what the user is to read.
+QString spoil(LiveSession &live, Spoiling spoiling, const QString &name) {
+    const QString changed = QStringLiteral("The original file has changed.");
+    switch (spoiling) {
+    case replaced:
+        replace(live.path(name));
+        return changed;
+    case vanished:
+        QFile::remove(live.path(name));
+        return changed;
+    case locked:
+        return QStringLiteral("“%1” could not be moved to the Trash: Permission denied.").arg(name);
+    case pinned:
+        EXPECT_TRUE(live.settings.setScreenshotsPinned({live.path(name)}, true));
+        break;
+    case nothing:
+    case kinds:
+        break;
+    }
+    return {};
+}
+
 class ScreenshotRemovalTest : public testing::Test, protected LiveSession {
 protected:
-    void changeMode(const QString &file, mode_t mode) const {
-        ASSERT_EQ(::chmod(QFile::encodeName(file).constData(), mode), 0);
-    }
-    // Another file is put in its place.
-    void replace(const QString &name) const {
-        writeFile(path(QStringLiteral("other")), "other");
-        ASSERT_EQ(::rename(qPrintable(path(QStringLiteral("other"))), qPrintable(path(name))), 0);
-    }
     void remove(const QStringList &names) { session.removeScreenshots(shots(names)); }
 };
 
@@ -76,14 +100,13 @@ TEST_F(ScreenshotRemovalTest, whatWasRemovedComesBackAsItWasAsOftenAsTheUserLike
 }
 
 TEST_F(ScreenshotRemovalTest, eachFileFailsByItselfAndTheOthersGo) {
-    constexpr int kinds = 5;
     for (const int count : {2, 500}) {
         LiveSession live;
         changeMode(live.parts.home.path(), 0777);
         changeMode(live.folder, 0777);
         QDir().mkpath(live.path(QStringLiteral("locked")));
-        QStringList names = live.writeOld(count);
-        for (int i = 4; i < count; i += kinds)
+        const QStringList names = live.writeOld(count);
+        for (int i = locked; i < count; i += kinds)
             ASSERT_TRUE(
                 QFile::rename(live.path(names.at(i)), live.path(QStringLiteral("locked/") + names.at(i))));
         live.start();
@@ -92,29 +115,11 @@ TEST_F(ScreenshotRemovalTest, eachFileFailsByItselfAndTheOthersGo) {
         QStringList gone;
         QStringList lines;
         for (int i = 0; i < count; ++i) {
-            const QString &name = names.at(i);
-            switch (i % kinds) {
-            case 0:
-                gone += name;
-                break;
-            case 1:
-                ASSERT_EQ(::rename(qPrintable(writeFile(live.path(QStringLiteral("other")))),
-                                   qPrintable(live.path(name))),
-                          0);
-                lines += name + QStringLiteral(": The original file has changed.");
-                break;
-            case 2:
-                ASSERT_TRUE(live.settings.setScreenshotsPinned({live.path(name)}, true));
-                break;
-            case 3:
-                QFile::remove(live.path(name));
-                lines += name + QStringLiteral(": The original file has changed.");
-                break;
-            default:
-                lines +=
-                    name +
-                    QStringLiteral(": “%1” could not be moved to the Trash: Permission denied.").arg(name);
-            }
+            const QString sentence = spoil(live, static_cast<Spoiling>(i % kinds), names.at(i));
+            if (i % kinds == 0)
+                gone += names.at(i);
+            else if (!sentence.isEmpty())
+                lines += names.at(i) + QStringLiteral(": ") + sentence;
         }
         changeMode(live.path(QStringLiteral("locked")), 0555);
         {
@@ -192,7 +197,7 @@ TEST_F(ScreenshotRemovalTest, theEditorsScreenshotGoesUnlessItIsPinned) {
     EXPECT_EQ(shown(), names.mid(1)) << "a scan from before does not bring it back";
     session.undo();
     EXPECT_EQ(shown(), names);
-    replace(names.last());
+    replace(path(names.last()));
     EXPECT_EQ(fromEditor(listed.at(1)), QStringLiteral("The original file has changed."));
     EXPECT_TRUE(errors.isEmpty()) << "the editor tells it";
 }
@@ -202,7 +207,7 @@ TEST_F(ScreenshotRemovalTest, whatTheEditorSavedAMomentAgoIsKnownBeforeTheNextSc
     start();
     const QString file = path(names.first());
     session.beginEditorSave(shots(names).front());
-    replace(names.first());
+    replace(file);
     session.finishEditorWrite(file);
     const auto identity = ScreenshotFileIdentity::of(file, *parts.files.facts(file));
     ASSERT_TRUE(session.removeScreenshotFromEditor(file, identity));

@@ -1,8 +1,5 @@
 #include "session/LiveSession.h"
-#include "session/ScreenshotRemovalError.h"
-#include "support/Unprivileged.h"
 
-#include <sys/stat.h>
 #include <sys/xattr.h>
 
 using namespace std::chrono_literals;
@@ -13,7 +10,7 @@ namespace {
 class ScreenshotRestoreTest : public testing::Test, protected LiveSession {
 protected:
     QStringList startWith(int count) {
-        const QStringList names = writeOld(count);
+        QStringList names = writeOld(count);
         start();
         return names;
     }
@@ -145,9 +142,8 @@ TEST_F(ScreenshotRestoreTest, theFileHasEverythingItHad) {
 
 TEST_F(ScreenshotRestoreTest, whatComesBackIsShownHeardAndSparedByAutoClean) {
     parts.defaults.setStringArray(QStringLiteral("dismissed"), {QStringLiteral("another")});
-    LiveSession &live = *this;
     const QStringList names = startWith(2);
-    for (const Shot &shot : live.shots(names))
+    for (const Shot &shot : shots(names))
         session.dismissed.insert(shot.stamp);
     session.isRunning = true;
     settings.setScreenshotAutoClean(ScreenshotAutoCleanPeriod::oneDay);
