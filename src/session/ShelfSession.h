@@ -133,6 +133,7 @@ private:
     // Removal.
     [[nodiscard]] ScreenshotRemovalContext screenshotRemovalContext() const;
     void moveToTrash(const std::vector<Shot> &shots, Phase phase);
+    void forgetRemoved(RemovalBatch &batch) const;
     [[nodiscard]] bool isPinned(const QString &path, const ScreenshotFileIdentity &identity) const;
     // Nothing when the file is pinned and stays.
     [[nodiscard]] Result<std::optional<RemovedScreenshot>> trashScreenshot(const Shot &shot, bool automatic);
@@ -153,8 +154,10 @@ private:
     void reportFailures(const QString &title, const QStringList &failures) const;
 
     // Editor.
-    [[nodiscard]] EditorSaveContext::Written writtenFile(const QString &path,
-                                                         const EditorSaveContext &context) const;
+    [[nodiscard]] std::optional<QString> pinnedPath(const QString &path,
+                                                    const ScreenshotFileIdentity &identity) const;
+    [[nodiscard]] std::optional<EditorSaveContext::Written>
+    writtenFile(const QString &path, const EditorSaveContext &context) const;
     void rebind(const EditorSaveContext &context, const EditorSaveContext::Written &written);
 
     // Auto-clean.

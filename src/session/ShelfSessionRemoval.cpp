@@ -52,6 +52,10 @@ void ShelfSession::moveToTrash(const std::vector<Shot> &shots, Phase phase) {
     m_settings.refreshUnresolvedPins();
     const auto batch = std::make_shared<RemovalBatch>(RemovalBatch{shots, screenshotRemovalContext()});
     const auto step = [this, batch] {
+        if (batch->next == 0)
+            forgetRemoved(*batch);
+        if (batch->shots.empty())
+            return false;
         const Shot &shot = batch->shots[batch->next++];
         auto moved = trashScreenshot(shot, false);
         if (!moved)
@@ -66,6 +70,17 @@ void ShelfSession::moveToTrash(const std::vector<Shot> &shots, Phase phase) {
         reportFailures(translated(QT_TRANSLATE_NOOP("ScreenshotRemoval", "Couldn’t Move to Trash")),
                        batch->failures);
     });
+}
+
+// What left the shelf while the batch waited, as the user asked for it twice.
+void ShelfSession::forgetRemoved(RemovalBatch &batch) const {
+    const FolderShelf &shelf = folderShelf();
+    if (shelf.url != batch.context.folder || shelf.errorText)
+        return;
+    QSet<ScreenshotFileIdentity> left(batch.context.order.cbegin(), batch.context.order.cend());
+    for (const Shot &shot : shelf.shots)
+        left.remove(shot.identity);
+    std::erase_if(batch.shots, [&left](const Shot &shot) { return left.contains(shot.identity); });
 }
 
 bool ShelfSession::isPinned(const QString &path, const ScreenshotFileIdentity &identity) const {
@@ -140,13 +155,14 @@ Result<void> ShelfSession::removeScreenshotFromEditor(const QString &path,
     const auto known = std::ranges::find(shelf.shots, identity, &Shot::identity);
     const Shot shot = known == shelf.shots.end() ? Shot{.location = path, .identity = identity} : *known;
     const ScreenshotRemovalContext context = screenshotRemovalContext();
+    m_fileWatcher->pause();
     const auto moved = trashScreenshot(shot, false);
+    if (moved && *moved)
+        finishScreenshotRemoval({**moved}, context, false, true, Phase::doing);
+    m_fileWatcher->resume();
     if (!moved)
         return failure(moved.error());
-    if (!*moved)
-        return failure(ScreenshotRemovalError::isPinned());
-    finishScreenshotRemoval({**moved}, context, false, true, Phase::doing);
-    return {};
+    return *moved ? Result<void>() : failure(ScreenshotRemovalError::isPinned());
 }
 
 } // namespace tembra

@@ -56,7 +56,9 @@ Result<void> ShelfSession::restoreScreenshot(const RemovedScreenshot &removed,
 void ShelfSession::finishRestore(const RestoreBatch &batch) {
     if (!batch.restored.empty()) {
         forgetDismissal(batch.restored);
-        putBackOnShelf(batch.restored, batch.context);
+        // The folder may have been changed since the first of them came back.
+        if (folderShelf().url == batch.context.folder)
+            putBackOnShelf(batch.restored, batch.context);
         QStringList paths;
         std::vector<Shot> shots;
         for (const RemovedScreenshot &screenshot : batch.restored) {

@@ -36,7 +36,12 @@ struct SessionServices {
     LinuxCaptureMarkers markers;
     LinuxPictureDecoder pictures;
     ScreenshotCaptureDetector detector{markers, folderFiles};
-    LinuxTrash trash{files, trashFolder};
+    // Told of every step of a move.
+    std::function<void(const char *)> onTrashStep;
+    LinuxTrash trash{files, trashFolder, systemNow, [this](const char *step) {
+                         if (onTrashStep)
+                             onTrashStep(step);
+                     }};
 
     [[nodiscard]] ShelfSessionServices services() {
         return {.scheduler = scheduler,
