@@ -144,10 +144,12 @@ private:
 
     // Restore.
     void restoreScreenshots(const std::vector<RemovedScreenshot> &removed,
-                            const ScreenshotRemovalContext &context, Phase phase);
+                            const ScreenshotRemovalContext &context, const QString &actionName, Phase phase);
     [[nodiscard]] Result<void> restoreScreenshot(const RemovedScreenshot &removed,
                                                  const ScreenshotRemovalContext &context);
-    void finishRestore(const RestoreBatch &batch);
+    // Tells auto-clean of those that came back since.
+    void protect(RestoreBatch &batch);
+    void finishRestore(RestoreBatch &batch);
     void putBackOnShelf(const std::vector<RemovedScreenshot> &restored,
                         const ScreenshotRemovalContext &context);
     void forgetDismissal(const std::vector<RemovedScreenshot> &restored);
@@ -191,6 +193,8 @@ private:
     std::optional<QString> m_scheduledAutoCleanFolder;
     std::shared_ptr<AutoCleanCancellation> m_autoCleanCancellation =
         std::make_shared<AutoCleanCancellation>();
+    // Previews are asked for by themselves, whatever becomes of the runs; they end with the session.
+    std::shared_ptr<AutoCleanCancellation> m_previewCancellation = std::make_shared<AutoCleanCancellation>();
     WorkItem m_autoCleanTimer;
     std::optional<Uptime> m_nextAutoCleanCheck;
 

@@ -97,8 +97,8 @@ void ShelfSession::runAutoCleanCheck(Instant now, bool allowSettings) {
     if (m_autoCleanProcessing || isHeldByUser(allowSettings))
         return scheduleAutoClean(whileBusy);
     m_settings.refreshUnresolvedPins();
-    if (m_settings.hasUnavailablePins()) {
-        qCInfo(log, "Auto-clean deferred: unresolved pins");
+    if (m_settings.unavailablePinCount() > 0) {
+        qCInfo(log, "Auto-clean deferred: unresolved pins (%d)", m_settings.unavailablePinCount());
         return scheduleAutoClean(whileUnavailable);
     }
     startAutoCleanRun(now);
@@ -189,11 +189,10 @@ void ShelfSession::previewAutoClean(ScreenshotAutoCleanPeriod period,
     if (period == ScreenshotAutoCleanPeriod::never || !folder)
         return completion(0);
     m_settings.refreshUnresolvedPins();
-    if (m_settings.hasUnavailablePins())
+    if (m_settings.unavailablePinCount() > 0)
         return completion(failure(pinsUnavailable()));
     AutoCleanRequest request = autoCleanRequest(period, *folder, m_services.now());
-    // A preview is asked for by itself, whatever becomes of the runs meanwhile.
-    request.cancellation = std::make_shared<AutoCleanCancellation>();
+    request.cancellation = m_previewCancellation;
     performInBackground(
         m_services.autoCleanQueue, m_services.scheduler, m_life.ticket(),
         [scan = m_services.autoCleanScan, request] { return scan->candidates(request); },

@@ -4,6 +4,7 @@
 #include "session/ScreenshotRemovalError.h"
 #include "session/ShelfSession.h"
 #include "settings/AppSettings.h"
+#include "settings/FolderPath.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -90,15 +91,19 @@ bool ShelfSession::isPinned(const QString &path, const ScreenshotFileIdentity &i
 }
 
 Result<std::optional<RemovedScreenshot>> ShelfSession::trashScreenshot(const Shot &shot, bool automatic) {
-    if (automatic && m_settings.hasUnavailablePins())
+    if (automatic && m_settings.unavailablePinCount() > 0)
         return failure(ScreenshotRemovalError::pinsUnavailable());
+    if (isPinned(shot.location, shot.identity))
+        return std::nullopt;
     const QString path = shot.currentPath(m_services.files, m_services.references);
     if (path.isEmpty())
         return failure(ScreenshotRemovalError::hasChanged());
     if (isPinned(path, shot.identity))
         return std::nullopt;
     // What is cleaned away by itself must lie where the shelf looks; what the user chose may have moved.
-    const Trash::Guard guard{.root = automatic ? folderShelf().url.value_or(QString()) : QString(),
+    if (automatic && !folderShelf().url)
+        return failure(ScreenshotRemovalError::hasChanged());
+    const Trash::Guard guard{.root = automatic ? withoutLinks(*folderShelf().url) : QString(),
                              .isExpected = [&](const FileFacts &facts) {
                                  return ScreenshotFileIdentity::of(path, facts) == shot.identity;
                              }};
@@ -122,8 +127,9 @@ void ShelfSession::finishScreenshotRemoval(const std::vector<RemovedScreenshot> 
     takeOffShelf(removed);
     const QString name = automatic ? translated(QT_TRANSLATE_NOOP("ScreenshotRemoval", "Auto-clean"))
                                    : translated(QT_TRANSLATE_NOOP("ScreenshotRemoval", "Move to Trash"));
-    screenshotUndoManager.registerAction(
-        phase, name, [this, removed, context](Phase next) { restoreScreenshots(removed, context, next); });
+    screenshotUndoManager.registerAction(phase, name, [this, removed, context, name](Phase next) {
+        restoreScreenshots(removed, context, name, next);
+    });
     if (playConfirmationSound)
         playScreenshotTrashSound();
     changed();
