@@ -38,11 +38,13 @@ struct SessionServices {
     ScreenshotCaptureDetector detector{markers, folderFiles};
     LinuxTrash trash{files, trashFolder};
 
-    [[nodiscard]] ShelfSessionServices services() {
+    [[nodiscard]] ShelfSessionServices services() { return services(defaults); }
+    // With the stored values of somebody else.
+    [[nodiscard]] ShelfSessionServices services(UserDefaults &stored) {
         return {.scheduler = scheduler,
                 .uptime = scheduler.uptimeClock(),
                 .now = now,
-                .defaults = defaults,
+                .defaults = stored,
                 .files = files,
                 .references = references,
                 .trash = trash,
