@@ -89,7 +89,7 @@ private:
         const FileFacts facts = file.facts();
         if (!isOldEnough(facts, m_request) ||
             (facts.resource && m_protectedFiles.contains(*facts.resource)) ||
-            !m_detector.classify(fileName, file, m_customPrefix))
+            !m_detector.isCapture(fileName, file, m_customPrefix))
             return;
         const bool isWhole =
             m_detector.isVideoName(fileName) ||
