@@ -13,7 +13,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr int folderCount = 2500;
+constexpr int folderCount = 2000;
 constexpr std::chrono::days period{30};
 constexpr std::chrono::days longAgo{40};
 
