@@ -64,16 +64,14 @@ public:
           m_protectedFiles(protectedFiles(request)) {}
 
     void visit(const FolderFiles::Listed &listed) {
-        const FileVersion &version = listed.version();
-        if (!CaptureMedia::mayBeMedia(listed.relativePath()) ||
-            std::max(version.modifiedAt, version.changedAt) >= m_request.now - settling)
+        if (!CaptureMedia::mayBeMedia(listed.relativePath()))
             return;
         const std::string_view relative = listed.relativePath();
         const auto name = QByteArray::fromRawData(relative.data(), static_cast<qsizetype>(relative.size()));
         if (m_protectedNames.contains(name))
             return;
         if (const auto file = listed.open())
-            judge(QFile::decodeName(name), version, **file);
+            judge(QFile::decodeName(name), **file);
     }
 
     [[nodiscard]] std::vector<AutoCleanCandidate> found() {
@@ -84,17 +82,17 @@ public:
     }
 
 private:
-    void judge(const QString &name, const FileVersion &version, const OpenFile &file) {
+    void judge(const QString &name, const OpenFile &file) {
         const QStringView fileName = QStringView(name).sliced(name.lastIndexOf(u'/') + 1);
         const FileFacts facts = file.facts();
         if (!isOldEnough(facts, m_request) ||
             (facts.resource && m_protectedFiles.contains(*facts.resource)) ||
             !m_detector.isCapture(fileName, file, m_customPrefix))
             return;
+        const auto stillFor = CaptureCompleteness::stillFor({.modifiedAt = facts.modifiedAt}, m_request.now);
         const bool isWhole =
             m_detector.isVideoName(fileName) ||
-            CaptureCompleteness::isComplete(file, CaptureMedia::extension(fileName), false,
-                                            CaptureCompleteness::stillFor(version, m_request.now));
+            CaptureCompleteness::isComplete(file, CaptureMedia::extension(fileName), false, stillFor);
         if (!isWhole)
             return;
         const QString path = m_request.root + u'/' + name;
