@@ -29,7 +29,8 @@ public:
     ScreenshotAutoCleanScan(const FolderFiles &files, const ScreenshotCaptureDetector &detector,
                             std::function<QString()> customPrefix);
 
-    // Oldest first. When it was cancelled, what had been found until then.
+    // Oldest first, their paths beginning with the root as it was given. When it was cancelled, what had been
+    // found until then.
     [[nodiscard]] Result<std::vector<AutoCleanCandidate>> candidates(const AutoCleanRequest &request) const;
     // Whether the dates let the file go.
     [[nodiscard]] static bool isOldEnough(const FileFacts &facts, const AutoCleanRequest &request);

@@ -158,7 +158,7 @@ void ShelfSession::consumeAutoClean(const Result<std::vector<AutoCleanCandidate>
 void ShelfSession::cleanCandidate(AutoCleanBatch &batch, const AutoCleanCandidate &candidate) {
     const auto facts = m_services.files.facts(candidate.path);
     const bool isStillIt =
-        facts && ScreenshotFileIdentity::of(candidate.path, *facts) == candidate.identity &&
+        facts && folderShelf().url == batch.request.root && ScreenshotFileIdentity::of(candidate.path, *facts) == candidate.identity &&
         ScreenshotAutoCleanScan::isOldEnough(*facts, batch.request) && m_services.isCapture(candidate.path) &&
         ScreenshotAutoCleanScan::isSafeDescendant(candidate.path, batch.request.root,
                                                   batch.request.includesSubfolders);

@@ -52,9 +52,9 @@ void ShelfSession::reviewAutoCleanAfterUpdate() {
         if (!isWanted)
             return;
         if (isAutoCleanFor(period, folder))
-            reviewCounted(count, period, folder);
-        else
-            scheduleAutoClean(Scheduler::Duration::zero());
+            return reviewCounted(count, period, folder);
+        // A check of what holds now has found this one under way.
+        scheduleAutoClean(Scheduler::Duration::zero());
     });
 }
 

@@ -43,11 +43,13 @@ struct SessionServices {
                              onTrashStep(step);
                      }};
 
-    [[nodiscard]] ShelfSessionServices services() {
+    [[nodiscard]] ShelfSessionServices services() { return services(defaults); }
+    // With the stored values of somebody else.
+    [[nodiscard]] ShelfSessionServices services(UserDefaults &stored) {
         return {.scheduler = scheduler,
                 .uptime = scheduler.uptimeClock(),
                 .now = now,
-                .defaults = defaults,
+                .defaults = stored,
                 .files = files,
                 .references = references,
                 .trash = trash,
