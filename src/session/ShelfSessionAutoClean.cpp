@@ -157,11 +157,12 @@ void ShelfSession::consumeAutoClean(const Result<std::vector<AutoCleanCandidate>
 
 void ShelfSession::cleanCandidate(AutoCleanBatch &batch, const AutoCleanCandidate &candidate) {
     const auto facts = m_services.files.facts(candidate.path);
-    const bool isStillIt =
-        facts && folderShelf().url == batch.request.root && ScreenshotFileIdentity::of(candidate.path, *facts) == candidate.identity &&
-        ScreenshotAutoCleanScan::isOldEnough(*facts, batch.request) && m_services.isCapture(candidate.path) &&
-        ScreenshotAutoCleanScan::isSafeDescendant(candidate.path, batch.request.root,
-                                                  batch.request.includesSubfolders);
+    const bool isStillIt = facts && folderShelf().url == batch.request.root &&
+                           ScreenshotFileIdentity::of(candidate.path, *facts) == candidate.identity &&
+                           ScreenshotAutoCleanScan::isOldEnough(*facts, batch.request) &&
+                           m_services.isCapture(candidate.path) &&
+                           ScreenshotAutoCleanScan::isSafeDescendant(candidate.path, batch.request.root,
+                                                                     batch.request.includesSubfolders);
     if (!isStillIt)
         return;
     const Shot scanned{

@@ -4,7 +4,6 @@
 #include "session/ScreenshotRemovalError.h"
 #include "session/ShelfSession.h"
 #include "settings/AppSettings.h"
-#include "settings/FolderPath.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -103,7 +102,7 @@ Result<std::optional<RemovedScreenshot>> ShelfSession::trashScreenshot(const Sho
     // What is cleaned away by itself must lie where the shelf looks; what the user chose may have moved.
     if (automatic && !folderShelf().url)
         return failure(ScreenshotRemovalError::hasChanged());
-    const Trash::Guard guard{.root = automatic ? withoutLinks(*folderShelf().url) : QString(),
+    const Trash::Guard guard{.root = automatic ? *folderShelf().url : QString(),
                              .isExpected = [&](const FileFacts &facts) {
                                  return ScreenshotFileIdentity::of(path, facts) == shot.identity;
                              }};

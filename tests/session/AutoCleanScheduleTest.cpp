@@ -119,7 +119,7 @@ TEST_F(AutoCleanScheduleTest, waitsWhileAPinCannotBeFound) {
     finishCheck();
     EXPECT_EQ(nextCheck(), Delay(300s));
     EXPECT_EQ(parts.scheduler.nextTolerance(), 60s);
-    EXPECT_TRUE(messages.contains(QStringLiteral("Auto-clean deferred: unresolved pins")));
+    EXPECT_TRUE(messages.contains(QStringLiteral("Auto-clean deferred: unresolved pins (1)")));
     m_absent.clear();
     parts.scheduler.advance(300s);
     finishScan();
