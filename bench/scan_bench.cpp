@@ -1,6 +1,7 @@
 // Reading a folder of captures, beside a bare loop of readdir, statx and getxattr over the same folder in the
 // same run.
 
+#include "BareLoop.h"
 #include "CaptureFolder.h"
 #include "Row.h"
 #include "platform/linux/LinuxCaptureMarkers.h"
@@ -13,35 +14,13 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include <array>
-#include <dirent.h>
-#include <fcntl.h>
 #include <fstream>
-#include <sys/stat.h>
-#include <sys/xattr.h>
 #include <unistd.h>
 
 using namespace tembra;
 using namespace tembra::bench;
 
 namespace {
-
-// What cannot be done without: each entry's facts and its marker.
-double bareLoop(const QString &folder) {
-    return milliseconds([&folder] {
-        DIR *entries = opendir(QFile::encodeName(folder).constData());
-        const int descriptor = dirfd(entries);
-        std::array<char, 64> value{};
-        while (const dirent *entry = readdir(entries)) {
-            struct statx facts {};
-            statx(descriptor, entry->d_name, AT_SYMLINK_NOFOLLOW, STATX_BASIC_STATS | STATX_BTIME, &facts);
-            const QByteArray path = QFile::encodeName(folder) + '/' + entry->d_name;
-            getxattr(path.constData(), "user.com.apple.metadata:kMDItemIsScreenCapture", value.data(),
-                     value.size());
-        }
-        closedir(entries);
-    });
-}
 
 class Scanner {
 public:

@@ -11,7 +11,8 @@ SlicedWork::SlicedWork(Scheduler &scheduler, UptimeClock uptime)
 
 void SlicedWork::start(std::function<bool()> step, std::function<void()> done) {
     requireMainThread();
-    m_jobs.push_back({std::move(step), std::move(done)});
+    const auto place = m_followers ? m_jobs.begin() + ++*m_followers : m_jobs.end();
+    m_jobs.insert(place, {std::move(step), std::move(done)});
     if (!m_isInSlice && !m_nextSlice.isPending())
         run();
 }
@@ -22,10 +23,11 @@ void SlicedWork::run() {
     while (!m_jobs.empty() && m_uptime() < end) {
         if (m_jobs.front().step())
             continue;
-        // What follows may start another job, which waits for its turn.
-        const Job finished = std::move(m_jobs.front());
+        const auto done = std::move(m_jobs.front().done);
+        m_followers = 0;
+        done();
+        m_followers.reset();
         m_jobs.pop_front();
-        finished.done();
     }
     m_isInSlice = false;
     if (!m_jobs.empty())

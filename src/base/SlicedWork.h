@@ -3,8 +3,10 @@
 #include "base/Clocks.h"
 #include "base/Scheduler.h"
 
+#include <cstddef>
 #include <deque>
 #include <functional>
+#include <optional>
 
 namespace tembra {
 
@@ -19,7 +21,7 @@ public:
     SlicedWork(Scheduler &scheduler, UptimeClock uptime);
 
     // `step` does one thing and tells whether there is another; `done` follows the last. The first slice runs
-    // at once unless another job is under way.
+    // at once unless another job is under way. What `done` starts comes before the jobs that wait.
     void start(std::function<bool()> step, std::function<void()> done);
     [[nodiscard]] bool isRunning() const { return !m_jobs.empty(); }
 
@@ -35,6 +37,8 @@ private:
     const UptimeClock m_uptime;
     std::deque<Job> m_jobs;
     bool m_isInSlice = false;
+    // While a job's `done` runs: how many jobs it has started.
+    std::optional<std::ptrdiff_t> m_followers;
     WorkItem m_nextSlice;
 };
 

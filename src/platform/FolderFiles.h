@@ -21,6 +21,7 @@ public:
         virtual ~Listed() = default;
         // Relative to the folder listed, in the file system's own bytes.
         [[nodiscard]] virtual std::string_view relativePath() const = 0;
+        // Empty when the file has just gone.
         [[nodiscard]] virtual const FileVersion &version() const = 0;
         [[nodiscard]] virtual Result<std::unique_ptr<OpenFile>> open() const = 0;
     };

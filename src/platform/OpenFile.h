@@ -14,8 +14,9 @@ namespace tembra {
 class OpenFile {
 public:
     virtual ~OpenFile() = default;
+    // As the file was opened.
     [[nodiscard]] virtual FileFacts facts() const = 0;
-    // In bytes, as the file was opened: costs nothing, where `facts` asks the system.
+    // In bytes, as the file was opened: costs nothing, where `facts` asks the system for more.
     [[nodiscard]] virtual std::uint64_t size() const = 0;
     // An extended attribute by its name without a platform's prefix; nothing when it is absent.
     [[nodiscard]] virtual std::optional<QByteArray> attribute(const char *name) const = 0;

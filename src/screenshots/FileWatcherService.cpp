@@ -84,6 +84,7 @@ void FileWatcherService::stop() {
         work->cancel();
     m_scanRequested = false;
     m_scanning = false;
+    m_isScanOutdated = false;
     m_heldArrivals.clear();
     m_earliestScan.reset();
     m_pendingTreeEventID = 0;
@@ -209,6 +210,7 @@ void FileWatcherService::scheduleScan(ScanReason reason) {
 void FileWatcherService::pause() {
     requireMainThread();
     ++m_pauses;
+    m_isScanOutdated = m_scanning;
 }
 
 void FileWatcherService::resume() {
@@ -251,10 +253,9 @@ void FileWatcherService::scanFolder() {
 void FileWatcherService::apply(FolderScanResult result) {
     m_scanning = false;
     // It was found before the moves: told, it would bring back what they took away.
-    if (m_pauses > 0) {
-        m_scanRequested = true;
+    if (std::exchange(m_isScanOutdated, false) || m_pauses > 0) {
         std::ranges::move(result.arrivals, std::back_inserter(m_heldArrivals));
-        return;
+        return scheduleScan(ScanReason::request);
     }
     if (m_scanRequested)
         scheduleScan(ScanReason::request);

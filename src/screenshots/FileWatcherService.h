@@ -105,7 +105,9 @@ private:
     bool m_scanRequested = false;
     bool m_scanning = false;
     int m_pauses = 0;
-    // New captures that a scan met whose result came while paused.
+    // The scan that is under way may have read the folder before a pause.
+    bool m_isScanOutdated = false;
+    // New captures that a scan met whose result was not told.
     std::vector<Shot> m_heldArrivals;
     std::optional<Uptime> m_earliestScan;
     WorkItem m_scanWork;

@@ -23,11 +23,31 @@ Instant creationDate(const FileFacts &facts) {
     return facts.createdAt.value_or(std::max(facts.modifiedAt, facts.changedAt));
 }
 
-QSet<QString> withAliases(QSet<QString> paths) {
-    const QSet<QString> written = paths;
-    for (const QString &path : written)
-        paths.insert(withoutLinks(path));
-    return paths;
+// The names below the root, as its listing tells them, of what the user has protected there by path.
+QSet<QByteArray> protectedNames(const AutoCleanRequest &request) {
+    QSet<QString> paths = request.pinnedPaths;
+    for (auto spared = request.gracePaths.cbegin(); spared != request.gracePaths.cend(); ++spared) {
+        if (spared.value() > request.now)
+            paths.insert(spared.key());
+    }
+    const QString root = withoutLinks(request.root) + u'/';
+    QSet<QByteArray> names;
+    for (const QString &path : std::as_const(paths)) {
+        for (const QString &alias : {path, withoutLinks(path)}) {
+            if (alias.startsWith(root))
+                names.insert(QFile::encodeName(alias.sliced(root.size())));
+        }
+    }
+    return names;
+}
+
+QSet<FileResource> protectedFiles(const AutoCleanRequest &request) {
+    QSet<FileResource> files = request.pinnedFiles;
+    for (auto spared = request.graceFiles.cbegin(); spared != request.graceFiles.cend(); ++spared) {
+        if (spared.value() > request.now)
+            files.insert(spared.key());
+    }
+    return files;
 }
 
 } // namespace
@@ -40,22 +60,18 @@ public:
         : m_detector(detector),
           m_request(request),
           m_customPrefix(customPrefix),
-          m_root(withoutLinks(request.root)),
-          m_pinnedPaths(withAliases(request.pinnedPaths)) {}
+          m_protectedNames(protectedNames(request)),
+          m_protectedFiles(protectedFiles(request)) {}
 
     void visit(const FolderFiles::Listed &listed) {
-        const FileVersion &version = listed.version();
-        if (!CaptureMedia::mayBeMedia(listed.relativePath()) ||
-            std::max(version.modifiedAt, version.changedAt) >= m_request.now - settling)
+        if (!CaptureMedia::mayBeMedia(listed.relativePath()))
             return;
         const std::string_view relative = listed.relativePath();
-        const QString path =
-            m_root + u'/' +
-            QFile::decodeName(QByteArray(relative.data(), static_cast<qsizetype>(relative.size())));
-        if (m_pinnedPaths.contains(path) || isSpared(path, m_request.gracePaths))
+        const auto name = QByteArray::fromRawData(relative.data(), static_cast<qsizetype>(relative.size()));
+        if (m_protectedNames.contains(name))
             return;
         if (const auto file = listed.open())
-            judge(path, version, **file);
+            judge(QFile::decodeName(name), **file);
     }
 
     [[nodiscard]] std::vector<AutoCleanCandidate> found() {
@@ -66,39 +82,32 @@ public:
     }
 
 private:
-    void judge(const QString &path, const FileVersion &version, const OpenFile &file) {
-        const QStringView fileName = QStringView(path).sliced(path.lastIndexOf(u'/') + 1);
+    void judge(const QString &name, const OpenFile &file) {
+        const QStringView fileName = QStringView(name).sliced(name.lastIndexOf(u'/') + 1);
         const FileFacts facts = file.facts();
-        if (!isOldEnough(facts, m_request) || isExempt(facts.resource) ||
-            !m_detector.classify(fileName, file, m_customPrefix))
+        if (!isOldEnough(facts, m_request) ||
+            (facts.resource && m_protectedFiles.contains(*facts.resource)) ||
+            !m_detector.isCapture(fileName, file, m_customPrefix))
             return;
+        const auto stillFor = CaptureCompleteness::stillFor({.modifiedAt = facts.modifiedAt}, m_request.now);
         const bool isWhole =
             m_detector.isVideoName(fileName) ||
-            CaptureCompleteness::isComplete(file, CaptureMedia::extension(fileName), false,
-                                            CaptureCompleteness::stillFor(version, m_request.now));
-        if (isWhole)
-            m_found.push_back({.path = path,
-                               .identity = ScreenshotFileIdentity::of(path, facts),
-                               .createdAt = creationDate(facts),
-                               .modifiedAt = facts.modifiedAt,
-                               .size = facts.size});
-    }
-
-    [[nodiscard]] bool isExempt(const std::optional<FileResource> &file) const {
-        return file && (m_request.pinnedFiles.contains(*file) || isSpared(*file, m_request.graceFiles));
-    }
-
-    template <class Key>
-    [[nodiscard]] bool isSpared(const Key &key, const QHash<Key, Instant> &dates) const {
-        const auto date = dates.constFind(key);
-        return date != dates.cend() && *date > m_request.now;
+            CaptureCompleteness::isComplete(file, CaptureMedia::extension(fileName), false, stillFor);
+        if (!isWhole)
+            return;
+        const QString path = m_request.root + u'/' + name;
+        m_found.push_back({.path = path,
+                           .identity = ScreenshotFileIdentity::of(path, facts),
+                           .createdAt = creationDate(facts),
+                           .modifiedAt = facts.modifiedAt,
+                           .size = facts.size});
     }
 
     const ScreenshotCaptureDetector &m_detector;
     const AutoCleanRequest &m_request;
     const QString m_customPrefix;
-    const QString m_root;
-    const QSet<QString> m_pinnedPaths;
+    const QSet<QByteArray> m_protectedNames;
+    const QSet<FileResource> m_protectedFiles;
     std::vector<AutoCleanCandidate> m_found;
 };
 
@@ -136,7 +145,7 @@ bool ScreenshotAutoCleanScan::isSafeDescendant(const QString &path, const QStrin
         fileName == u".." || file.isSymbolicLink())
         return false;
     const QString relative = QDir(canonicalRoot).relativeFilePath(canonicalFolder + u'/' + fileName);
-    return !relative.startsWith(u"../") && relative.count(u'/') < depth;
+    return relative != u"." && !relative.startsWith(u"../") && relative.count(u'/') < depth;
 }
 
 bool ScreenshotAutoCleanScan::isSafeDescendant(const QString &path, const QString &root, bool recursive) {

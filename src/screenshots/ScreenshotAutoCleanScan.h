@@ -29,14 +29,14 @@ public:
     ScreenshotAutoCleanScan(const FolderFiles &files, const ScreenshotCaptureDetector &detector,
                             std::function<QString()> customPrefix);
 
-    // Oldest first. When it was cancelled, what had been found until then.
+    // Oldest first, their paths beginning with the root as it was given. When it was cancelled, what had been
+    // found until then.
     [[nodiscard]] Result<std::vector<AutoCleanCandidate>> candidates(const AutoCleanRequest &request) const;
     // Whether the dates let the file go.
     [[nodiscard]] static bool isOldEnough(const FileFacts &facts, const AutoCleanRequest &request);
 
-    // Whether the path leads to something beneath the root that is no link itself, and on the way to which no
-    // link or
-    // ".." leads out. `depth` counts the names below the root: 1 is for what lies directly in it.
+    // Whether the path leads to something beneath the root that is no link itself, and no link or ".." on the
+    // way leads out. `depth` counts the names below the root: 1 is for what lies directly in it.
     [[nodiscard]] static bool isSafeDescendant(const QString &path, const QString &root, int depth);
     [[nodiscard]] static bool isSafeDescendant(const QString &path, const QString &root, bool recursive);
 

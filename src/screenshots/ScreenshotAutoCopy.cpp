@@ -7,6 +7,7 @@
 #include "settings/FolderPath.h"
 
 #include <algorithm>
+#include <ranges>
 #include <utility>
 
 namespace tembra {
@@ -54,6 +55,9 @@ void ScreenshotAutoCopy::receive(const std::vector<Shot> &shots, bool continuing
         m_received.insert(tembra::received(shot));
         paths.append(shot.location);
     }
+    // A series that has ended is not continued by what joins a later notification.
+    if (!continuingSeries && m_outstanding == 0)
+        m_series.clear();
     if (paths.isEmpty())
         return;
     if (!continuingSeries) {
@@ -105,8 +109,19 @@ void ScreenshotAutoCopy::write() {
         return;
     m_isPostponed = !m_services.pasteboard.writeObjects(items);
     m_changeCount = m_services.pasteboard.changeCount();
+    if (!m_isPostponed)
+        keepLastData();
     if (onFinished)
         onFinished(m_isPostponed ? Outcome::postponed : Outcome::copied);
+}
+
+// Only the last image is pasted as one; the others of a long series need not be held.
+void ScreenshotAutoCopy::keepLastData() {
+    bool isLast = true;
+    for (Image &image : std::views::reverse(m_series)) {
+        if (image.payload && !std::exchange(isLast, false))
+            image.payload->data.clear();
+    }
 }
 
 void ScreenshotAutoCopy::writePostponed() {

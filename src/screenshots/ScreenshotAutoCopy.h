@@ -32,7 +32,7 @@ public:
 
     struct Services {
         Pasteboard &pasteboard;
-        // The queue "Tembra.ScreenshotCopy".
+        // The queue "local.dova.Tembra.screenshot-copy".
         SerialQueue &queue;
         Scheduler &scheduler;
         // Reads a screenshot on the queue; nothing when that fails.
@@ -64,6 +64,7 @@ private:
     void load(const QString &path);
     void received(const QString &path, std::optional<Payload> payload);
     void write();
+    void keepLastData();
 
     const Services m_services;
     Instant m_enabledSince{};

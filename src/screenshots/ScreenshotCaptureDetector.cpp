@@ -30,6 +30,11 @@ std::optional<CaptureReason> ScreenshotCaptureDetector::classify(QStringView fil
         return *marker ? std::optional(CaptureReason::marker) : std::nullopt;
     if (m_markers.metadataSaysCapture(file))
         return CaptureReason::metadata;
+    return reasonOfName(fileName, isVideo, customPrefix);
+}
+
+std::optional<CaptureReason> ScreenshotCaptureDetector::reasonOfName(QStringView fileName, bool isVideo,
+                                                                     QStringView customPrefix) const {
     const QStringView baseName = fileName.first(fileName.lastIndexOf(u'.'));
     if (isCaptureName(baseName, isVideo, customPrefix))
         return CaptureReason::name;
@@ -37,9 +42,19 @@ std::optional<CaptureReason> ScreenshotCaptureDetector::classify(QStringView fil
                                                              : std::nullopt;
 }
 
+bool ScreenshotCaptureDetector::isCapture(QStringView fileName, const OpenFile &file,
+                                          QStringView customPrefix) const {
+    const bool isVideo = isVideoName(fileName);
+    if (!isVideo && !isImageName(fileName))
+        return false;
+    if (const auto marker = m_markers.marker(file))
+        return *marker;
+    return reasonOfName(fileName, isVideo, customPrefix) || m_markers.metadataSaysCapture(file);
+}
+
 bool ScreenshotCaptureDetector::isCapture(const QString &path, QStringView customPrefix) const {
     const auto file = m_files.open(path);
-    return file && classify(QFileInfo(path).fileName(), **file, customPrefix).has_value();
+    return file && isCapture(QFileInfo(path).fileName(), **file, customPrefix);
 }
 
 Result<void> ScreenshotCaptureDetector::preserveClassification(const QString &from, const QString &to,

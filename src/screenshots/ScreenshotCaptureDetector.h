@@ -29,6 +29,8 @@ public:
     // beginning of names that the user has set in the screenshot tool; empty when none.
     [[nodiscard]] std::optional<CaptureReason> classify(QStringView fileName, const OpenFile &file,
                                                         QStringView customPrefix) const;
+    // Whether there is such a reason, looking inside the file only when its name gives none.
+    [[nodiscard]] bool isCapture(QStringView fileName, const OpenFile &file, QStringView customPrefix) const;
     [[nodiscard]] bool isCapture(const QString &path, QStringView customPrefix = {}) const;
 
     // Marks a copy, or what was saved anew under another name, as the capture that `from` is, so that it
@@ -39,6 +41,9 @@ public:
     Result<void> markAsCapture(const QString &path) const;
 
 private:
+    [[nodiscard]] std::optional<CaptureReason> reasonOfName(QStringView fileName, bool isVideo,
+                                                            QStringView customPrefix) const;
+
     const CaptureMarkers &m_markers;
     const FolderFiles &m_files;
 };

@@ -16,7 +16,8 @@ struct EditorSaveContext {
     QString path;
     // Where it belongs.
     QString folder;
-    bool isPinned = false;
+    // Where the settings know it to be pinned; nothing when it is not.
+    std::optional<QString> pinnedPath;
     std::optional<Instant> createdAt;
 
     // What is found where the editor wrote.

@@ -35,6 +35,14 @@ Error ScreenshotRemovalError::folderHasChanged() {
     return removalError(QT_TRANSLATE_NOOP("ScreenshotRemoval", "The original folder has changed."));
 }
 
+Error ScreenshotRemovalError::folderUnavailable() {
+    return removalError(QT_TRANSLATE_NOOP("ScreenshotRemoval", "The original folder is unavailable."));
+}
+
+bool ScreenshotRemovalError::isOfFolder(const Error &error) {
+    return error == folderHasChanged() || error == folderUnavailable();
+}
+
 Error ScreenshotRemovalError::ofRemoval(const Error &error) {
     const bool isOtherFile = error.domain == Trash::errorDomain &&
                              (error.code == Trash::changed || error.code == Trash::outsideRoot);
@@ -53,7 +61,7 @@ Error ScreenshotRemovalError::ofRestore(const Error &error) {
             QT_TRANSLATE_NOOP("ScreenshotRemoval", "The original file is no longer at this location."));
     case Trash::folderUnavailable:
     case Trash::outsideRoot:
-        return removalError(QT_TRANSLATE_NOOP("ScreenshotRemoval", "The original folder is unavailable."));
+        return folderUnavailable();
     default:
         return error;
     }

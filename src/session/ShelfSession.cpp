@@ -1,6 +1,7 @@
 #include "session/ShelfSession.h"
 
 #include "base/Background.h"
+#include "screenshots/CaptureMedia.h"
 #include "settings/AppSettings.h"
 
 #include <QCoreApplication>
@@ -44,6 +45,7 @@ ShelfSession::ShelfSession(AppSettings &settings, ShelfSessionServices services,
 
 ShelfSession::~ShelfSession() {
     m_autoCleanCancellation->cancel();
+    m_previewCancellation->cancel();
 }
 
 void ShelfSession::wire() {
@@ -81,7 +83,10 @@ void ShelfSession::folderChanged(FolderShelf &shelf, bool flag, int count) {
 void ShelfSession::followPins(const FolderShelf &shelf) {
     QHash<FileResource, QString> lost;
     for (const PinnedScreenshot &pin : m_settings.pinnedScreenshots()) {
-        if (pin.resolved && pin.resolved->reference && !m_services.files.facts(pin.resolved->path))
+        if (!pin.resolved || !pin.resolved->reference)
+            continue;
+        const auto facts = m_services.files.facts(pin.resolved->path);
+        if (!facts || facts->resource != pin.resolved->reference)
             lost.insert(*pin.resolved->reference, pin.resolved->path);
     }
     if (lost.isEmpty())
@@ -133,17 +138,21 @@ void ShelfSession::copyScreenshots(const std::vector<Shot> &shots) {
     if (shots.empty())
         return;
     std::vector<Pasteboard::Item> items;
-    for (const Shot &shot : shots)
+    std::size_t lastImage = 0;
+    for (const Shot &shot : shots) {
+        if (CaptureMedia::isImageExtension(CaptureMedia::extension(shot.location)))
+            lastImage = items.size();
         items.push_back({.path = shot.location});
+    }
     performInBackground(
         m_services.copyQueue, m_services.scheduler, m_life.ticket(),
-        [&pictures = m_services.pictures, path = shots.back().location] {
+        [&pictures = m_services.pictures, path = items[lastImage].path] {
             return ScreenshotImageData::load(path, pictures);
         },
-        [this, items = std::move(items)](const std::optional<ScreenshotImageData> &image) mutable {
+        [this, items, lastImage](const std::optional<ScreenshotImageData> &image) mutable {
             if (image) {
-                items.back().type = image->type;
-                items.back().data = image->data;
+                items[lastImage].type = image->type;
+                items[lastImage].data = image->data;
             }
             const auto written = m_services.pasteboard.writeObjects(items);
             if (!written && onError)

@@ -133,6 +133,7 @@ private:
     // Removal.
     [[nodiscard]] ScreenshotRemovalContext screenshotRemovalContext() const;
     void moveToTrash(const std::vector<Shot> &shots, Phase phase);
+    void forgetRemoved(RemovalBatch &batch) const;
     [[nodiscard]] bool isPinned(const QString &path, const ScreenshotFileIdentity &identity) const;
     // Nothing when the file is pinned and stays.
     [[nodiscard]] Result<std::optional<RemovedScreenshot>> trashScreenshot(const Shot &shot, bool automatic);
@@ -143,18 +144,22 @@ private:
 
     // Restore.
     void restoreScreenshots(const std::vector<RemovedScreenshot> &removed,
-                            const ScreenshotRemovalContext &context, Phase phase);
+                            const ScreenshotRemovalContext &context, const QString &actionName, Phase phase);
     [[nodiscard]] Result<void> restoreScreenshot(const RemovedScreenshot &removed,
                                                  const ScreenshotRemovalContext &context);
-    void finishRestore(const RestoreBatch &batch);
+    // Tells auto-clean of those that came back since.
+    void protect(RestoreBatch &batch);
+    void finishRestore(RestoreBatch &batch);
     void putBackOnShelf(const std::vector<RemovedScreenshot> &restored,
                         const ScreenshotRemovalContext &context);
     void forgetDismissal(const std::vector<RemovedScreenshot> &restored);
     void reportFailures(const QString &title, const QStringList &failures) const;
 
     // Editor.
-    [[nodiscard]] EditorSaveContext::Written writtenFile(const QString &path,
-                                                         const EditorSaveContext &context) const;
+    [[nodiscard]] std::optional<QString> pinnedPath(const QString &path,
+                                                    const ScreenshotFileIdentity &identity) const;
+    [[nodiscard]] std::optional<EditorSaveContext::Written>
+    writtenFile(const QString &path, const EditorSaveContext &context) const;
     void rebind(const EditorSaveContext &context, const EditorSaveContext::Written &written);
 
     // Auto-clean.
@@ -188,6 +193,8 @@ private:
     std::optional<QString> m_scheduledAutoCleanFolder;
     std::shared_ptr<AutoCleanCancellation> m_autoCleanCancellation =
         std::make_shared<AutoCleanCancellation>();
+    // Previews are asked for by themselves, whatever becomes of the runs; they end with the session.
+    std::shared_ptr<AutoCleanCancellation> m_previewCancellation = std::make_shared<AutoCleanCancellation>();
     WorkItem m_autoCleanTimer;
     std::optional<Uptime> m_nextAutoCleanCheck;
 

@@ -97,8 +97,8 @@ void ShelfSession::runAutoCleanCheck(Instant now, bool allowSettings) {
     if (m_autoCleanProcessing || isHeldByUser(allowSettings))
         return scheduleAutoClean(whileBusy);
     m_settings.refreshUnresolvedPins();
-    if (m_settings.hasUnavailablePins()) {
-        qCInfo(log, "Auto-clean deferred: unresolved pins");
+    if (m_settings.unavailablePinCount() > 0) {
+        qCInfo(log, "Auto-clean deferred: unresolved pins (%d)", m_settings.unavailablePinCount());
         return scheduleAutoClean(whileUnavailable);
     }
     startAutoCleanRun(now);
@@ -157,11 +157,12 @@ void ShelfSession::consumeAutoClean(const Result<std::vector<AutoCleanCandidate>
 
 void ShelfSession::cleanCandidate(AutoCleanBatch &batch, const AutoCleanCandidate &candidate) {
     const auto facts = m_services.files.facts(candidate.path);
-    const bool isStillIt =
-        facts && ScreenshotFileIdentity::of(candidate.path, *facts) == candidate.identity &&
-        ScreenshotAutoCleanScan::isOldEnough(*facts, batch.request) && m_services.isCapture(candidate.path) &&
-        ScreenshotAutoCleanScan::isSafeDescendant(candidate.path, batch.request.root,
-                                                  batch.request.includesSubfolders);
+    const bool isStillIt = facts && folderShelf().url == batch.request.root &&
+                           ScreenshotFileIdentity::of(candidate.path, *facts) == candidate.identity &&
+                           ScreenshotAutoCleanScan::isOldEnough(*facts, batch.request) &&
+                           m_services.isCapture(candidate.path) &&
+                           ScreenshotAutoCleanScan::isSafeDescendant(candidate.path, batch.request.root,
+                                                                     batch.request.includesSubfolders);
     if (!isStillIt)
         return;
     const Shot scanned{
@@ -189,11 +190,10 @@ void ShelfSession::previewAutoClean(ScreenshotAutoCleanPeriod period,
     if (period == ScreenshotAutoCleanPeriod::never || !folder)
         return completion(0);
     m_settings.refreshUnresolvedPins();
-    if (m_settings.hasUnavailablePins())
+    if (m_settings.unavailablePinCount() > 0)
         return completion(failure(pinsUnavailable()));
     AutoCleanRequest request = autoCleanRequest(period, *folder, m_services.now());
-    // A preview is asked for by itself, whatever becomes of the runs meanwhile.
-    request.cancellation = std::make_shared<AutoCleanCancellation>();
+    request.cancellation = m_previewCancellation;
     performInBackground(
         m_services.autoCleanQueue, m_services.scheduler, m_life.ticket(),
         [scan = m_services.autoCleanScan, request] { return scan->candidates(request); },

@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <utility>
 
 namespace tembra {
@@ -19,19 +20,34 @@ void ShelfSession::beginEditorSave(const Shot &shot, const std::optional<QString
     EditorSaveContext context{.shot = shot,
                               .path = path,
                               .folder = originalFolder.value_or(QFileInfo(path).path()),
-                              .isPinned = isPinned(path, shot.identity)};
+                              .pinnedPath = pinnedPath(path, shot.identity)};
     if (const auto facts = m_services.files.facts(path))
         context.createdAt = facts->createdAt;
     m_editorSaveContext = std::move(context);
+}
+
+// A file that was renamed a moment ago is still pinned under the name it had.
+std::optional<QString> ShelfSession::pinnedPath(const QString &path,
+                                                const ScreenshotFileIdentity &identity) const {
+    const auto file = identity.resource();
+    for (const PinnedScreenshot &pin : m_settings.pinnedScreenshots()) {
+        if (pin.resolved && (pin.resolved->path == path || (file && pin.resolved->reference == file)))
+            return pin.resolved->path;
+    }
+    return std::nullopt;
 }
 
 void ShelfSession::finishEditorWrite(const std::optional<QString> &path) {
     requireMainThread();
     const auto context = std::exchange(m_editorSaveContext, std::nullopt);
     if (context && path) {
-        const EditorSaveContext::Written written = writtenFile(QDir::cleanPath(*path), *context);
-        if (context->isReplacedBy(written))
-            rebind(*context, written);
+        const auto written = writtenFile(QDir::cleanPath(*path), *context);
+        if (written && context->isReplacedBy(*written)) {
+            // A scan that is under way may still tell of the file that was.
+            m_fileWatcher->pause();
+            rebind(*context, *written);
+            m_fileWatcher->resume();
+        }
     }
     if (path)
         m_fileWatcher->requestScanAfterEditorWrite();
@@ -39,16 +55,17 @@ void ShelfSession::finishEditorWrite(const std::optional<QString> &path) {
         m_fileWatcher->requestScan();
 }
 
-EditorSaveContext::Written ShelfSession::writtenFile(const QString &path,
-                                                     const EditorSaveContext &context) const {
-    EditorSaveContext::Written written{.path = path};
-    if (const auto facts = m_services.files.facts(path)) {
-        written.identity = ScreenshotFileIdentity::of(path, *facts);
-        written.createdAt = facts->createdAt;
-    }
+std::optional<EditorSaveContext::Written> ShelfSession::writtenFile(const QString &path,
+                                                                    const EditorSaveContext &context) const {
+    const auto facts = m_services.files.facts(path);
+    if (!facts)
+        return std::nullopt;
     const auto old = m_services.files.facts(context.path);
-    written.oldFileStands = old && ScreenshotFileIdentity::of(context.path, *old) == context.shot.identity;
-    return written;
+    return EditorSaveContext::Written{
+        .path = path,
+        .identity = ScreenshotFileIdentity::of(path, *facts),
+        .createdAt = facts->createdAt,
+        .oldFileStands = old && ScreenshotFileIdentity::of(context.path, *old) == context.shot.identity};
 }
 
 void ShelfSession::rebind(const EditorSaveContext &context, const EditorSaveContext::Written &written) {
@@ -58,9 +75,15 @@ void ShelfSession::rebind(const EditorSaveContext &context, const EditorSaveCont
     clipboard.rebindEditedReferences(trayEntries, written.path);
     if (selected.remove(context.shot.identity))
         selected.insert(written.identity);
-    if (!context.isPinned)
+    // Until the next scan the shelf would know a file that is no more.
+    const auto shown = std::ranges::find(folderShelf().shots, context.shot.identity, &Shot::identity);
+    if (shown != folderShelf().shots.end()) {
+        shown->location = written.path;
+        shown->identity = written.identity;
+    }
+    if (!context.pinnedPath)
         return;
-    const auto bound = m_settings.rebindScreenshotPin(context.path, written.path);
+    const auto bound = m_settings.rebindScreenshotPin(*context.pinnedPath, written.path);
     if (!bound && onError)
         onError(QCoreApplication::translate("ShelfSession", "Couldn’t update pinned screenshot"),
                 bound.error().message);

@@ -52,6 +52,10 @@ void ShelfSession::moveToTrash(const std::vector<Shot> &shots, Phase phase) {
     m_settings.refreshUnresolvedPins();
     const auto batch = std::make_shared<RemovalBatch>(RemovalBatch{shots, screenshotRemovalContext()});
     const auto step = [this, batch] {
+        if (batch->next == 0)
+            forgetRemoved(*batch);
+        if (batch->shots.empty())
+            return false;
         const Shot &shot = batch->shots[batch->next++];
         auto moved = trashScreenshot(shot, false);
         if (!moved)
@@ -68,6 +72,17 @@ void ShelfSession::moveToTrash(const std::vector<Shot> &shots, Phase phase) {
     });
 }
 
+// What left the shelf while the batch waited, as the user asked for it twice.
+void ShelfSession::forgetRemoved(RemovalBatch &batch) const {
+    const FolderShelf &shelf = folderShelf();
+    if (shelf.url != batch.context.folder || shelf.errorText)
+        return;
+    QSet<ScreenshotFileIdentity> left(batch.context.order.cbegin(), batch.context.order.cend());
+    for (const Shot &shot : shelf.shots)
+        left.remove(shot.identity);
+    std::erase_if(batch.shots, [&left](const Shot &shot) { return left.contains(shot.identity); });
+}
+
 bool ShelfSession::isPinned(const QString &path, const ScreenshotFileIdentity &identity) const {
     const auto file = identity.resource();
     return m_settings.pinnedScreenshotPaths().contains(path) ||
@@ -75,15 +90,19 @@ bool ShelfSession::isPinned(const QString &path, const ScreenshotFileIdentity &i
 }
 
 Result<std::optional<RemovedScreenshot>> ShelfSession::trashScreenshot(const Shot &shot, bool automatic) {
-    if (automatic && m_settings.hasUnavailablePins())
+    if (automatic && m_settings.unavailablePinCount() > 0)
         return failure(ScreenshotRemovalError::pinsUnavailable());
+    if (isPinned(shot.location, shot.identity))
+        return std::nullopt;
     const QString path = shot.currentPath(m_services.files, m_services.references);
     if (path.isEmpty())
         return failure(ScreenshotRemovalError::hasChanged());
     if (isPinned(path, shot.identity))
         return std::nullopt;
     // What is cleaned away by itself must lie where the shelf looks; what the user chose may have moved.
-    const Trash::Guard guard{.root = automatic ? folderShelf().url.value_or(QString()) : QString(),
+    if (automatic && !folderShelf().url)
+        return failure(ScreenshotRemovalError::hasChanged());
+    const Trash::Guard guard{.root = automatic ? *folderShelf().url : QString(),
                              .isExpected = [&](const FileFacts &facts) {
                                  return ScreenshotFileIdentity::of(path, facts) == shot.identity;
                              }};
@@ -107,8 +126,9 @@ void ShelfSession::finishScreenshotRemoval(const std::vector<RemovedScreenshot> 
     takeOffShelf(removed);
     const QString name = automatic ? translated(QT_TRANSLATE_NOOP("ScreenshotRemoval", "Auto-clean"))
                                    : translated(QT_TRANSLATE_NOOP("ScreenshotRemoval", "Move to Trash"));
-    screenshotUndoManager.registerAction(
-        phase, name, [this, removed, context](Phase next) { restoreScreenshots(removed, context, next); });
+    screenshotUndoManager.registerAction(phase, name, [this, removed, context, name](Phase next) {
+        restoreScreenshots(removed, context, name, next);
+    });
     if (playConfirmationSound)
         playScreenshotTrashSound();
     changed();
@@ -140,13 +160,14 @@ Result<void> ShelfSession::removeScreenshotFromEditor(const QString &path,
     const auto known = std::ranges::find(shelf.shots, identity, &Shot::identity);
     const Shot shot = known == shelf.shots.end() ? Shot{.location = path, .identity = identity} : *known;
     const ScreenshotRemovalContext context = screenshotRemovalContext();
+    m_fileWatcher->pause();
     const auto moved = trashScreenshot(shot, false);
+    if (moved && *moved)
+        finishScreenshotRemoval({**moved}, context, false, true, Phase::doing);
+    m_fileWatcher->resume();
     if (!moved)
         return failure(moved.error());
-    if (!*moved)
-        return failure(ScreenshotRemovalError::isPinned());
-    finishScreenshotRemoval({**moved}, context, false, true, Phase::doing);
-    return {};
+    return *moved ? Result<void>() : failure(ScreenshotRemovalError::isPinned());
 }
 
 } // namespace tembra

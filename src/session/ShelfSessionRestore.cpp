@@ -16,25 +16,51 @@ namespace tembra {
 struct ShelfSession::RestoreBatch {
     std::vector<RemovedScreenshot> removed;
     ScreenshotRemovalContext context;
+    // What the undone step is called.
+    QString actionName;
     Phase phase;
     std::size_t next = 0;
     std::vector<RemovedScreenshot> restored;
+    // Of those, the paths that auto-clean does not know of yet.
+    QStringList unprotected;
     QStringList failures;
+    // What failed may be tried again when the folder is back.
+    bool failedForFolder = false;
 };
 
+namespace {
+
+// Few enough to be told of without a pause, and few to lose by a program that ends in between.
+constexpr qsizetype protectedTogether = 50;
+
+} // namespace
+
 void ShelfSession::restoreScreenshots(const std::vector<RemovedScreenshot> &removed,
-                                      const ScreenshotRemovalContext &context, Phase phase) {
-    const auto batch = std::make_shared<RestoreBatch>(RestoreBatch{removed, context, phase});
+                                      const ScreenshotRemovalContext &context, const QString &actionName,
+                                      Phase phase) {
+    const auto batch = std::make_shared<RestoreBatch>(RestoreBatch{removed, context, actionName, phase});
     const auto step = [this, batch] {
         const RemovedScreenshot &screenshot = batch->removed[batch->next++];
-        if (const auto restored = restoreScreenshot(screenshot, batch->context))
+        const auto restored = restoreScreenshot(screenshot, batch->context);
+        if (restored) {
             batch->restored.push_back(screenshot);
-        else
+            batch->restored.back().shot.location = screenshot.originalPath;
+            batch->unprotected += screenshot.originalPath;
+            if (batch->unprotected.size() == protectedTogether)
+                protect(*batch);
+        } else {
             batch->failures += QFileInfo(screenshot.originalPath).fileName() + QStringLiteral(": ") +
                                restored.error().message;
+            batch->failedForFolder |= ScreenshotRemovalError::isOfFolder(restored.error());
+        }
         return batch->next < batch->removed.size();
     };
     runBatch(step, [this, batch] { finishRestore(*batch); });
+}
+
+void ShelfSession::protect(RestoreBatch &batch) {
+    m_settings.protectRestoredScreenshots(batch.unprotected, m_services.now());
+    batch.unprotected.clear();
 }
 
 Result<void> ShelfSession::restoreScreenshot(const RemovedScreenshot &removed,
@@ -53,17 +79,19 @@ Result<void> ShelfSession::restoreScreenshot(const RemovedScreenshot &removed,
     return {};
 }
 
-void ShelfSession::finishRestore(const RestoreBatch &batch) {
+void ShelfSession::finishRestore(RestoreBatch &batch) {
+    if (batch.restored.empty() && batch.failedForFolder)
+        screenshotUndoManager.registerAction(Phase::redoing, batch.actionName, [this, batch](Phase next) {
+            restoreScreenshots(batch.removed, batch.context, batch.actionName, next);
+        });
     if (!batch.restored.empty()) {
+        protect(batch);
         forgetDismissal(batch.restored);
-        putBackOnShelf(batch.restored, batch.context);
-        QStringList paths;
+        // The folder may have been changed since the first of them came back.
+        if (folderShelf().url == batch.context.folder)
+            putBackOnShelf(batch.restored, batch.context);
         std::vector<Shot> shots;
-        for (const RemovedScreenshot &screenshot : batch.restored) {
-            paths += screenshot.originalPath;
-            shots.push_back(screenshot.shot);
-        }
-        m_settings.protectRestoredScreenshots(paths, m_services.now());
+        std::ranges::transform(batch.restored, std::back_inserter(shots), &RemovedScreenshot::shot);
         restartAutoClean();
         screenshotUndoManager.registerAction(
             batch.phase, QCoreApplication::translate("ScreenshotRemoval", "Move to Trash"),
@@ -89,9 +117,7 @@ void ShelfSession::putBackOnShelf(const std::vector<RemovedScreenshot> &restored
     std::vector<Shot> shots;
     std::vector<ClipboardEntry> trayEntries;
     for (const RemovedScreenshot &screenshot : restored) {
-        Shot shot = screenshot.shot;
-        shot.location = screenshot.originalPath;
-        shots.push_back(std::move(shot));
+        shots.push_back(screenshot.shot);
         std::ranges::copy(screenshot.trayEntries, std::back_inserter(trayEntries));
         if (context.selection.contains(screenshot.identity))
             selected.insert(screenshot.identity);

@@ -49,8 +49,12 @@ void ShelfSession::reviewAutoCleanAfterUpdate() {
         m_autoCleanReviewInProgress = false;
         const bool isWanted =
             isRunning && !m_autoCleanReviewPresented && autoCleanReview() != AutoCleanReview::reviewed;
-        if (isWanted && isAutoCleanFor(period, folder))
-            reviewCounted(count, period, folder);
+        if (!isWanted)
+            return;
+        if (isAutoCleanFor(period, folder))
+            return reviewCounted(count, period, folder);
+        // A check of what holds now has found this one under way.
+        scheduleAutoClean(Scheduler::Duration::zero());
     });
 }
 

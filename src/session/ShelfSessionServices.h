@@ -30,7 +30,7 @@ struct ShelfSessionServices {
     Pasteboard &pasteboard;
     const PictureDecoder &pictures;
     Sounds &sounds;
-    // The queues "Tembra.AutoClean" and "Tembra.ScreenshotCopy".
+    // The queues "Tembra.AutoClean" and "local.dova.Tembra.screenshot-copy".
     SerialQueue &autoCleanQueue;
     SerialQueue &copyQueue;
     // Whether a file is a capture, asked on the main thread.

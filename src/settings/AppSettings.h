@@ -50,8 +50,8 @@ public:
     [[nodiscard]] QSet<QString> pinnedScreenshotPaths() const;
     // The same files by what the file system knows them by: a pin holds also after a rename.
     [[nodiscard]] QSet<FileResource> pinnedScreenshotFiles() const;
-    // A pinned file cannot be told apart, because its disk is absent.
-    [[nodiscard]] bool hasUnavailablePins() const;
+    // Pinned files that cannot be told apart, because their disk is absent.
+    [[nodiscard]] int unavailablePinCount() const;
     [[nodiscard]] const std::vector<PinnedScreenshot> &pinnedScreenshots() const {
         return m_pinnedScreenshots;
     }
@@ -94,8 +94,9 @@ public:
     Result<void> setScreenshotsPinned(const QStringList &paths, bool pinned);
     // A pinned file has moved.
     Result<void> rebindScreenshotPin(const QString &path, const QString &newPath);
-    // Tries again to find the pins whose disk was absent.
-    void refreshUnresolvedPins();
+    // Tries again to find the pins whose disk was absent; with `gone` also those whose file was deleted,
+    // which takes longer.
+    void refreshUnresolvedPins(bool gone = false);
 
     // Spares screenshots that came back from the Trash; one that is gone again needs no sparing.
     void protectRestoredScreenshots(const QStringList &paths, Instant now);

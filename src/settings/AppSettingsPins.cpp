@@ -8,6 +8,7 @@
 #include "settings/SettingsKeys.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace tembra {
 
@@ -52,9 +53,9 @@ QSet<FileResource> AppSettings::pinnedScreenshotFiles() const {
     return files;
 }
 
-bool AppSettings::hasUnavailablePins() const {
-    return std::ranges::any_of(m_pinnedScreenshots,
-                               [](const PinnedScreenshot &pin) { return !pin.resolved && !pin.isGone; });
+int AppSettings::unavailablePinCount() const {
+    return static_cast<int>(std::ranges::count_if(
+        m_pinnedScreenshots, [](const PinnedScreenshot &pin) { return !pin.resolved && !pin.isGone; }));
 }
 
 Result<PinnedScreenshot> AppSettings::pin(const QString &path) const {
@@ -107,11 +108,11 @@ Result<void> AppSettings::rebindScreenshotPin(const QString &path, const QString
     return {};
 }
 
-void AppSettings::refreshUnresolvedPins() {
+void AppSettings::refreshUnresolvedPins(bool gone) {
     requireMainThread();
     bool found = false;
     for (PinnedScreenshot &pin : m_pinnedScreenshots) {
-        if (pin.resolved)
+        if (pin.resolved || (pin.isGone && !gone))
             continue;
         pin = resolvedPin(pin.bookmark);
         found = found || pin.resolved;
@@ -124,13 +125,16 @@ void AppSettings::protectRestoredScreenshots(const QStringList &paths, Instant n
     requireMainThread();
     auto list =
         AutoCleanGrace::fromJson(m_defaults.data(settingsKey::autoCleanRestoredFiles).value_or(QByteArray()));
+    std::vector<AutoCleanGrace> fresh;
     for (const QString &path : paths) {
         const auto bookmark = m_functions.createBookmark(path);
         if (!bookmark)
             continue;
-        std::erase_if(list, [&path](const AutoCleanGrace &grace) { return grace.path == path; });
-        list.push_back({*bookmark, path, now});
+        fresh.push_back({*bookmark, path, now});
     }
+    const QSet<QString> replaced(paths.cbegin(), paths.cend());
+    std::erase_if(list, [&replaced](const AutoCleanGrace &grace) { return replaced.contains(grace.path); });
+    std::ranges::move(fresh, std::back_inserter(list));
     m_defaults.setData(settingsKey::autoCleanRestoredFiles, AutoCleanGrace::toJson(list));
 }
 

@@ -34,7 +34,9 @@ QString CaptureNotification::detail() const {
     case CopyState::none:
         break;
     case CopyState::copied:
-        return QCoreApplication::translate("CaptureNotification", "%1 · copied").arg(arrived);
+        return arrived.isEmpty()
+                   ? arrived
+                   : QCoreApplication::translate("CaptureNotification", "%1 · copied").arg(arrived);
     case CopyState::postponed:
         return QCoreApplication::translate("CaptureNotification", "Copies when you open the shelf");
     }

@@ -27,8 +27,11 @@ void showSafetyReview(int count, ScreenshotAutoCleanPeriod period, std::function
     const QPushButton *keep = dialog->addButton(translated(QT_TRANSLATE_NOOP("SafetyReview", "Keep enabled")),
                                                 QMessageBox::AcceptRole);
     dialog->addButton(translated(QT_TRANSLATE_NOOP("SafetyReview", "Turn off")), QMessageBox::RejectRole);
-    QObject::connect(dialog, &QDialog::finished, dialog,
-                     [dialog, keep, decide = std::move(decide)] { decide(dialog->clickedButton() == keep); });
+    QObject::connect(dialog, &QDialog::finished, dialog, [dialog, keep, decide = std::move(decide)] {
+        // Closed without an answer, as at the end of the program, it is asked again another time.
+        if (dialog->clickedButton())
+            decide(dialog->clickedButton() == keep);
+    });
     dialog->open();
 }
 

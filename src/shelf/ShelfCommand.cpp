@@ -26,7 +26,8 @@ std::optional<ShelfCommand> withCtrl(int key) {
 std::optional<ShelfCommand> shelfCommand(const QKeyEvent &event) {
     const auto modifiers = event.modifiers() & ~Qt::KeypadModifier;
     const int key = event.key();
-    if ((key == Qt::Key_Delete || key == Qt::Key_Backspace) &&
+    // A key that is held down removes once.
+    if ((key == Qt::Key_Delete || key == Qt::Key_Backspace) && !event.isAutoRepeat() &&
         !(modifiers & (Qt::ControlModifier | Qt::AltModifier)))
         return ShelfCommand::remove;
     if (key == Qt::Key_Space && !(modifiers & Qt::ControlModifier))

@@ -327,7 +327,7 @@ void ShelfController::workspaceChanged(Workspace::Event event) {
         break;
     case Workspace::Event::didMount:
         m_settings.refreshFolderAccess();
-        m_settings.refreshUnresolvedPins();
+        m_settings.refreshUnresolvedPins(true);
         // What is mounted over a folder hides it without a word.
         refreshWatchers();
         updateFolderState();

@@ -25,6 +25,10 @@ bool ShelfController::handleShelfKey(const QKeyEvent &event) {
     const auto command = shelfCommand(event);
     if (!command || !m_expanded || m_activeTab != ShelfTab::screenshots || !m_content)
         return false;
+    // What is not seen is not acted on.
+    const bool needsSelection = *command != ShelfCommand::undo && *command != ShelfCommand::redo;
+    if (needsSelection && m_folderState != ScreenshotFolderState::ready)
+        return false;
     perform(*command);
     return true;
 }

@@ -22,8 +22,9 @@ QList<QUuid> ClipboardStore::order() const {
 std::vector<ClipboardEntry> ClipboardStore::references(const QString &path,
                                                        const ScreenshotFileIdentity &identity) const {
     std::vector<ClipboardEntry> found;
+    const QString clean = QDir::cleanPath(path);
     std::ranges::copy_if(m_entries, std::back_inserter(found), [&](const ClipboardEntry &entry) {
-        return entry.identity == identity || entry.lastKnownPath == QDir::cleanPath(path);
+        return entry.identity == identity || entry.lastKnownPath == clean;
     });
     return found;
 }

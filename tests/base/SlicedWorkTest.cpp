@@ -49,11 +49,17 @@ TEST_F(SlicedWorkTest, aLongJobLetsTheEventLoopInBetweenAndTheNextJobWait) {
     EXPECT_EQ(now, 21ms);
 }
 
-TEST_F(SlicedWorkTest, aJobStartedAtTheEndOfAnotherRunsAfterIt) {
+TEST_F(SlicedWorkTest, whatTheEndOfAJobStartsRunsAfterItAndBeforeWhatWaits) {
+    start(QStringLiteral("long"), 20, 1ms);
     work.start([] { return false; },
                [this] {
                    start(QStringLiteral("inner"), 1, 1ms);
+                   start(QStringLiteral("second inner"), 1, 1ms);
+                   EXPECT_TRUE(work.isRunning());
                    finished += QStringLiteral("outer");
                });
-    EXPECT_EQ(finished, (QStringList{QStringLiteral("outer"), QStringLiteral("inner")}));
+    start(QStringLiteral("waiting"), 1, 1ms);
+    scheduler.settle();
+    EXPECT_EQ(finished.join(u' '), QStringLiteral("long outer inner second inner waiting"));
+    EXPECT_FALSE(work.isRunning());
 }

@@ -61,7 +61,7 @@ TEST_F(AppSettingsPins, oneWhoseDiskIsAbsentStaysAndIsFoundLater) {
     m_absent = {all[0]};
     start();
     EXPECT_EQ(m_settings->pinnedScreenshotPaths(), QSet<QString>{m_b});
-    EXPECT_TRUE(m_settings->hasUnavailablePins());
+    EXPECT_EQ(m_settings->unavailablePinCount(), 1);
     EXPECT_EQ(m_settings->pinnedScreenshotFiles(),
               (QSet{*m_files.facts(m_a)->resource, *m_files.facts(m_b)->resource}));
     m_settings->refreshUnresolvedPins();
@@ -77,7 +77,7 @@ TEST_F(AppSettingsPins, oneWhoseDiskIsAbsentStaysAndIsFoundLater) {
     m_settings->refreshUnresolvedPins();
     EXPECT_EQ(m_updates.size(), 1U);
     EXPECT_EQ(m_settings->pinnedScreenshotPaths(), QSet<QString>{m_a});
-    EXPECT_FALSE(m_settings->hasUnavailablePins());
+    EXPECT_EQ(m_settings->unavailablePinCount(), 0);
     EXPECT_EQ(m_settings->pinnedScreenshots()[0].resolved->reference, m_files.facts(m_a)->resource);
 }
 

@@ -7,6 +7,7 @@ namespace tembra {
 
 struct ManualScheduler::Entry {
     Uptime due;
+    Duration tolerance;
     std::function<void()> work;
 };
 
@@ -20,8 +21,9 @@ private:
     std::shared_ptr<Entry> m_entry;
 };
 
-WorkItem ManualScheduler::schedule(Duration delay, std::function<void()> work, Duration) {
-    auto entry = std::make_shared<Entry>(Entry{m_now + std::max(delay, Duration::zero()), std::move(work)});
+WorkItem ManualScheduler::schedule(Duration delay, std::function<void()> work, Duration tolerance) {
+    auto entry =
+        std::make_shared<Entry>(Entry{m_now + std::max(delay, Duration::zero()), tolerance, std::move(work)});
     m_entries.push_back(entry);
     return WorkItem(std::make_shared<EntryState>(std::move(entry)));
 }
@@ -75,13 +77,23 @@ int ManualScheduler::pendingCount() const {
         std::ranges::count_if(m_entries, [](const auto &entry) { return entry->work != nullptr; }));
 }
 
-Scheduler::Duration ManualScheduler::nextDelay() const {
-    Duration next{-1};
+std::shared_ptr<ManualScheduler::Entry> ManualScheduler::next() const {
+    std::shared_ptr<Entry> next;
     for (const auto &entry : m_entries) {
-        if (entry->work && (next < Duration::zero() || entry->due - m_now < next))
-            next = entry->due - m_now;
+        if (entry->work && (!next || entry->due < next->due))
+            next = entry;
     }
     return next;
+}
+
+Scheduler::Duration ManualScheduler::nextDelay() const {
+    const auto entry = next();
+    return entry ? entry->due - m_now : Duration{-1};
+}
+
+Scheduler::Duration ManualScheduler::nextTolerance() const {
+    const auto entry = next();
+    return entry ? entry->tolerance : Duration{-1};
 }
 
 } // namespace tembra

@@ -33,6 +33,8 @@ public:
     [[nodiscard]] int pendingCount() const;
     // Delay from now to the earliest pending work; -1 ns when there is none.
     [[nodiscard]] Duration nextDelay() const;
+    // How much later it may be.
+    [[nodiscard]] Duration nextTolerance() const;
 
 private:
     struct Entry;
@@ -40,6 +42,7 @@ private:
 
     void runPosted();
     std::shared_ptr<Entry> earliestDueBy(Uptime time);
+    [[nodiscard]] std::shared_ptr<Entry> next() const;
 
     Uptime m_now{0};
     std::vector<std::shared_ptr<Entry>> m_entries;

@@ -36,13 +36,20 @@ struct SessionServices {
     LinuxCaptureMarkers markers;
     LinuxPictureDecoder pictures;
     ScreenshotCaptureDetector detector{markers, folderFiles};
-    LinuxTrash trash{files, trashFolder};
+    // Told of every step of a move.
+    std::function<void(const char *)> onTrashStep;
+    LinuxTrash trash{files, trashFolder, systemNow, [this](const char *step) {
+                         if (onTrashStep)
+                             onTrashStep(step);
+                     }};
 
-    [[nodiscard]] ShelfSessionServices services() {
+    [[nodiscard]] ShelfSessionServices services() { return services(defaults); }
+    // With the stored values of somebody else.
+    [[nodiscard]] ShelfSessionServices services(UserDefaults &stored) {
         return {.scheduler = scheduler,
                 .uptime = scheduler.uptimeClock(),
                 .now = now,
-                .defaults = defaults,
+                .defaults = stored,
                 .files = files,
                 .references = references,
                 .trash = trash,

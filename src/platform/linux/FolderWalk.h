@@ -5,6 +5,8 @@
 
 #include <string>
 
+struct dirent;
+
 namespace tembra {
 
 // One listing of a folder: readdir and statx relative to the folder's descriptor, so that nothing outside it
@@ -19,7 +21,7 @@ private:
     // Takes the descriptor over. `prefix` is the walked folder's path below the first, with a slash at its
     // end. Gives 0 or the errno.
     int walk(int folder, const std::string &prefix);
-    void meet(int folder, const char *name, const std::string &prefix);
+    void meet(int folder, const dirent &entry, const std::string &prefix);
     [[nodiscard]] bool isEntered(std::uint64_t mount) const;
 
     const LinuxFileFactsReader &m_reader;

@@ -129,14 +129,17 @@ Result<FileFacts> LinuxFileFactsReader::read(const QString &path, bool followsLi
     });
 }
 
-Result<FileFacts> LinuxFileFactsReader::factsOfOpen(int descriptor, bool hasAttributes) const {
+Result<struct statx> LinuxFileFactsReader::statusOfOpen(int descriptor) {
+    return status({.folder = descriptor, .path = QByteArray("")});
+}
+
+FileFacts LinuxFileFactsReader::factsOfOpen(int descriptor, const struct statx &status,
+                                            bool hasAttributes) const {
     const Place place{.folder = descriptor, .path = QByteArray("")};
-    return status(place).map([&](const struct statx &found) {
-        const LinuxVolume volume = m_volumes.of(deviceNumber(found), found.stx_mnt_id,
-                                                "/proc/self/fd/" + QByteArray::number(descriptor), true);
-        return assemble(found, volume, volume.hasLastingHandles ? generation(place) : 0,
-                        creation(found, hasAttributes ? recordedCreation(place) : std::nullopt));
-    });
+    const LinuxVolume volume = m_volumes.of(deviceNumber(status), status.stx_mnt_id,
+                                            "/proc/self/fd/" + QByteArray::number(descriptor), true);
+    return assemble(status, volume, volume.hasLastingHandles ? generation(place) : 0,
+                    creation(status, hasAttributes ? recordedCreation(place) : std::nullopt));
 }
 
 Result<void> LinuxFileFactsReader::canReadFolder(const QString &path, bool enumerateContents) const {

@@ -17,8 +17,10 @@ public:
     [[nodiscard]] Result<void> canReadFolder(const QString &path, bool enumerateContents) const override;
     Result<void> recordCreationDate(const QString &path, Instant createdAt) const override;
 
-    // The facts of an open file. `hasAttributes` false spares looking for a recorded creation date.
-    [[nodiscard]] Result<FileFacts> factsOfOpen(int descriptor, bool hasAttributes) const;
+    // What statx tells of an open file, and the facts that follow from it. `hasAttributes` false spares
+    // looking for a recorded creation date.
+    [[nodiscard]] static Result<struct statx> statusOfOpen(int descriptor);
+    [[nodiscard]] FileFacts factsOfOpen(int descriptor, const struct statx &status, bool hasAttributes) const;
 
     // The volume of FileResource for a file or folder there.
     [[nodiscard]] Result<std::uint64_t> volumeIdOf(const QString &path) const;

@@ -13,23 +13,25 @@ Result<std::unique_ptr<OpenFile>> LinuxOpenFile::open(int folder, const char *na
                                                       const LinuxFileFactsReader &reader) {
     // Opening a pipe or a device could wait for somebody or do something: without waiting, and refused below.
     Descriptor descriptor(::openat(folder, name, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC | O_NOCTTY));
-    struct stat facts {};
-    if (!descriptor.isOpen() || ::fstat(descriptor.number(), &facts) != 0)
+    if (!descriptor.isOpen())
         return failure(posixError());
-    if (!S_ISREG(facts.st_mode))
-        return failure(posixError(S_ISDIR(facts.st_mode) ? EISDIR : EINVAL));
-    return std::make_unique<LinuxOpenFile>(std::move(descriptor), static_cast<std::uint64_t>(facts.st_size),
-                                           reader);
+    const auto status = LinuxFileFactsReader::statusOfOpen(descriptor.number());
+    if (!status)
+        return failure(status.error());
+    if (!S_ISREG(status->stx_mode))
+        return failure(posixError(S_ISDIR(status->stx_mode) ? EISDIR : EINVAL));
+    return std::make_unique<LinuxOpenFile>(std::move(descriptor), *status, reader);
 }
 
-LinuxOpenFile::LinuxOpenFile(Descriptor descriptor, std::uint64_t size, const LinuxFileFactsReader &reader)
+LinuxOpenFile::LinuxOpenFile(Descriptor descriptor, const struct statx &status,
+                             const LinuxFileFactsReader &reader)
     : m_descriptor(std::move(descriptor)),
-      m_size(size),
+      m_status(status),
       m_reader(reader),
       m_hasAttributes(::flistxattr(m_descriptor.number(), nullptr, 0) > 0) {}
 
 FileFacts LinuxOpenFile::facts() const {
-    return m_reader.factsOfOpen(m_descriptor.number(), m_hasAttributes).value_or(FileFacts());
+    return m_reader.factsOfOpen(m_descriptor.number(), m_status, m_hasAttributes);
 }
 
 std::optional<QByteArray> LinuxOpenFile::attribute(const char *name) const {

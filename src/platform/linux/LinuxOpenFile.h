@@ -6,6 +6,7 @@
 #include "platform/linux/LinuxFileFacts.h"
 
 #include <memory>
+#include <sys/stat.h>
 
 namespace tembra {
 
@@ -17,16 +18,16 @@ public:
     [[nodiscard]] static Result<std::unique_ptr<OpenFile>> open(int folder, const char *name,
                                                                 const LinuxFileFactsReader &reader);
 
-    LinuxOpenFile(Descriptor descriptor, std::uint64_t size, const LinuxFileFactsReader &reader);
+    LinuxOpenFile(Descriptor descriptor, const struct statx &status, const LinuxFileFactsReader &reader);
 
     [[nodiscard]] FileFacts facts() const override;
-    [[nodiscard]] std::uint64_t size() const override { return m_size; }
+    [[nodiscard]] std::uint64_t size() const override { return m_status.stx_size; }
     [[nodiscard]] std::optional<QByteArray> attribute(const char *name) const override;
     [[nodiscard]] std::size_t read(std::uint64_t offset, std::span<char> into) const override;
 
 private:
     Descriptor m_descriptor;
-    const std::uint64_t m_size;
+    const struct statx m_status;
     const LinuxFileFactsReader &m_reader;
     // Most files have no attributes at all: one call tells, and spares one a name.
     bool m_hasAttributes = false;

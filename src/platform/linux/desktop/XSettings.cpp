@@ -41,11 +41,11 @@ void readSetting(QDataStream &stream, XSettings &settings) {
     if (type == static_cast<std::uint8_t>(Type::integer)) {
         std::int32_t value = 0;
         stream >> value;
-        settings.insert(name, value);
+        settings[name].emplace<std::int32_t>(value);
     } else if (type == static_cast<std::uint8_t>(Type::string)) {
         std::uint32_t length = 0;
         stream >> length;
-        settings.insert(name, readText(stream, length));
+        settings[name].emplace<QByteArray>(readText(stream, length));
     } else if (type != static_cast<std::uint8_t>(Type::color) || stream.skipRawData(colorSize) != colorSize) {
         stream.setStatus(QDataStream::ReadCorruptData);
     }
