@@ -61,7 +61,7 @@ void ShelfController::undo() {
 void ShelfController::removalBegins() {
     m_undoOffer = m_services.scheduler.schedule(undoOfferDuration, [this] { render(); });
     if (!m_expanded && m_settings.state().screenshotNotifications)
-        m_announcer.announceRemoval(tr("Old screenshots moved to Trash"));
+        m_announcer.announceRemoval(tr("Screenshots moved to Trash"));
 }
 
 void ShelfController::redo() {

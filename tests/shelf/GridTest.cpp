@@ -102,6 +102,26 @@ TEST_F(GridTest, clicksSelect) {
     EXPECT_EQ(activated, Numbers());
 }
 
+TEST_F(GridTest, aBandSelectsWhatItTouches) {
+    open(gridState({9}));
+    QWindow *window = grid.windowHandle();
+    const QPoint start = inWindow({10, 60});
+    const auto draw = [&](QPoint to, Qt::KeyboardModifiers modifiers) {
+        QTest::mousePress(window, Qt::LeftButton, modifiers, start);
+        QTest::mouseMove(window, middle(0));
+        QTest::mouseMove(window, to);
+        QTest::mouseRelease(window, Qt::LeftButton, modifiers, to);
+    };
+    draw(middle(2), {});
+    EXPECT_EQ(selected(), (Numbers{0, 1, 2}));
+    draw(middle(0), {});
+    EXPECT_EQ(selected(), (Numbers{0})) << "what it leaves is given up again";
+    click(4);
+    draw(middle(1), Qt::ControlModifier);
+    EXPECT_EQ(selected(), (Numbers{0, 1, 4})) << "with Ctrl the others stay";
+    EXPECT_EQ(drags, 0);
+}
+
 TEST_F(GridTest, aPressOnOneOfSeveralSelectedNarrowsOnlyWhenItEndsWithoutADrag) {
     open(gridState({6}));
     QWindow *window = grid.windowHandle();

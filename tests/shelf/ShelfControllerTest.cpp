@@ -64,9 +64,14 @@ protected:
             std::make_unique<ScreenshotLocationMonitor>([this] { return destination; }, queue, scheduler,
                                                         workspace),
             ShelfServices{scheduler, scheduler.uptimeClock(), clock, displays, workspace, input, panelWindows,
-                          hotZones, thumbnails, files,
+                          hotZones, thumbnails, files, parts.pictures, previewQueue,
                           [this](const QString &path) { return detector.isCapture(path); }});
         controller->onError = [this](const QString &title, const QString &) { errors += title; };
+        controller->askForClearing = [this](int count, int pinned, std::function<void()> clear) {
+            EXPECT_EQ(pinned, 1);
+            clearedCount = count;
+            clear();
+        };
         controller->askForSafetyReview = [this](int count, ScreenshotAutoCleanPeriod, auto answer) {
             reviewedCount = count;
             decide = std::move(answer);
@@ -132,6 +137,7 @@ protected:
     MemoryUserDefaults &defaults = parts.defaults;
     LinuxBookmarks bookmarks{files, folders};
     ManualQueue queue;
+    ManualQueue previewQueue;
     FakeFolderEvents events;
     FakeWorkspace workspace;
     FakeInputMonitor input;
@@ -145,6 +151,7 @@ protected:
     Result<void> systemRefusal;
     QStringList errors;
     int reviewedCount = 0;
+    int clearedCount = 0;
     std::function<void(bool)> decide;
     std::unique_ptr<ShelfController> controller;
 };
@@ -178,6 +185,35 @@ TEST_F(ShelfControllerTest, nothingIsAnnouncedToWhomeverSwitchedThatOffOrLooksAt
     capture(QStringLiteral("Screenshot from 2026-11-21 10-15-23.png"));
     EXPECT_FALSE(status().showingNotification);
     EXPECT_EQ(status().screenshotCount, 2);
+}
+
+TEST_F(ShelfControllerTest, clearingAsksAndSparesThePinnedAndCanBeUndone) {
+    start();
+    capture();
+    capture(QStringLiteral("Screenshot from 2026-11-21 10-15-23.png"));
+    ASSERT_TRUE(settings.setScreenshotsPinned({folder + u'/' + captureName}, true));
+    controller->clearScreenshots();
+    settle();
+    EXPECT_EQ(clearedCount, 1);
+    EXPECT_EQ(status().screenshotCount, 1);
+    EXPECT_EQ(status().undo, QStringList{QStringLiteral("Move to Trash")});
+    controller->undo();
+    settle();
+    EXPECT_EQ(status().screenshotCount, 2);
+}
+
+TEST_F(ShelfControllerTest, aRemovalThatNobodySawIsToldWithAnOfferToUndoIt) {
+    start();
+    capture();
+    scheduler.advance(10s);
+    ASSERT_FALSE(status().showingNotification);
+    controller->askForClearing = [](int, int, const std::function<void()> &clear) { clear(); };
+    controller->clearScreenshots();
+    EXPECT_EQ(status().notificationText, QStringLiteral("Screenshots moved to Trash"));
+    controller->undo();
+    settle();
+    EXPECT_FALSE(status().showingNotification);
+    EXPECT_EQ(status().screenshotCount, 1);
 }
 
 TEST_F(ShelfControllerTest, thePointerOnANotificationOpensTheShelf) {
