@@ -96,7 +96,9 @@ int main(int argc, char **argv) {
                                  *platform.panelWindows,
                                  *platform.hotZones,
                                  *platform.thumbnails,
-                                 *platform.fileFacts};
+                                 *platform.fileFacts,
+                                 *platform.pictureDecoder,
+                                 queue};
     ShelfContent content(services);
     PaintWatch paintWatch;
     content.installEventFilter(&paintWatch);

@@ -81,6 +81,7 @@ std::unique_ptr<ShelfController> AppDelegate::makeShelfController() {
     auto controller =
         std::make_unique<ShelfController>(*m_settings, makeSession(), makeLocationMonitor(), services);
     controller->onError = showAlert;
+    controller->onQuit = [this] { terminate(); };
     return controller;
 }
 

@@ -23,6 +23,8 @@ QString fileName(Icon icon) {
         return QStringLiteral("folder");
     case Icon::gear:
         return QStringLiteral("gear");
+    case Icon::statusBar:
+        return QStringLiteral("status-bar");
     case Icon::photo:
         return QStringLiteral("photo");
     case Icon::pin:

@@ -9,7 +9,7 @@ class QRectF;
 namespace tembra {
 
 // The program's own drawings, made on a field of 16 points.
-enum class Icon { document, film, folder, gear, photo, pin, textViewfinder };
+enum class Icon { document, film, folder, gear, photo, pin, statusBar, textViewfinder };
 
 // The icon in one colour, rendered for the exact number of device pixels; kept by size, scale and colour.
 // Main thread.

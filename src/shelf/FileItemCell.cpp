@@ -19,6 +19,8 @@ namespace tembra {
 
 namespace {
 
+constexpr int motionMilliseconds = 200;
+
 constexpr int nameTop = 76;
 constexpr int nameLineHeight = 15;
 constexpr qreal nameHighlightMargin = 5;
@@ -41,13 +43,24 @@ QString fileName(const QString &path) {
 } // namespace
 
 FileItemCell::FileItemCell(const FilePresentation &presentation, QWidget *parent)
-    : QWidget(parent), m_presentation(presentation) {
+    : QWidget(parent), m_presentation(presentation), m_motion(this, "geometry") {
+    m_motion.setDuration(motionMilliseconds);
+    m_motion.setEasingCurve(QEasingCurve::OutCubic);
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setItemRect({0, 0, ShelfLayout::Grid::itemWidth, ShelfLayout::Grid::itemHeight});
 }
 
-void FileItemCell::setItemRect(const QRect &rectangle) {
-    setGeometry(rectangle.adjusted(-bleed, -bleed, bleed, bleed));
+void FileItemCell::setItemRect(const QRect &rectangle, bool moves) {
+    const QRect place = rectangle.adjusted(-bleed, -bleed, bleed, bleed);
+    const bool isOnItsWay = m_motion.state() == QAbstractAnimation::Running;
+    if (place == (isOnItsWay ? m_motion.endValue().toRect() : geometry()))
+        return;
+    m_motion.stop();
+    if (!moves || !isVisible() || style()->styleHint(QStyle::SH_Widget_Animation_Duration) == 0)
+        return setGeometry(place);
+    m_motion.setStartValue(geometry());
+    m_motion.setEndValue(place);
+    m_motion.start();
 }
 
 void FileItemCell::configure(QString path, QString revision, QImage fallback) {

@@ -5,6 +5,7 @@
 #include "shelf/FilePresentation.h"
 #include "shelf/FileThumbnail.h"
 
+#include <QPropertyAnimation>
 #include <QStringList>
 #include <QWidget>
 
@@ -28,8 +29,9 @@ public:
     void configure(QString path, QString revision, QImage fallback = {});
     // Forgets the file and takes back the request for its picture.
     void prepareForReuse();
-    // Where the tile lies in its parent.
-    void setItemRect(const QRect &rectangle);
+    // Where the tile lies in its parent; with `moves` it goes there from where it is, unless motion is
+    // reduced.
+    void setItemRect(const QRect &rectangle, bool moves = false);
 
     void setShowsFileName(bool shows);
     void setSelected(bool selected);
@@ -60,6 +62,7 @@ private:
     void assign(bool &state, bool value);
 
     const FilePresentation m_presentation;
+    QPropertyAnimation m_motion;
     Generation m_generation;
     std::unique_ptr<Thumbnails::Request> m_request;
     double m_requestedScale = 0;

@@ -26,14 +26,15 @@ void ScreenshotCellPool::show(NativeScreenshotCell &cell, const Shot &shot) {
 }
 
 void ScreenshotCellPool::arrange(const ScreenshotGridState &state, const ScreenshotGridLayout &layout,
-                                 ScreenshotGridLayout::Range range) {
+                                 ScreenshotGridLayout::Range range, bool moves) {
     QMultiHash<QString, NativeScreenshotCell *> before;
     for (const auto &[index, cell] : std::exchange(m_shown, {}))
         before.insert(cell->path(), cell);
     std::vector<int> missing;
+    QSet<const NativeScreenshotCell *> stayed;
     for (int index = range.first; index < range.last; ++index) {
         if (NativeScreenshotCell *cell = before.take(state.at(index).location))
-            m_shown.emplace(index, cell);
+            stayed.insert(m_shown.emplace(index, cell).first->second);
         else
             missing.push_back(index);
     }
@@ -46,7 +47,7 @@ void ScreenshotCellPool::arrange(const ScreenshotGridState &state, const Screens
         m_shown.emplace(index, take());
     for (const auto &[index, cell] : m_shown) {
         const Shot &shot = state.at(index);
-        cell->setItemRect(layout.itemRect(index));
+        cell->setItemRect(layout.itemRect(index), moves && stayed.contains(cell));
         show(*cell, shot);
         cell->setShowsFileName(state.showFileNames);
         cell->setPinned(state.pinnedPaths.contains(shot.location));

@@ -25,7 +25,7 @@ public:
 
     // Gives every shot of the range its cell in its place. A shot keeps the cell that shows it already.
     void arrange(const ScreenshotGridState &state, const ScreenshotGridLayout &layout,
-                 ScreenshotGridLayout::Range range);
+                 ScreenshotGridLayout::Range range, bool moves);
 
     // The cells that are shown, by index.
     [[nodiscard]] const std::map<int, NativeScreenshotCell *> &shown() const { return m_shown; }

@@ -43,12 +43,16 @@ void ScreenshotCollectionView::apply(ScreenshotGridState state) {
     m_hovered.reset();
     m_press.reset();
     m_band->end();
-    fit(m_viewport);
+    layOut(true);
     changed(selectionShrank);
 }
 
 void ScreenshotCollectionView::fit(QSize viewport) {
     m_viewport = viewport;
+    layOut(false);
+}
+
+void ScreenshotCollectionView::layOut(bool moves) {
     std::vector<ScreenshotGridLayout::Section> sections;
     if (m_state.grouped) {
         for (const ScreenshotSection &section : m_state.sections)
@@ -56,9 +60,9 @@ void ScreenshotCollectionView::fit(QSize viewport) {
     } else {
         sections.push_back({m_state.count(), false});
     }
-    m_layout = ScreenshotGridLayout(viewport.width(), sections, m_state.showFileNames);
-    resize(viewport.width(), std::max(m_layout.height(), viewport.height()));
-    arrange();
+    m_layout = ScreenshotGridLayout(m_viewport.width(), sections, m_state.showFileNames);
+    resize(m_viewport.width(), std::max(m_layout.height(), m_viewport.height()));
+    arrange(moves);
 }
 
 void ScreenshotCollectionView::setVisibleSpan(int top, int bottom) {
@@ -70,8 +74,8 @@ void ScreenshotCollectionView::setVisibleSpan(int top, int bottom) {
     arrange();
 }
 
-void ScreenshotCollectionView::arrange() {
-    m_cells.arrange(m_state, m_layout, m_layout.itemsWithin(m_visibleTop, m_visibleBottom));
+void ScreenshotCollectionView::arrange(bool moves) {
+    m_cells.arrange(m_state, m_layout, m_layout.itemsWithin(m_visibleTop, m_visibleBottom), moves);
     arrangeHeaders();
     updateAppearance();
 }

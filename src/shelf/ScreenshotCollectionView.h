@@ -64,7 +64,9 @@ protected:
     void focusOutEvent(QFocusEvent *event) override;
 
 private:
-    void arrange();
+    // With `moves` tiles go to their new places visibly.
+    void arrange(bool moves = false);
+    void layOut(bool moves);
     void arrangeHeaders();
     void updateAppearance();
     void setHovered(std::optional<int> index);

@@ -13,6 +13,7 @@ ShelfContent::ShelfContent(const ShelfServices &services) {
     connect(m_header, &ShelfHeader::tabClicked, this, &ShelfContent::tabClicked);
     connect(m_header, &ShelfHeader::tabHovered, this, &ShelfContent::tabHovered);
     connect(m_header, &ShelfHeader::tabLeft, this, &ShelfContent::tabLeft);
+    connect(m_header, &ShelfHeader::settingsClicked, this, &ShelfContent::settingsRequested);
     connect(m_header, &ShelfHeader::undoClicked, this, &ShelfContent::undoRequested);
     connect(m_notification, &CaptureNotificationView::undoClicked, this, &ShelfContent::undoRequested);
     connect(m_notification, &CaptureNotificationView::clicked, this, &ShelfContent::notificationClicked);

@@ -68,6 +68,7 @@ Q_SIGNALS:
     void backgroundMenuRequested(QPoint globalPosition);
     void dragRequested();
     void undoRequested();
+    void settingsRequested(QPoint globalPosition);
     void notificationClicked();
     void activated(const tembra::Shot &shot);
 

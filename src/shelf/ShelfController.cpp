@@ -83,6 +83,7 @@ void ShelfController::start() {
     m_locationMonitor->start();
     scheduleTimelineRefresh();
     updateFolderState();
+    installActiveStatusMenu();
 }
 
 void ShelfController::startObserving() {
@@ -106,6 +107,7 @@ void ShelfController::stop() {
     m_displayReconcileWork.cancel();
     m_timelineRefreshWork.cancel();
     m_undoOffer.cancel();
+    m_statusItem.reset();
     m_preview.close();
     m_tabHover.cancelTabHover();
     m_announcer.dismiss();
@@ -135,6 +137,8 @@ ShelfContent &ShelfController::content() {
     connect(m_content.get(), &ShelfContent::contextMenuRequested, this, &ShelfController::showScreenshotMenu);
     connect(m_content.get(), &ShelfContent::backgroundMenuRequested, this,
             &ShelfController::showScreenshotBackgroundMenu);
+    connect(m_content.get(), &ShelfContent::settingsRequested, this,
+            [this](QPoint position) { showMenu(statusMenu(statusMenuActions()), position); });
     connect(m_content.get(), &ShelfContent::undoRequested, this, &ShelfController::undo);
     connect(m_content.get(), &ShelfContent::notificationClicked, this, &ShelfController::openAnnounced);
     connect(m_content.get(), &ShelfContent::dragRequested, this, &ShelfController::dragSelected);

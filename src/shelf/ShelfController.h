@@ -16,6 +16,7 @@
 #include "shelf/ShelfServices.h"
 #include "shelf/ShelfStatus.h"
 #include "shelf/ShelfTab.h"
+#include "shelf/StatusItem.h"
 #include "shelf/TabHover.h"
 
 #include <QObject>
@@ -62,6 +63,8 @@ public:
         askForSafetyReview;
     // Asks whether so many screenshots are to go to the Trash while so many pinned ones stay. Replaceable.
     std::function<void(int count, int pinnedCount, std::function<void()> clear)> askForClearing;
+    // The user wants the program to end.
+    std::function<void()> onQuit;
     // New captures that are to open in the editor by themselves.
     std::function<void(const std::vector<Shot> &)> onOpenInEditor;
     // Where the screenshot tool saves was read.
@@ -140,6 +143,8 @@ private:
     void openInDefaultApplication(const QStringList &paths);
     void showScreenshotMenu(QPoint globalPosition);
     void showScreenshotBackgroundMenu(QPoint globalPosition);
+    void installActiveStatusMenu();
+    [[nodiscard]] StatusMenuActions statusMenuActions();
     void showMenu(std::unique_ptr<QMenu> menu, QPoint globalPosition);
     void showNotification(const std::optional<CaptureNotification> &notification);
     bool activateSurface();
@@ -174,6 +179,7 @@ private:
     bool m_dragging = false;
     // Keeps the shelf open while it is up.
     std::unique_ptr<QMenu> m_menu;
+    std::unique_ptr<StatusItem> m_statusItem;
     ShelfTab m_activeTab = ShelfTab::screenshots;
     std::optional<ScreenshotDestination> m_destination;
     std::optional<ScreenshotFolderState> m_folderState;

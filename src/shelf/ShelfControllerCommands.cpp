@@ -6,6 +6,7 @@
 #include "shelf/ShelfContent.h"
 #include "shelf/ShelfController.h"
 #include "shelf/ShelfSurfaces.h"
+#include "shelf/StatusMenu.h"
 
 #include <QMenu>
 
@@ -111,7 +112,7 @@ void ShelfController::openScreenshotsWith(const QString &applicationIdentifier) 
 void ShelfController::revealFolder() {
     const auto &folder = m_settings.state().screenshotsFolder;
     if (!folder)
-        return;
+        return chooseFolder();
     if (const auto opened = m_services.workspace.openFolder(*folder); !opened)
         onError(tr("Couldn’t Open Folder"), opened.error().message);
 }
@@ -154,6 +155,14 @@ void ShelfController::showScreenshotBackgroundMenu(QPoint globalPosition) {
     if (!removable(m_session->folderShelf().shots).empty())
         actions.clear = [this] { clearScreenshots(); };
     showMenu(screenshotBackgroundMenu(actions), globalPosition);
+}
+
+StatusMenuActions ShelfController::statusMenuActions() {
+    return {.open = [this] { openManually(); }, .openFolder = [this] { revealFolder(); }, .quit = onQuit};
+}
+
+void ShelfController::installActiveStatusMenu() {
+    m_statusItem = std::make_unique<StatusItem>(statusMenuActions());
 }
 
 void ShelfController::showMenu(std::unique_ptr<QMenu> menu, QPoint globalPosition) {

@@ -13,6 +13,7 @@ namespace {
 constexpr QPoint groupOrigin{18, 6};
 constexpr int groupInset = 3;
 constexpr int buttonSpacing = 4;
+constexpr int settingsInset = 10;
 constexpr qreal groupRadius = 10;
 
 Icon iconOf(ShelfTab tab) {
@@ -42,7 +43,13 @@ QString nameOf(ShelfTab tab) {
 } // namespace
 
 ShelfHeader::ShelfHeader(QWidget *parent)
-    : QWidget(parent), m_undo(new TembraButton(TembraButton::Kind::plain, this)) {
+    : QWidget(parent),
+      m_undo(new TembraButton(TembraButton::Kind::plain, this)),
+      m_settings(new ShelfButton(Icon::gear, tr("Settings"), this)) {
+    m_settings->setCheckable(false);
+    connect(m_settings, &ShelfButton::clicked, this, [this] {
+        Q_EMIT settingsClicked(m_settings->mapToGlobal(QPoint(0, m_settings->height() + buttonSpacing)));
+    });
     m_undo->setText(tr("Undo"));
     m_undo->setFocusPolicy(Qt::TabFocus);
     m_undo->hide();
@@ -53,16 +60,18 @@ void ShelfHeader::offerUndo(const std::optional<QString> &actionName) {
     m_undo->setVisible(actionName.has_value());
     m_undo->setToolTip(actionName ? tr("Undo %1").arg(*actionName) : QString());
     m_undo->setAccessibleName(m_undo->toolTip());
-    placeUndo();
+    placeButtons();
 }
 
-void ShelfHeader::placeUndo() {
+void ShelfHeader::placeButtons() {
+    m_settings->resize(m_settings->sizeHint());
+    m_settings->move(width() - settingsInset - m_settings->width(), (height - m_settings->height()) / 2);
     m_undo->resize(m_undo->sizeHint());
-    m_undo->move(width() - groupOrigin.x() - m_undo->width(), (height - m_undo->height()) / 2);
+    m_undo->move(m_settings->x() - buttonSpacing - m_undo->width(), (height - m_undo->height()) / 2);
 }
 
 void ShelfHeader::resizeEvent(QResizeEvent *) {
-    placeUndo();
+    placeButtons();
 }
 
 void ShelfHeader::apply(const std::vector<ShelfTab> &tabs, ShelfTab active) {

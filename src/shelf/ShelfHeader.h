@@ -30,6 +30,8 @@ Q_SIGNALS:
     void tabHovered(tembra::ShelfTab tab);
     void tabLeft(tembra::ShelfTab tab);
     void undoClicked();
+    // Where a menu of the button is to open.
+    void settingsClicked(QPoint globalPosition);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -37,12 +39,13 @@ protected:
 
 private:
     void build();
-    void placeUndo();
+    void placeButtons();
     [[nodiscard]] QRect group() const;
 
     std::vector<ShelfTab> m_tabs;
     std::vector<ShelfButton *> m_buttons;
     TembraButton *m_undo;
+    ShelfButton *m_settings;
 };
 
 } // namespace tembra

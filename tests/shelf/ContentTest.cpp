@@ -13,6 +13,7 @@
 #include "support/FakeInputMonitor.h"
 #include "support/FakeThumbnails.h"
 #include "support/FakeWorkspace.h"
+#include "support/ManualQueue.h"
 #include "support/ManualScheduler.h"
 
 #include <QAccessible>
@@ -73,8 +74,10 @@ protected:
     FakeHotZones zones;
     FakeThumbnails thumbnails;
     FakeFileFacts files;
+    NoPictures pictures;
+    ManualQueue queue;
     ShelfContent content{{scheduler, scheduler.uptimeClock(), scheduler.wallClock({}), displays, workspace,
-                          input, panels, zones, thumbnails, files}};
+                          input, panels, zones, thumbnails, files, pictures, queue}};
     ShelfContent::State state;
 };
 

@@ -3,6 +3,7 @@
 #include "platform/Displays.h"
 #include "platform/HotZones.h"
 #include "platform/PanelWindows.h"
+#include "platform/PictureDecoder.h"
 #include "platform/Thumbnails.h"
 
 #include <QWidget>
@@ -71,6 +72,14 @@ public:
     [[nodiscard]] std::unique_ptr<Request> request(const QString &, double, double,
                                                    std::function<void(Result<Thumbnail>)>) override {
         return std::make_unique<Request>();
+    }
+};
+
+// Can read none.
+class NoPictures final : public PictureDecoder {
+public:
+    [[nodiscard]] Result<QImage> decode(const QString &) const override {
+        return failure({.domain = QStringLiteral("Test"), .code = 1});
     }
 };
 
