@@ -60,15 +60,30 @@ void CaptureAnnouncer::dismiss() {
 
 void CaptureAnnouncer::show(const CaptureNotification &notification, Scheduler::Duration duration) {
     m_showing = notification;
+    m_duration = duration;
     onShow(m_showing);
-    m_lifetime.begin(duration, [this] {
+    if (!m_isHeld)
+        beginTime();
+}
+
+void CaptureAnnouncer::beginTime() {
+    m_lifetime.begin(m_duration, [this] {
         end();
         flushFolderNotification();
     });
 }
 
+void CaptureAnnouncer::hold(bool isHeld) {
+    m_isHeld = isHeld && m_showing;
+    if (m_isHeld)
+        m_lifetime.end();
+    else if (m_showing)
+        beginTime();
+}
+
 void CaptureAnnouncer::end() {
     m_lifetime.end();
+    m_isHeld = false;
     m_showing.reset();
     onShow(m_showing);
 }

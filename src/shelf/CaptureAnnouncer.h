@@ -28,6 +28,9 @@ public:
     void announceFolder(const QString &text);
     // What a waiting folder notice tells is no longer so.
     void forgetFolder();
+    // While it is held, what shows does not end: the pointer rests on it, or drags from it. Its time begins
+    // anew afterwards.
+    void hold(bool isHeld);
     // The shelf opened: what shows ends, and what it said need not be said again.
     void dismiss();
     // The shelf closed: a folder notice that waited is shown.
@@ -39,11 +42,14 @@ public:
 
 private:
     void show(const CaptureNotification &notification, Scheduler::Duration duration);
+    void beginTime();
     void end();
 
     ShelfNotificationLifetime m_lifetime;
     std::optional<CaptureNotification> m_showing;
     QString m_pendingFolderNotification;
+    Scheduler::Duration m_duration{0};
+    bool m_isHeld = false;
 };
 
 } // namespace tembra

@@ -3,12 +3,15 @@
 #include "controls/Palette.h"
 #include "controls/TembraButton.h"
 #include "controls/Typography.h"
+#include "shelf/FileDrag.h"
 #include "shelf/ScreenshotPreviewImageView.h"
 
+#include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
 
 #include <array>
+#include <utility>
 
 namespace tembra {
 
@@ -56,8 +59,38 @@ void CaptureNotificationView::resizeEvent(QResizeEvent *) {
     m_undo->move(width() - m_undo->width() - textLeftWithoutPreviews, (height() - m_undo->height()) / 2);
 }
 
+void CaptureNotificationView::enterEvent(QEnterEvent *) {
+    Q_EMIT hovered(true);
+}
+
+void CaptureNotificationView::leaveEvent(QEvent *) {
+    Q_EMIT hovered(false);
+}
+
+void CaptureNotificationView::mousePressEvent(QMouseEvent *event) {
+    if (event->button() == Qt::LeftButton)
+        m_pressed = event->position();
+}
+
+// The captures are dragged out of the notification as they are out of the shelf.
+void CaptureNotificationView::mouseMoveEvent(QMouseEvent *event) {
+    if (!m_pressed || m_notification.previews.isEmpty() ||
+        (event->position() - *m_pressed).manhattanLength() < QApplication::startDragDistance())
+        return;
+    m_pressed.reset();
+    QList<QImage> pictures;
+    for (const QString &path : m_notification.previews) {
+        if (m_images.contains(path))
+            pictures.append(m_images.value(path));
+    }
+    Q_EMIT dragBegan();
+    dragFiles(*this, m_notification.previews, pictures);
+    Q_EMIT dragEnded();
+}
+
 void CaptureNotificationView::mouseReleaseEvent(QMouseEvent *event) {
-    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
+    const bool wasPressed = std::exchange(m_pressed, std::nullopt).has_value();
+    if (wasPressed && rect().contains(event->position().toPoint()))
         Q_EMIT clicked();
 }
 

@@ -9,6 +9,7 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 
 namespace tembra {
 
@@ -28,10 +29,17 @@ Q_SIGNALS:
     void undoClicked();
     // Somewhere else on it.
     void clicked();
+    void hovered(bool isHovered);
+    void dragBegan();
+    void dragEnded();
 
 protected:
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    void enterEvent(QEnterEvent *event) override;
+    void leaveEvent(QEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
@@ -43,6 +51,8 @@ private:
     Thumbnails &m_thumbnails;
     CaptureNotification m_notification;
     TembraButton *m_undo;
+    // Where the button went down; nothing when it is up, or once a drag began.
+    std::optional<QPointF> m_pressed;
     QHash<QString, QImage> m_images;
     std::map<QString, std::unique_ptr<Thumbnails::Request>> m_requests;
 };

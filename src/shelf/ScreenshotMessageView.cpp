@@ -35,6 +35,7 @@ void ScreenshotMessageView::build() {
     m_title = label(this, typography::titleSize, QFont::DemiBold, palette::text);
     m_text = label(this, typography::bodySize, QFont::Normal, palette::secondaryText);
     m_button = new TembraButton(TembraButton::Kind::primary, this);
+    setFocusProxy(m_button);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(24, 0, 24, 20);
     column->setSpacing(8);

@@ -16,6 +16,11 @@ ShelfContent::ShelfContent(const ShelfServices &services) {
     connect(m_header, &ShelfHeader::settingsClicked, this, &ShelfContent::settingsRequested);
     connect(m_header, &ShelfHeader::undoClicked, this, &ShelfContent::undoRequested);
     connect(m_notification, &CaptureNotificationView::undoClicked, this, &ShelfContent::undoRequested);
+    connect(m_notification, &CaptureNotificationView::hovered, this, &ShelfContent::notificationHeld);
+    connect(m_notification, &CaptureNotificationView::dragBegan, this,
+            [this] { Q_EMIT notificationHeld(true); });
+    connect(m_notification, &CaptureNotificationView::dragEnded, this,
+            [this] { Q_EMIT notificationHeld(false); });
     connect(m_notification, &CaptureNotificationView::clicked, this, &ShelfContent::notificationClicked);
     connect(m_message, &ScreenshotMessageView::acted, this, &ShelfContent::messageActed);
     connect(m_grid, &NativeScreenshotGrid::selectionChanged, this, &ShelfContent::selectionChanged);
@@ -58,6 +63,13 @@ void ShelfContent::apply(const State &state) {
 
 QStringList ShelfContent::selectedPaths() const {
     return m_grid->selectedPaths();
+}
+
+void ShelfContent::takeFocus() {
+    if (m_state.message)
+        m_message->setFocus();
+    else
+        m_grid->takeFocus();
 }
 
 void ShelfContent::revealSelection() {

@@ -52,6 +52,8 @@ public:
     [[nodiscard]] QStringList selectedPaths() const;
     [[nodiscard]] std::vector<Shot> selectedShots() const;
     void revealSelection();
+    // Gives the keyboard to the content of the active tab.
+    void takeFocus();
     // Drags the selected screenshots out; returns when the drag has ended.
     void dragSelected();
     [[nodiscard]] QSet<ScreenshotFileIdentity> selection() const;
@@ -70,6 +72,8 @@ Q_SIGNALS:
     void undoRequested();
     void settingsRequested(QPoint globalPosition);
     void notificationClicked();
+    // The pointer rests on it, or drags from it.
+    void notificationHeld(bool isHeld);
     void activated(const tembra::Shot &shot);
 
 protected:

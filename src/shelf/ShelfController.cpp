@@ -140,6 +140,8 @@ ShelfContent &ShelfController::content() {
     connect(m_content.get(), &ShelfContent::settingsRequested, this,
             [this](QPoint position) { showMenu(statusMenu(statusMenuActions()), position); });
     connect(m_content.get(), &ShelfContent::undoRequested, this, &ShelfController::undo);
+    connect(m_content.get(), &ShelfContent::notificationHeld, this,
+            [this](bool isHeld) { m_announcer.hold(isHeld); });
     connect(m_content.get(), &ShelfContent::notificationClicked, this, &ShelfController::openAnnounced);
     connect(m_content.get(), &ShelfContent::dragRequested, this, &ShelfController::dragSelected);
     m_tabHover.canSwitchTo = [this](ShelfTab tab) { return canSwitchTabsWithHover(tab); };
@@ -226,8 +228,10 @@ void ShelfController::hideSurface() {
 
 void ShelfController::openManually() {
     m_hover.openManually();
-    if (m_expanded)
+    if (m_expanded) {
         m_surfaces->active()->takeKeyboardFocus();
+        content().takeFocus();
+    }
     m_session->screenshotAutoCopy.writePostponed();
 }
 

@@ -178,17 +178,15 @@ void ShelfController::openInDefaultApplication(const QStringList &paths) {
 }
 
 void ShelfController::cancel() {
-    if (m_preview.isOpen())
-        m_preview.close();
-    else
-        collapse();
+    if (!m_preview.isOpen())
+        return collapse();
+    m_preview.close();
+    m_hover.requestPointerEvaluation();
 }
 
 void ShelfController::togglePreview() {
-    if (m_preview.isOpen()) {
-        m_preview.close();
-        return m_hover.requestPointerEvaluation();
-    }
+    if (m_preview.isOpen())
+        return cancel();
     m_preview.show(content().selectedPaths(), previewArea());
 }
 

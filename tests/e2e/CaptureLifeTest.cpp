@@ -155,6 +155,7 @@ TEST_F(CaptureLife, oldCapturesGoByThemselvesOnceTheUserAgreedAndMayBeBroughtBac
     tembra.startInDays(9);
     EXPECT_TRUE(tembra.waitFor([](const QJsonObject &status) {
         return status[u"autoClean"][u"nextCheckSeconds"].toInt() > 3000;
-    })) << "a run is over: " << tembra.log().toStdString();
+    })) << "a run is over: "
+        << tembra.log().toStdString();
     EXPECT_EQ(folder(), both) << "what was brought back is spared";
 }

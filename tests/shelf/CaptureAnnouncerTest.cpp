@@ -41,6 +41,25 @@ TEST_F(CaptureAnnouncerTest, eachCaptureOfASeriesKeepsTheNoticeOpen) {
     EXPECT_EQ(shown->captureCount, 1) << "a new series begins";
 }
 
+TEST_F(CaptureAnnouncerTest, whatIsHeldStaysAndThenBeginsItsTimeAnew) {
+    capture("/a.png");
+    announcer.hold(true);
+    scheduler.advance(1min);
+    capture("/b.png");
+    scheduler.advance(1min);
+    ASSERT_TRUE(shown);
+    EXPECT_EQ(shown->captureCount, 2);
+    announcer.hold(false);
+    scheduler.advance(2900ms);
+    EXPECT_TRUE(shown);
+    scheduler.advance(100ms);
+    EXPECT_FALSE(shown);
+    announcer.hold(true);
+    capture("/c.png");
+    scheduler.advance(3s);
+    EXPECT_FALSE(shown) << "a pointer that rested where nothing showed holds nothing";
+}
+
 TEST_F(CaptureAnnouncerTest, aFolderNoticeWaitsForItsTurn) {
     capture("/a.png");
     announcer.announceFolder(QStringLiteral("one"));

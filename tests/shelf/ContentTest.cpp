@@ -113,7 +113,7 @@ TEST_F(ContentTest, theButtonOfAMessageAnswersIt) {
     int answers = 0;
     QObject::connect(&content, &ShelfContent::messageActed, [&] { ++answers; });
     applyMessage(ScreenshotFolderState::missing);
-    content.findChild<TembraButton *>()->click();
+    content.findChild<ScreenshotMessageView *>()->findChild<TembraButton *>()->click();
     EXPECT_EQ(answers, 1);
 }
 
