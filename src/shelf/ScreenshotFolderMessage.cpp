@@ -51,4 +51,9 @@ std::optional<ScreenshotMessage> screenshotFolderMessage(ScreenshotFolderState s
     return std::nullopt;
 }
 
+ScreenshotMessage emptyFolderMessage() {
+    return {.title = text(QT_TRANSLATE_NOOP("ScreenshotFolderMessage", "No screenshots yet")),
+            .text = text(QT_TRANSLATE_NOOP("ScreenshotFolderMessage", "Take one and it appears here."))};
+}
+
 } // namespace tembra

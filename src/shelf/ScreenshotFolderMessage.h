@@ -10,4 +10,7 @@ namespace tembra {
 // What the screenshots tab says instead of showing the grid; nothing when the grid is to be shown.
 [[nodiscard]] std::optional<ScreenshotMessage> screenshotFolderMessage(ScreenshotFolderState state);
 
+// Of a folder without captures.
+[[nodiscard]] ScreenshotMessage emptyFolderMessage();
+
 } // namespace tembra

@@ -46,19 +46,25 @@ void ShelfContent::apply(const State &state) {
     const bool isNotification = state.notification.has_value();
     m_notification->setVisible(isNotification);
     m_header->setVisible(!isNotification);
+    const bool gridComesBack = !isNotification && !state.message && m_grid->isHidden();
     m_grid->setVisible(!isNotification && !state.message);
     m_message->setVisible(!isNotification && state.message);
     if (isNotification)
         return m_notification->apply(*state.notification);
     m_header->apply(state.tabs, state.activeTab);
     m_header->offerUndo(state.undoName);
-    if (state.message)
+    if (state.message) {
+        // Nothing that is hidden stays selected.
+        m_grid->render({});
         return m_message->apply(*state.message);
+    }
     m_grid->render({.sections = state.sections,
                     .pinnedPaths = state.pinnedPaths,
                     .showFileNames = state.showsFileNames,
                     .grouped = state.isGrouped});
     m_grid->select(state.selection);
+    if (gridComesBack && isActiveWindow())
+        m_grid->takeFocus();
 }
 
 QStringList ShelfContent::selectedPaths() const {

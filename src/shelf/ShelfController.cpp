@@ -300,6 +300,8 @@ void ShelfController::render() {
         state.sections = ScreenshotTimeline::sections(m_session->folderShelf().shots, state.pinnedPaths,
                                                       m_services.now(), QTimeZone::systemTimeZone());
         state.selection = m_session->selected;
+        if (state.sections.empty())
+            state.message = emptyFolderMessage();
     }
     state.isGrouped = settings.groupScreenshotsByDate;
     state.showsFileNames = settings.showFileNames;
