@@ -1,0 +1,98 @@
+#include "platform/linux/PngFilter.h"
+
+#include <array>
+#include <cstdlib>
+
+namespace tembra {
+
+namespace {
+
+using Byte = unsigned char;
+
+void undoUp(Byte *row, const Byte *above, std::size_t size) {
+    for (std::size_t i = 0; i < size; ++i)
+        row[i] = static_cast<Byte>(row[i] + above[i]);
+}
+
+// The number of channels is known when these are compiled, so that the pixel to the left stays in registers.
+template <std::size_t channels>
+void undoSub(Byte *row, std::size_t size) {
+    std::array<Byte, channels> left{};
+    for (std::size_t i = 0; i < size; i += channels) {
+        for (std::size_t c = 0; c < channels; ++c)
+            row[i + c] = left[c] = static_cast<Byte>(row[i + c] + left[c]);
+    }
+}
+
+template <std::size_t channels>
+void undoAverage(Byte *row, const Byte *above, std::size_t size) {
+    std::array<unsigned, channels> left{};
+    for (std::size_t i = 0; i < size; i += channels) {
+        for (std::size_t c = 0; c < channels; ++c) {
+            left[c] = (row[i + c] + (left[c] + above[i + c]) / 2) & 0xff;
+            row[i + c] = static_cast<Byte>(left[c]);
+        }
+    }
+}
+
+// Whichever of the three is nearest to left + up - corner; the earlier one where two are.
+int nearest(int left, int up, int corner) {
+    const int toLeft = std::abs(up - corner);
+    const int toUp = std::abs(left - corner);
+    const int toCorner = std::abs(left + up - 2 * corner);
+    const int besides = toCorner < toUp ? corner : up;
+    return toLeft <= toUp && toLeft <= toCorner ? left : besides;
+}
+
+template <std::size_t channels>
+void undoPaeth(Byte *row, const Byte *above, std::size_t size) {
+    std::array<int, channels> left{};
+    std::array<int, channels> corner{};
+    for (std::size_t i = 0; i < size; i += channels) {
+        for (std::size_t c = 0; c < channels; ++c) {
+            const int up = above[i + c];
+            left[c] = (row[i + c] + nearest(left[c], up, corner[c])) & 0xff;
+            corner[c] = up;
+            row[i + c] = static_cast<Byte>(left[c]);
+        }
+    }
+}
+
+template <std::size_t channels>
+bool undo(Byte *row, const Byte *above, std::size_t size) {
+    switch (*row) {
+    case 0:
+        return true;
+    case 1:
+        undoSub<channels>(row + 1, size);
+        return true;
+    case 2:
+        undoUp(row + 1, above, size);
+        return true;
+    case 3:
+        undoAverage<channels>(row + 1, above, size);
+        return true;
+    case 4:
+        undoPaeth<channels>(row + 1, above, size);
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+bool undoPngFilter(unsigned char *row, const unsigned char *above, std::size_t size, int channels) {
+    switch (channels) {
+    case 1:
+        return undo<1>(row, above, size);
+    case 2:
+        return undo<2>(row, above, size);
+    case 3:
+        return undo<3>(row, above, size);
+    default:
+        return undo<4>(row, above, size);
+    }
+}
+
+} // namespace tembra
