@@ -17,6 +17,7 @@
 
 #include <atomic>
 #include <cstdlib>
+#include <fcntl.h>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <thread>
@@ -80,6 +81,24 @@ double ours(const QStringList &captures, const QString &cache) {
            static_cast<double>(captures.size());
 }
 
+// Runs a program whose words nobody is to read.
+bool succeeds(std::vector<std::string> command) {
+    std::vector<char *> arguments;
+    for (std::string &word : command)
+        arguments.push_back(word.data());
+    arguments.push_back(nullptr);
+    posix_spawn_file_actions_t quiet;
+    posix_spawn_file_actions_init(&quiet);
+    posix_spawn_file_actions_addopen(&quiet, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
+    pid_t child = -1;
+    int status = -1;
+    const bool ended =
+        posix_spawnp(&child, arguments.front(), &quiet, nullptr, arguments.data(), environ) == 0 &&
+        waitpid(child, &status, 0) == child;
+    posix_spawn_file_actions_destroy(&quiet);
+    return ended && status == 0;
+}
+
 // The same for a program that is given a file's name and where to put its thumbnail, with as many at work at
 // once as there are processors.
 double program(const std::vector<std::string> &command, const QStringList &captures, const QDir &folder) {
@@ -97,16 +116,7 @@ double program(const std::vector<std::string> &command, const QStringList &captu
                 if (word == "OUTPUT")
                     word = output.toStdString();
             }
-            std::vector<char *> arguments;
-            for (std::string &word : words)
-                arguments.push_back(word.data());
-            arguments.push_back(nullptr);
-            pid_t child = -1;
-            int status = -1;
-            require(posix_spawnp(&child, arguments.front(), nullptr, nullptr, arguments.data(), environ) ==
-                            0 &&
-                        waitpid(child, &status, 0) == child && status == 0 && QFile::exists(output),
-                    "a thumbnailer program did not work");
+            require(succeeds(words) && QFile::exists(output), "a thumbnailer program did not work");
         }
     };
     return milliseconds([&] {

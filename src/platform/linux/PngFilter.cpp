@@ -1,7 +1,9 @@
 #include "platform/linux/PngFilter.h"
 
+#include <algorithm>
 #include <array>
-#include <cstdlib>
+#include <cstdint>
+#include <cstring>
 
 namespace tembra {
 
@@ -35,25 +37,47 @@ void undoAverage(Byte *row, const Byte *above, std::size_t size) {
     }
 }
 
-// Whichever of the three is nearest to left + up - corner; the earlier one where two are.
+// The one of the three that is nearest to left + up - corner, in the order of preference of the format,
+// without measuring distances: a corner that lies so far beyond the other two that the third is nearest shows
+// in their sum.
 int nearest(int left, int up, int corner) {
-    const int toLeft = std::abs(up - corner);
-    const int toUp = std::abs(left - corner);
-    const int toCorner = std::abs(left + up - 2 * corner);
-    const int besides = toCorner < toUp ? corner : up;
-    return toLeft <= toUp && toLeft <= toCorner ? left : besides;
+    const int lower = std::min(left, up);
+    const int higher = std::max(left, up);
+    const int beyond = 3 * corner - left - up;
+    const int besides = higher <= beyond ? lower : corner;
+    return beyond <= lower ? higher : besides;
+}
+
+template <std::size_t size>
+bool isZero(const Byte *bytes) {
+    std::array<std::uint64_t, size / sizeof(std::uint64_t)> words;
+    std::memcpy(words.data(), bytes, size);
+    return std::ranges::all_of(words, [](std::uint64_t word) { return word == 0; });
 }
 
 template <std::size_t channels>
 void undoPaeth(Byte *row, const Byte *above, std::size_t size) {
+    constexpr std::size_t block = 8 * channels;
     std::array<int, channels> left{};
     std::array<int, channels> corner{};
-    for (std::size_t i = 0; i < size; i += channels) {
-        for (std::size_t c = 0; c < channels; ++c) {
-            const int up = above[i + c];
-            left[c] = (row[i + c] + nearest(left[c], up, corner[c])) & 0xff;
-            corner[c] = up;
-            row[i + c] = static_cast<Byte>(left[c]);
+    for (std::size_t i = 0; i < size;) {
+        const std::size_t end = std::min(size, i + block);
+        // Where the row has become like the one above it stays so until a difference is given: most of what
+        // is on screens.
+        if (end == i + block && left == corner && isZero<block>(row + i)) {
+            std::memcpy(row + i, above + i, block);
+            for (std::size_t c = 0; c < channels; ++c)
+                left[c] = corner[c] = above[end - channels + c];
+            i = end;
+            continue;
+        }
+        for (; i < end; i += channels) {
+            for (std::size_t c = 0; c < channels; ++c) {
+                const int up = above[i + c];
+                left[c] = (row[i + c] + nearest(left[c], up, corner[c])) & 0xff;
+                corner[c] = up;
+                row[i + c] = static_cast<Byte>(left[c]);
+            }
         }
     }
 }
