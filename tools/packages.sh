@@ -19,6 +19,9 @@ desktop_packages=(
   sway wl-clipboard xclip xsettingsd faketime hsetroot scrot imagemagick gnome-screenshot libglib2.0-bin
 )
 
+# What other programs are measured against.
+bench_packages=(libgdk-pixbuf2.0-bin ffmpegthumbnailer)
+
 # Installs those of the named packages that are missing, with sudo where needed.
 install_missing() {
   local missing=() package

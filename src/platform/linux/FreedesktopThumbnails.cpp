@@ -21,8 +21,12 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr std::size_t mostThreads = 2;
 constexpr std::chrono::milliseconds programLimit = 10s;
+
+// More would take too much memory for large pictures.
+std::size_t mostThreads() {
+    return std::clamp(std::thread::hardware_concurrency(), 2U, 4U);
+}
 
 // Only regular files are opened: a named pipe would hold the thread for ever.
 std::optional<ThumbnailCacheFolder::Source> sourceOf(const QString &path) {
@@ -96,7 +100,7 @@ FreedesktopThumbnails::request(const QString &path, double sidePoints, double sc
         const std::lock_guard lock(m_mutex);
         std::erase_if(m_jobs, [](const auto &waiting) { return waiting->cancelled.load(); });
         m_jobs.push_back(job);
-        if (m_jobs.size() > m_idle && m_threads.size() < mostThreads)
+        if (m_jobs.size() > m_idle && m_threads.size() < mostThreads())
             m_threads.emplace_back([this] { run(); });
     }
     m_wake.notify_one();

@@ -35,6 +35,8 @@ private:
         void *pages = ::mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
         if (pages == MAP_FAILED)
             return;
+        // Fewer faults for as many bytes; a wish, no more.
+        ::madvise(pages, size, MADV_HUGEPAGE);
         m_pages = pages;
         m_size = size;
     }
