@@ -37,9 +37,8 @@ void undoAverage(Byte *row, const Byte *above, std::size_t size) {
     }
 }
 
-// The one of the three that is nearest to left + up - corner, in the order of preference of the format,
-// without measuring distances: a corner that lies so far beyond the other two that the third is nearest shows
-// in their sum.
+// The one of the three that is nearest to left + up - corner: the corner where it lies in the middle third
+// between the other two, else the one of them that is farther from it.
 int nearest(int left, int up, int corner) {
     const int lower = std::min(left, up);
     const int higher = std::max(left, up);
@@ -48,11 +47,18 @@ int nearest(int left, int up, int corner) {
     return beyond <= lower ? higher : besides;
 }
 
-template <std::size_t size>
-bool isZero(const Byte *bytes) {
-    std::array<std::uint64_t, size / sizeof(std::uint64_t)> words;
-    std::memcpy(words.data(), bytes, size);
-    return std::ranges::all_of(words, [](std::uint64_t word) { return word == 0; });
+// How many of the bytes are zeros, in whole blocks.
+template <std::size_t block>
+std::size_t zeros(const Byte *bytes, std::size_t size) {
+    std::array<std::uint64_t, block / sizeof(std::uint64_t)> words;
+    std::size_t count = 0;
+    while (size - count >= block) {
+        std::memcpy(words.data(), bytes + count, block);
+        if (std::ranges::any_of(words, [](std::uint64_t word) { return word != 0; }))
+            break;
+        count += block;
+    }
+    return count;
 }
 
 template <std::size_t channels>
@@ -61,16 +67,16 @@ void undoPaeth(Byte *row, const Byte *above, std::size_t size) {
     std::array<int, channels> left{};
     std::array<int, channels> corner{};
     for (std::size_t i = 0; i < size;) {
-        const std::size_t end = std::min(size, i + block);
         // Where the row has become like the one above it stays so until a difference is given: most of what
         // is on screens.
-        if (end == i + block && left == corner && isZero<block>(row + i)) {
-            std::memcpy(row + i, above + i, block);
+        const std::size_t alike = left == corner ? zeros<block>(row + i, size - i) : 0;
+        if (alike > 0) {
+            std::memcpy(row + i, above + i, alike);
+            i += alike;
             for (std::size_t c = 0; c < channels; ++c)
-                left[c] = corner[c] = above[end - channels + c];
-            i = end;
-            continue;
+                left[c] = corner[c] = above[i - channels + c];
         }
+        const std::size_t end = std::min(size, i + block);
         for (; i < end; i += channels) {
             for (std::size_t c = 0; c < channels; ++c) {
                 const int up = above[i + c];
