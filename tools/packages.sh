@@ -6,7 +6,7 @@ build_packages=(
   libexpected-dev libglib2.0-dev
   libxcb1-dev libxcb-xfixes0-dev libxcb-xinput-dev libxcb-shape0-dev libxcb-xtest0-dev
   libwayland-dev
-  libheif-dev libcanberra-dev
+  libheif-dev libcanberra-dev libdeflate-dev
   libgtest-dev libgmock-dev libbenchmark-dev
 )
 
@@ -18,6 +18,9 @@ desktop_packages=(
   xvfb openbox picom dbus dbus-daemon xdotool x11-utils x11-xserver-utils
   sway wl-clipboard xclip xsettingsd faketime hsetroot scrot imagemagick gnome-screenshot libglib2.0-bin
 )
+
+# What other programs are measured against.
+bench_packages=(libgdk-pixbuf2.0-bin ffmpegthumbnailer)
 
 # Installs those of the named packages that are missing, with sudo where needed.
 install_missing() {

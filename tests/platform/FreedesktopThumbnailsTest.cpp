@@ -122,6 +122,23 @@ TEST_F(FreedesktopThumbnailsTest, picturesOfEveryKindAreReducedToTheSizeAskedFor
     }
 }
 
+TEST_F(FreedesktopThumbnailsTest, fineDetailIsAveragedWhateverTheFormat) {
+    QImage stripes(640, 640, QImage::Format_RGB32);
+    for (int y = 0; y < stripes.height(); ++y) {
+        for (int x = 0; x < stripes.width(); ++x)
+            stripes.setPixel(x, y, x % 5 == 2 ? qRgb(255, 255, 255) : qRgb(0, 0, 0));
+    }
+    for (const auto format : {QImage::Format_Mono, QImage::Format_Indexed8, QImage::Format_Grayscale8,
+                              QImage::Format_RGB32, QImage::Format_ARGB32, QImage::Format_RGBA64}) {
+        for (const char *type : {"png", "tiff"}) {
+            const QString file = QStringLiteral("%1.%2").arg(format).arg(QLatin1StringView(type));
+            const Outcome outcome = ask(save(file, stripes.convertToFormat(format)));
+            ASSERT_TRUE(outcome) << qPrintable(file);
+            EXPECT_TRUE(near(outcome->image.pixelColor(20, 30), QColor(51, 51, 51))) << qPrintable(file);
+        }
+    }
+}
+
 TEST_F(FreedesktopThumbnailsTest, aTurnedPhotographIsUpright) {
     QImageWriter writer(path(QStringLiteral("turned.jpg")));
     writer.setTransformation(QImageIOHandler::TransformationRotate90);

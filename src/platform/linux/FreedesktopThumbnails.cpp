@@ -21,8 +21,12 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr std::size_t mostThreads = 2;
 constexpr std::chrono::milliseconds programLimit = 10s;
+
+// More would take too much memory for large pictures.
+std::size_t mostThreads() {
+    return std::clamp(std::thread::hardware_concurrency(), 2U, 4U);
+}
 
 // Only regular files are opened: a named pipe would hold the thread for ever.
 std::optional<ThumbnailCacheFolder::Source> sourceOf(const QString &path) {
@@ -96,7 +100,7 @@ FreedesktopThumbnails::request(const QString &path, double sidePoints, double sc
         const std::lock_guard lock(m_mutex);
         std::erase_if(m_jobs, [](const auto &waiting) { return waiting->cancelled.load(); });
         m_jobs.push_back(job);
-        if (m_jobs.size() > m_idle && m_threads.size() < mostThreads)
+        if (m_jobs.size() > m_idle && m_threads.size() < mostThreads())
             m_threads.emplace_back([this] { run(); });
     }
     m_wake.notify_one();
@@ -104,27 +108,34 @@ FreedesktopThumbnails::request(const QString &path, double sidePoints, double sc
 }
 
 void FreedesktopThumbnails::run() {
-    while (const std::shared_ptr<Job> job = take())
-        perform(job);
+    do {
+        // Its memory goes while there is nothing to do.
+        PngThumbnailReader pngReader;
+        while (const std::shared_ptr<Job> job = take())
+            perform(job, pngReader);
+    } while (awaitJobs());
 }
 
 std::shared_ptr<FreedesktopThumbnails::Job> FreedesktopThumbnails::take() {
-    std::unique_lock lock(m_mutex);
-    while (!m_ending) {
-        while (!m_jobs.empty()) {
-            std::shared_ptr<Job> job = std::move(m_jobs.back());
-            m_jobs.pop_back();
-            if (!job->cancelled)
-                return job;
-        }
-        ++m_idle;
-        m_wake.wait(lock, [this] { return m_ending || !m_jobs.empty(); });
-        --m_idle;
+    const std::lock_guard lock(m_mutex);
+    while (!m_jobs.empty()) {
+        std::shared_ptr<Job> job = std::move(m_jobs.back());
+        m_jobs.pop_back();
+        if (!job->cancelled)
+            return job;
     }
     return nullptr;
 }
 
-void FreedesktopThumbnails::perform(const std::shared_ptr<Job> &job) {
+bool FreedesktopThumbnails::awaitJobs() {
+    std::unique_lock lock(m_mutex);
+    ++m_idle;
+    m_wake.wait(lock, [this] { return m_ending || !m_jobs.empty(); });
+    --m_idle;
+    return !m_ending;
+}
+
+void FreedesktopThumbnails::perform(const std::shared_ptr<Job> &job, PngThumbnailReader &pngReader) {
     const auto source = sourceOf(job->path);
     if (!source) {
         deliver(job, exists(job->path) ? Result<QImage>() : failure(unreadablePicture()));
@@ -135,14 +146,17 @@ void FreedesktopThumbnails::perform(const std::shared_ptr<Job> &job) {
         return;
     }
     std::optional<QImage> toStore;
-    deliver(job, make(*job, toStore));
+    deliver(job, make(*job, pngReader, toStore));
     // A file that changed while it was read has a thumbnail of neither version.
     if (toStore && sourceOf(job->path) == source)
         m_cache.store(*source, *toStore);
 }
 
-Result<QImage> FreedesktopThumbnails::make(const Job &job, std::optional<QImage> &toStore) {
+Result<QImage> FreedesktopThumbnails::make(const Job &job, PngThumbnailReader &pngReader,
+                                           std::optional<QImage> &toStore) {
     const int side = ThumbnailCacheFolder::sideFor(job.pixels);
+    if ((toStore = pngReader.read(job.path, side)))
+        return reduced(*toStore, job.pixels).image;
     auto picture = decodeReduced(job.path, side);
     if (picture && !*picture)
         picture = decodeReducedHeif(job.path, side);

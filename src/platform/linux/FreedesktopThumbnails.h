@@ -2,6 +2,7 @@
 
 #include "base/Scheduler.h"
 #include "platform/Thumbnails.h"
+#include "platform/linux/PngThumbnailReader.h"
 #include "platform/linux/ThumbnailCacheFolder.h"
 #include "platform/linux/ThumbnailerPrograms.h"
 
@@ -44,11 +45,14 @@ private:
     class JobRequest;
 
     void run();
-    // The newest job that is still wanted; nothing when the threads are to end.
+    // The newest job that is still wanted, if there is one.
     std::shared_ptr<Job> take();
-    void perform(const std::shared_ptr<Job> &job);
+    // Sleeps until there are jobs; false when the threads are to end.
+    bool awaitJobs();
+    void perform(const std::shared_ptr<Job> &job, PngThumbnailReader &pngReader);
     void deliver(const std::shared_ptr<Job> &job, Result<QImage> picture);
-    [[nodiscard]] Result<QImage> make(const Job &job, std::optional<QImage> &toStore);
+    [[nodiscard]] Result<QImage> make(const Job &job, PngThumbnailReader &pngReader,
+                                      std::optional<QImage> &toStore);
     [[nodiscard]] std::optional<QImage> fromProgram(const Job &job, const QString &type, int side);
 
     Scheduler &m_scheduler;

@@ -42,6 +42,20 @@ QImage forScreens(QImage image) {
     return std::move(image).convertToFormat(isTransparent ? QImage::Format_ARGB32 : QImage::Format_RGB32);
 }
 
+// Qt averages areas in some formats only; in the others it picks pixels, which makes text ragged.
+QImage averageable(const QImage &image) {
+    switch (image.format()) {
+    case QImage::Format_RGB32:
+    case QImage::Format_ARGB32_Premultiplied:
+    case QImage::Format_RGBX64:
+    case QImage::Format_RGBA64_Premultiplied:
+        return image;
+    default:
+        return image.convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
+                                                             : QImage::Format_RGB32);
+    }
+}
+
 Error pictureTooLarge() {
     return {screenshotThumbnailErrorDomain,
             2,
@@ -62,7 +76,7 @@ DecodedPicture reduced(const QImage &image, int side) {
     if (std::max(image.width(), image.height()) <= side)
         return {image, false};
     const QSize size = image.size().scaled(side, side, Qt::KeepAspectRatio).expandedTo({1, 1});
-    return {image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation), true};
+    return {averageable(image).scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation), true};
 }
 
 Result<std::optional<DecodedPicture>> decodeReduced(const QString &path, int side) {
@@ -78,7 +92,9 @@ Result<std::optional<DecodedPicture>> decodeReduced(const QString &path, int sid
         return failure(pictureTooLarge());
     const bool reduces = size.isValid() && std::max(size.width(), size.height()) > side;
     // The side is a square's, so it does not matter that the picture may be turned afterwards.
-    if (reduces && reader.supportsOption(QImageIOHandler::ScaledSize))
+    // Qt's own scaling of PNG picks pixels and confines them to a palette; it does save memory.
+    const bool scalesWell = reader.format() != "png" || pixels > largePixels;
+    if (reduces && scalesWell && reader.supportsOption(QImageIOHandler::ScaledSize))
         reader.setScaledSize(size.scaled(side, side, Qt::KeepAspectRatio).expandedTo({1, 1}));
     const auto turn = turnForLarge(pixels);
     const QImage image = reader.read();
