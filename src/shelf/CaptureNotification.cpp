@@ -29,7 +29,7 @@ QString whatArrived(int count, bool hasRecording) {
 } // namespace
 
 QString CaptureNotification::detail() const {
-    const QString arrived = whatArrived(captureCount, hasRecording);
+    QString arrived = whatArrived(captureCount, hasRecording);
     switch (copyState) {
     case CopyState::none:
         break;

@@ -12,6 +12,7 @@
 
 #include <QEvent>
 #include <QPainter>
+#include <QStyle>
 
 #include <utility>
 

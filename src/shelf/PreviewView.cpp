@@ -93,12 +93,13 @@ QString PreviewView::title() const {
     if (m_items.size() != 1)
         return tr("%n files", nullptr, static_cast<int>(m_items.size()));
     const PreviewItem &item = m_items.front();
-    const QString name = QFileInfo(item.path).fileName();
+    QString name = QFileInfo(item.path).fileName();
     if (item.isLoaded && item.image.isNull())
         return tr("%1 cannot be shown").arg(name);
     if (item.image.isNull() || item.isRecording)
         return name;
-    return tr("%1 · %2 × %3").arg(name).arg(item.image.width()).arg(item.image.height());
+    return tr("%1 · %2 × %3")
+        .arg(name, QString::number(item.image.width()), QString::number(item.image.height()));
 }
 
 QRectF PreviewView::pictureArea() const {
