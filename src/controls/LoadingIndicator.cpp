@@ -1,9 +1,9 @@
 #include "controls/LoadingIndicator.h"
 
-#include "controls/Palette.h"
+#include "controls/Motion.h"
+#include "controls/Theme.h"
 
 #include <QPainter>
-#include <QStyle>
 
 namespace tembra {
 
@@ -23,15 +23,15 @@ void LoadingIndicator::paintEvent(QPaintEvent *) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF ring = QRectF(rect()).adjusted(thickness, thickness, -thickness, -thickness);
-    painter.setPen(QPen(palette::groupActive, thickness));
+    painter.setPen(QPen(Theme::of(*this).track, thickness));
     painter.drawEllipse(ring);
     const double angle = m_turn.currentValue().toDouble();
-    painter.setPen(QPen(palette::icon, thickness, Qt::SolidLine, Qt::RoundCap));
+    painter.setPen(QPen(Theme::of(*this).secondaryText, thickness, Qt::SolidLine, Qt::RoundCap));
     painter.drawArc(ring, static_cast<int>((90 - angle) * sixteenths), -100 * sixteenths);
 }
 
 void LoadingIndicator::showEvent(QShowEvent *) {
-    if (style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this) > 0)
+    if (!motion::isReduced(*this))
         m_turn.start();
 }
 

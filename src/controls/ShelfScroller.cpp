@@ -1,12 +1,12 @@
 #include "controls/ShelfScroller.h"
 
-#include "controls/Palette.h"
+#include "controls/Motion.h"
+#include "controls/Theme.h"
 
 #include <QContextMenuEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QSignalBlocker>
-#include <QStyle>
 
 #include <algorithm>
 #include <cmath>
@@ -17,8 +17,6 @@ namespace {
 
 constexpr qreal minimumKnobLength = 28;
 constexpr qreal padding = 2;
-constexpr int fadeMilliseconds = 160;
-constexpr int flashMilliseconds = 1100;
 
 } // namespace
 
@@ -64,8 +62,7 @@ void ShelfScroller::updateOpacity() {
     if (m_opacity == target)
         return;
     m_fade.setKeyValues({{0, m_opacity}, {1, target}});
-    const bool animates = style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this) > 0;
-    m_fade.setDuration(animates ? fadeMilliseconds : 0);
+    m_fade.setDuration(motion::isReduced(*this) ? 0 : static_cast<int>(motion::fade.count()));
     m_fade.start();
 }
 
@@ -76,7 +73,7 @@ void ShelfScroller::flash() {
     m_fade.stop();
     m_opacity = 1;
     m_fade.setKeyValues({{0, 1.0}, {0.8, 1.0}, {1, 0.0}});
-    m_fade.setDuration(flashMilliseconds);
+    m_fade.setDuration(static_cast<int>(motion::flash.count()));
     m_fade.start();
     update();
 }
@@ -106,7 +103,8 @@ void ShelfScroller::paintEvent(QPaintEvent *) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setOpacity(m_opacity);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(m_grip || underMouse() ? palette::scrollerKnobActive : palette::scrollerKnob);
+    const Theme &theme = Theme::of(*this);
+    painter.setBrush(m_grip || underMouse() ? theme.scrollerActive : theme.scroller);
     painter.drawRoundedRect(knobRect(), knobWidth / 2.0, knobWidth / 2.0);
 }
 

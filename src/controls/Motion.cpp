@@ -1,0 +1,27 @@
+#include "controls/Motion.h"
+
+#include <QStyle>
+#include <QVariantAnimation>
+#include <QWidget>
+
+namespace tembra::motion {
+
+bool isReduced(const QWidget &widget) {
+    return widget.style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, &widget) <= 0;
+}
+
+void animateTo(QVariantAnimation &animation, qreal target, const QWidget &widget) {
+    const qreal from = animation.currentValue().toReal();
+    animation.stop();
+    const bool moves = widget.isVisible() && !isReduced(widget);
+    animation.setDuration(static_cast<int>(control.count()));
+    animation.setEasingCurve(QEasingCurve::OutCubic);
+    animation.setStartValue(moves ? from : target);
+    animation.setEndValue(target);
+    if (moves)
+        animation.start();
+    else
+        animation.setCurrentTime(animation.duration());
+}
+
+} // namespace tembra::motion

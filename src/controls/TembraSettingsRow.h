@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QWidget>
+
+namespace tembra {
+
+// A line of the settings: a title, under it a detail where there is something to explain, and the control at
+// the far end. The row owns the control and lends it its title as name and its detail as description.
+class TembraSettingsRow final : public QWidget {
+    Q_OBJECT
+
+public:
+    TembraSettingsRow(const QString &title, QWidget *control, QWidget *parent = nullptr);
+
+    [[nodiscard]] const QString &title() const { return m_title; }
+    void setTitle(const QString &title);
+    [[nodiscard]] const QString &detail() const { return m_detail; }
+    void setDetail(const QString &detail);
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+    [[nodiscard]] bool hasHeightForWidth() const override { return true; }
+    [[nodiscard]] int heightForWidth(int width) const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    bool event(QEvent *event) override;
+
+private:
+    void layOut();
+    void nameControl();
+    [[nodiscard]] int detailHeight(int width) const;
+    [[nodiscard]] int textWidth(int width) const;
+
+    QString m_title;
+    QString m_detail;
+    QWidget *m_control;
+};
+
+} // namespace tembra
