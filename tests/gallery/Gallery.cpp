@@ -85,7 +85,7 @@ QWidget *scrolledArea() {
 
 Gallery::Gallery(Appearance appearance, QWidget *parent) : QWidget(parent) {
     Theme::setAppearance(*this, appearance);
-    setFixedWidth(620);
+    setFixedWidth(680);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 24);
     column->setSpacing(6);
