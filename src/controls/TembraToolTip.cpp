@@ -85,6 +85,7 @@ TembraToolTip::TembraToolTip(const QString &text, QWidget *owner)
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setAccessibleName(text);
     setFont(typography::font(typography::captionSize));
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
 QSize TembraToolTip::sizeHint() const {

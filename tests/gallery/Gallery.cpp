@@ -77,7 +77,7 @@ QWidget *scrolledArea() {
     mirrored->setPageStep(100);
     auto *scroller = new ShelfScroller(*mirrored, area);
     scroller->setGeometry(0, 0, 16, 64);
-    scroller->setAreaActive(true);
+    scroller->flash();
     return area;
 }
 
@@ -85,7 +85,7 @@ QWidget *scrolledArea() {
 
 Gallery::Gallery(Appearance appearance, QWidget *parent) : QWidget(parent) {
     Theme::setAppearance(*this, appearance);
-    setFixedWidth(680);
+    setFixedWidth(700);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 24);
     column->setSpacing(6);
