@@ -1,6 +1,7 @@
 #include "shelf/FileItemCell.h"
 
 #include "controls/FocusRing.h"
+#include "controls/Motion.h"
 #include "controls/Palette.h"
 #include "controls/Typography.h"
 #include "platform/FileFacts.h"
@@ -12,7 +13,6 @@
 
 #include <QEvent>
 #include <QPainter>
-#include <QStyle>
 
 #include <utility>
 
@@ -57,7 +57,7 @@ void FileItemCell::setItemRect(const QRect &rectangle, bool moves) {
     if (place == (isOnItsWay ? m_motion.endValue().toRect() : geometry()))
         return;
     m_motion.stop();
-    if (!moves || !isVisible() || style()->styleHint(QStyle::SH_Widget_Animation_Duration) == 0)
+    if (!moves || !isVisible() || motion::isReduced(*this))
         return setGeometry(place);
     m_motion.setStartValue(geometry());
     m_motion.setEndValue(place);

@@ -1,5 +1,6 @@
 #include "shelf/PreviewView.h"
 
+#include "controls/Motion.h"
 #include "controls/Palette.h"
 #include "controls/TembraButton.h"
 #include "controls/Typography.h"
@@ -10,7 +11,6 @@
 #include <QFileInfo>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QStyle>
 
 #include <algorithm>
 
@@ -21,7 +21,6 @@ namespace {
 constexpr QSizeF unknownSize{480, 300};
 constexpr qreal windowRadius = 14;
 constexpr qreal pictureRadius = 6;
-constexpr int openingMilliseconds = 160;
 // The window grows from this part of its size.
 constexpr qreal openingScale = 0.92;
 
@@ -40,7 +39,7 @@ PreviewView::PreviewView()
     m_open->setText(tr("Open"));
     m_open->resize(m_open->sizeHint());
     connect(m_open, &TembraButton::clicked, this, &PreviewView::openRequested);
-    m_opening.setDuration(openingMilliseconds);
+    m_opening.setDuration(static_cast<int>(motion::fade.count()));
     m_opening.setStartValue(0.0);
     m_opening.setEndValue(1.0);
     m_opening.setEasingCurve(QEasingCurve::OutCubic);
@@ -60,7 +59,7 @@ void PreviewView::present(const std::vector<PreviewItem> &items, const QRectF &a
     const bool wasVisible = isVisible();
     show();
     raise();
-    if (!wasVisible && style()->styleHint(QStyle::SH_Widget_Animation_Duration) > 0)
+    if (!wasVisible && !motion::isReduced(*this))
         m_opening.start();
     update();
 }

@@ -1,5 +1,6 @@
 #include "shelf/ShelfDisplayWindow.h"
 
+#include "controls/Motion.h"
 #include "shelf/ShelfPanel.h"
 #include "shelf/ShelfPanelShape.h"
 #include "shelf/ShelfView.h"
@@ -7,7 +8,6 @@
 #include <QBitmap>
 #include <QPainter>
 #include <QRegion>
-#include <QStyle>
 
 #include <cmath>
 
@@ -114,9 +114,7 @@ void ShelfDisplayWindow::present(const ShelfPresentation &presentation, bool isA
     if (hasContent() && presentation.kind != ShelfPresentation::Kind::collapsed)
         m_content->resize(presentation.size);
     updateInputRegion();
-    const bool hasMotion =
-        isAnimated && m_panel->style()->styleHint(QStyle::SH_Widget_Animation_Duration) > 0;
-    if (hasMotion) {
+    if (isAnimated && !motion::isReduced(*m_panel)) {
         m_animation.start();
         placeBody();
     } else {

@@ -11,7 +11,7 @@ namespace {
 // Of the program's end with a sound that is just being handed over.
 constexpr int patienceMilliseconds = 100;
 
-// Names of the freedesktop.org Sound Naming Specification 0.1.
+// Names of freedesktop.org sound themes.
 const char *soundName(Sounds::Event event) {
     switch (event) {
     case Sounds::Event::movedToTrash:

@@ -9,8 +9,9 @@
 
 namespace tembra {
 
-// The installed programs by the desktop entries that name what they open (freedesktop Desktop Entry and MIME
-// Applications Associations specifications), through GIO. Main thread; identifiers are desktop entry names.
+// The installed programs by their desktop entries, which name what they open, and by the user's choices among
+// them (freedesktop.org Desktop Entry and mimeapps.list), through GIO. Main thread; identifiers are desktop
+// entry names.
 struct DesktopApplications {
     [[nodiscard]] static std::vector<Workspace::Application> applicationsFor(const QStringList &paths);
     static Result<void> open(const QStringList &paths, const QString &identifier);
