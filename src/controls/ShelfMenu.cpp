@@ -36,6 +36,14 @@ ShelfMenu::ShelfMenu(QWidget *parent) : QMenu(parent) {
     setStyleSheet(shelfStyle());
 }
 
+QAction *ShelfMenu::add(const QString &title, const std::function<void()> &action) {
+    QAction *item = addAction(title);
+    item->setEnabled(action != nullptr);
+    if (action)
+        connect(item, &QAction::triggered, item, action);
+    return item;
+}
+
 ShelfMenu *ShelfMenu::addSubmenu(const QString &title) {
     auto *submenu = new ShelfMenu(this);
     submenu->setTitle(title);

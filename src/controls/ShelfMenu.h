@@ -2,6 +2,8 @@
 
 #include <QMenu>
 
+#include <functional>
+
 namespace tembra {
 
 // A menu in the shelf's colours. The program's own, so that it is dark beside the dark panel whatever the
@@ -11,6 +13,8 @@ class ShelfMenu final : public QMenu {
 
 public:
     explicit ShelfMenu(QWidget *parent = nullptr);
+    // An item without an action is disabled.
+    QAction *add(const QString &title, const std::function<void()> &action);
     // A submenu in the same colours, owned by this one.
     ShelfMenu *addSubmenu(const QString &title);
 };

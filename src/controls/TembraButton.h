@@ -1,13 +1,11 @@
 #pragma once
 
-#include "controls/KeyboardFocus.h"
-
-#include <QAbstractButton>
+#include "controls/PaintedButton.h"
 
 namespace tembra {
 
 // A plain push button with a title.
-class TembraButton final : public QAbstractButton {
+class TembraButton final : public PaintedButton {
     Q_OBJECT
 
 public:
@@ -19,10 +17,9 @@ public:
     explicit TembraButton(Kind kind = Kind::primary, QWidget *parent = nullptr);
     TembraButton(Kind kind, Size size, const QString &title, QWidget *parent = nullptr);
 
-    [[nodiscard]] QSize sizeHint() const override;
-
 protected:
-    void paintEvent(QPaintEvent *event) override;
+    [[nodiscard]] QSize bodySize() const override;
+    Outline paint(QPainter &painter, const Theme &theme) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
@@ -30,7 +27,6 @@ private:
 
     const Kind m_kind;
     const Size m_size;
-    KeyboardFocus m_keyboardFocus{*this};
 };
 
 } // namespace tembra

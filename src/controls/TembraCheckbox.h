@@ -1,25 +1,19 @@
 #pragma once
 
-#include "controls/KeyboardFocus.h"
-
-#include <QAbstractButton>
+#include "controls/PaintedButton.h"
 
 namespace tembra {
 
 // A box to tick, with its title beside it.
-class TembraCheckbox final : public QAbstractButton {
+class TembraCheckbox final : public PaintedButton {
     Q_OBJECT
 
 public:
     explicit TembraCheckbox(const QString &title, QWidget *parent = nullptr);
 
-    [[nodiscard]] QSize sizeHint() const override;
-
 protected:
-    void paintEvent(QPaintEvent *event) override;
-
-private:
-    KeyboardFocus m_keyboardFocus{*this};
+    [[nodiscard]] QSize bodySize() const override;
+    Outline paint(QPainter &painter, const Theme &theme) override;
 };
 
 } // namespace tembra

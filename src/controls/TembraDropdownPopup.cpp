@@ -3,7 +3,6 @@
 #include "controls/AccessibleControls.h"
 #include "controls/ControlPainting.h"
 #include "controls/DropdownList.h"
-#include "controls/FocusRing.h"
 #include "controls/Theme.h"
 #include "controls/Typography.h"
 
@@ -23,12 +22,9 @@ constexpr qreal radius = 7;
 } // namespace
 
 TembraDropdownPopup::TembraDropdownPopup(const QStringList &choices, QWidget *parent)
-    : QAbstractButton(parent) {
+    : PaintedButton(parent) {
     installAccessibleControls();
     setFont(typography::font(typography::itemSize));
-    setFocusPolicy(Qt::StrongFocus);
-    setAttribute(Qt::WA_Hover);
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     connect(this, &QAbstractButton::pressed, this, &TembraDropdownPopup::open);
     setChoices(choices);
 }
@@ -75,22 +71,15 @@ void TembraDropdownPopup::open() {
     m_list->popUp();
 }
 
-QSize TembraDropdownPopup::sizeHint() const {
+QSize TembraDropdownPopup::bodySize() const {
     const int textWidth = QFontMetrics(font()).horizontalAdvance(currentText());
-    return QSize(textWidth + 2 * sideMargin + chevronRoom, bodyHeight)
-        .grownBy({ringMargin, ringMargin, ringMargin, ringMargin});
+    return QSize(textWidth + 2 * sideMargin + chevronRoom, bodyHeight);
 }
 
-void TembraDropdownPopup::paintEvent(QPaintEvent *) {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    if (!isEnabled())
-        painter.setOpacity(Theme::disabledOpacity);
-    const Theme &theme = Theme::of(*this);
+PaintedButton::Outline TembraDropdownPopup::paint(QPainter &painter, const Theme &theme) {
     const QRectF body = controlBody(*this);
-    const bool isHovered = underMouse() && isEnabled();
     const QColor fill = isDown() || isOpen() ? theme.controlPressed
-                        : isHovered          ? theme.controlHovered
+                        : isHovered()        ? theme.controlHovered
                                              : theme.control;
     drawField(painter, body, radius, fill, theme.controlBorder);
     const bool isMirrored = layoutDirection() == Qt::RightToLeft;
@@ -104,8 +93,7 @@ void TembraDropdownPopup::paintEvent(QPaintEvent *) {
     const qreal chevronX = sideMargin + 4;
     drawChevron(painter, {isMirrored ? body.left() + chevronX : body.right() - chevronX, body.center().y()},
                 theme.secondaryText);
-    if (m_keyboardFocus.isShown())
-        drawFocusRing(painter, body, radius, theme.focusRing);
+    return {body, radius};
 }
 
 int TembraDropdownPopup::indexStartingWith(const QString &letter) const {
@@ -143,7 +131,7 @@ void TembraDropdownPopup::keyPressEvent(QKeyEvent *event) {
     const QString letter = event->text();
     if (!isCommand && !letter.isEmpty() && letter[0].isPrint() && !m_choices.isEmpty())
         return choose(indexStartingWith(letter));
-    QAbstractButton::keyPressEvent(event);
+    PaintedButton::keyPressEvent(event);
 }
 
 } // namespace tembra

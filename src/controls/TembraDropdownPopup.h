@@ -1,9 +1,8 @@
 #pragma once
 
 #include "controls/DropdownList.h"
-#include "controls/KeyboardFocus.h"
+#include "controls/PaintedButton.h"
 
-#include <QAbstractButton>
 #include <QPointer>
 
 namespace tembra {
@@ -11,7 +10,7 @@ namespace tembra {
 // A button that shows the current one of several choices and opens a list of them. Arrows, Home, End and
 // typing a choice's first letters choose while it is closed; Space, Enter and Alt with an arrow open it. The
 // first choice is current at first; -1 where there is none.
-class TembraDropdownPopup final : public QAbstractButton {
+class TembraDropdownPopup final : public PaintedButton {
     Q_OBJECT
 
 public:
@@ -28,8 +27,6 @@ public:
     [[nodiscard]] bool isOpen() const { return !m_list.isNull(); }
     [[nodiscard]] DropdownList *list() const { return m_list; }
 
-    [[nodiscard]] QSize sizeHint() const override;
-
 Q_SIGNALS:
     // By the user or by the program.
     void currentIndexChanged(int index);
@@ -37,14 +34,14 @@ Q_SIGNALS:
     void chosen(int index);
 
 protected:
-    void paintEvent(QPaintEvent *event) override;
+    [[nodiscard]] QSize bodySize() const override;
+    Outline paint(QPainter &painter, const Theme &theme) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
     void choose(int index);
     [[nodiscard]] int indexStartingWith(const QString &letter) const;
 
-    KeyboardFocus m_keyboardFocus{*this};
     QStringList m_choices;
     int m_current = -1;
     QPointer<DropdownList> m_list;

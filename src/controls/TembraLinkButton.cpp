@@ -1,7 +1,6 @@
 #include "controls/TembraLinkButton.h"
 
 #include "controls/ControlPainting.h"
-#include "controls/FocusRing.h"
 #include "controls/Theme.h"
 #include "controls/Typography.h"
 
@@ -10,43 +9,32 @@
 
 namespace tembra {
 
-TembraLinkButton::TembraLinkButton(const QString &title, QWidget *parent) : QAbstractButton(parent) {
+TembraLinkButton::TembraLinkButton(const QString &title, QWidget *parent) : PaintedButton(parent) {
     setText(title);
     setFont(typography::font(typography::bodySize));
-    setFocusPolicy(Qt::StrongFocus);
-    setAttribute(Qt::WA_Hover);
     setCursor(Qt::PointingHandCursor);
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
-QSize TembraLinkButton::sizeHint() const {
+QSize TembraLinkButton::bodySize() const {
     const QFontMetrics metrics(font());
-    return QSize(metrics.horizontalAdvance(text()) + 4, metrics.height())
-        .grownBy({ringMargin, ringMargin, ringMargin, ringMargin});
+    return QSize(metrics.horizontalAdvance(text()) + 4, metrics.height());
 }
 
-void TembraLinkButton::paintEvent(QPaintEvent *) {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const Theme &theme = Theme::of(*this);
-    if (!isEnabled() || isDown())
-        painter.setOpacity(isDown() ? 0.7 : Theme::disabledOpacity);
+PaintedButton::Outline TembraLinkButton::paint(QPainter &painter, const Theme &theme) {
+    if (isDown())
+        painter.setOpacity(0.7);
     QFont titleFont = font();
-    titleFont.setUnderline(underMouse() && isEnabled());
+    titleFont.setUnderline(isHovered());
     painter.setFont(titleFont);
     painter.setPen(theme.link);
     const QRectF body = controlBody(*this);
     painter.drawText(body, Qt::AlignCenter, text());
-    if (m_keyboardFocus.isShown())
-        drawFocusRing(painter, body, 4, theme.focusRing);
+    return {body, 4};
 }
 
 void TembraLinkButton::keyPressEvent(QKeyEvent *event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        click();
-        return;
-    }
-    QAbstractButton::keyPressEvent(event);
+    if (!clickWithReturn(*event))
+        PaintedButton::keyPressEvent(event);
 }
 
 } // namespace tembra

@@ -1,26 +1,20 @@
 #pragma once
 
-#include "controls/KeyboardFocus.h"
-
-#include <QAbstractButton>
+#include "controls/PaintedButton.h"
 
 namespace tembra {
 
 // A button that reads as a link.
-class TembraLinkButton final : public QAbstractButton {
+class TembraLinkButton final : public PaintedButton {
     Q_OBJECT
 
 public:
     explicit TembraLinkButton(const QString &title, QWidget *parent = nullptr);
 
-    [[nodiscard]] QSize sizeHint() const override;
-
 protected:
-    void paintEvent(QPaintEvent *event) override;
+    [[nodiscard]] QSize bodySize() const override;
+    Outline paint(QPainter &painter, const Theme &theme) override;
     void keyPressEvent(QKeyEvent *event) override;
-
-private:
-    KeyboardFocus m_keyboardFocus{*this};
 };
 
 } // namespace tembra

@@ -2,7 +2,6 @@
 
 #include "controls/ControlPainting.h"
 #include "controls/DevicePixels.h"
-#include "controls/FocusRing.h"
 #include "controls/Motion.h"
 #include "controls/Theme.h"
 
@@ -12,7 +11,7 @@ namespace tembra {
 
 namespace {
 
-constexpr QSize bodySize{38, 22};
+constexpr QSize trackSize{38, 22};
 constexpr qreal knobInset = 2;
 
 QColor between(const QColor &off, const QColor &on, qreal share) {
@@ -22,11 +21,8 @@ QColor between(const QColor &off, const QColor &on, qreal share) {
 
 } // namespace
 
-TembraToggle::TembraToggle(QWidget *parent) : QAbstractButton(parent) {
+TembraToggle::TembraToggle(QWidget *parent) : PaintedButton(parent) {
     setCheckable(true);
-    setFocusPolicy(Qt::StrongFocus);
-    setAttribute(Qt::WA_Hover);
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     m_position.setStartValue(0.0);
     m_position.setEndValue(0.0);
     connect(&m_position, &QVariantAnimation::valueChanged, this, qOverload<>(&QWidget::update));
@@ -34,24 +30,18 @@ TembraToggle::TembraToggle(QWidget *parent) : QAbstractButton(parent) {
             [this](bool isOn) { motion::animateTo(m_position, isOn ? 1 : 0, *this); });
 }
 
-QSize TembraToggle::sizeHint() const {
-    return bodySize.grownBy({ringMargin, ringMargin, ringMargin, ringMargin});
+QSize TembraToggle::bodySize() const {
+    return trackSize;
 }
 
-void TembraToggle::paintEvent(QPaintEvent *) {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    if (!isEnabled())
-        painter.setOpacity(Theme::disabledOpacity);
-    const Theme &theme = Theme::of(*this);
-    const bool isHovered = underMouse() && isEnabled();
-    QRectF body{QPointF(), QSizeF(bodySize)};
+PaintedButton::Outline TembraToggle::paint(QPainter &painter, const Theme &theme) {
+    QRectF body{QPointF(), QSizeF(trackSize)};
     body.moveCenter(QRectF(rect()).center());
     const qreal radius = body.height() / 2;
     const qreal position = m_position.currentValue().toReal();
     drawField(painter, body, radius,
-              between(isHovered ? theme.trackHovered : theme.track,
-                      isHovered ? theme.accentHovered : theme.accent, position));
+              between(isHovered() ? theme.trackHovered : theme.track,
+                      isHovered() ? theme.accentHovered : theme.accent, position));
 
     const qreal side = body.height() - 2 * knobInset;
     // The knob grows towards the middle while it is held.
@@ -60,8 +50,7 @@ void TembraToggle::paintEvent(QPaintEvent *) {
     const qreal x = layoutDirection() == Qt::RightToLeft ? 1 - position : position;
     const QRectF knob(body.left() + knobInset + x * travel, body.top() + knobInset, side + stretch, side);
     drawField(painter, knob, side / 2, theme.knob);
-    if (m_keyboardFocus.isShown())
-        drawFocusRing(painter, body, radius, theme.focusRing);
+    return {body, radius};
 }
 
 } // namespace tembra

@@ -97,7 +97,7 @@ Result<std::optional<RemovedScreenshot>> ShelfSession::trashScreenshot(const Sho
     const QString path = shot.currentPath(m_services.files, m_services.references);
     if (path.isEmpty())
         return failure(ScreenshotRemovalError::hasChanged());
-    if (isPinned(path, shot.identity))
+    if (path != shot.location && isPinned(path, shot.identity))
         return std::nullopt;
     // What is cleaned away by itself must lie where the shelf looks; what the user chose may have moved.
     if (automatic && !folderShelf().url)

@@ -94,9 +94,4 @@ void FilePreview::close() {
         m_view->dismiss();
 }
 
-void FilePreview::toggleActualSize() {
-    if (m_view && isOpen())
-        m_view->setActualSize(!m_view->isActualSize());
-}
-
 } // namespace tembra

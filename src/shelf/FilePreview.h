@@ -34,7 +34,6 @@ public:
     // Opens, or shows others in the open window; none closes it.
     void show(const QStringList &paths, const QRectF &available);
     void close();
-    void toggleActualSize();
     [[nodiscard]] bool isOpen() const { return !m_items.empty(); }
     [[nodiscard]] QStringList paths() const;
 

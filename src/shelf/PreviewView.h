@@ -23,8 +23,6 @@ public:
     // Shows the items within `available` (screen points).
     void present(const std::vector<PreviewItem> &items, const QRectF &available);
     void dismiss();
-    void setActualSize(bool actual);
-    [[nodiscard]] bool isActualSize() const { return m_isActualSize; }
 
 Q_SIGNALS:
     void openRequested();
@@ -37,6 +35,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
+    void setActualSize(bool actual);
     [[nodiscard]] std::vector<QSizeF> sizes() const;
     [[nodiscard]] QString title() const;
     // The only picture is larger than its place.

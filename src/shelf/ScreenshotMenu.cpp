@@ -8,31 +8,21 @@ namespace tembra {
 
 namespace {
 
-QString translated(const char *text) {
-    return QCoreApplication::translate("ScreenshotMenu", text);
-}
-
-// An item without an action is disabled.
-QAction *add(QMenu &menu, const char *text, const std::function<void()> &action) {
-    QAction *item = menu.addAction(translated(text));
-    item->setEnabled(action != nullptr);
-    if (action)
-        QObject::connect(item, &QAction::triggered, item, action);
-    return item;
+QString text(const char *source) {
+    return QCoreApplication::translate("ScreenshotMenu", source);
 }
 
 void addApplications(ShelfMenu &menu, const std::vector<Workspace::Application> &applications,
                      const std::function<void(const QString &)> &openWith) {
-    ShelfMenu *submenu = menu.addSubmenu(translated(QT_TRANSLATE_NOOP("ScreenshotMenu", "Open With")));
+    ShelfMenu *submenu = menu.addSubmenu(text(QT_TRANSLATE_NOOP("ScreenshotMenu", "Open With")));
     if (applications.empty()) {
-        add(*submenu, QT_TRANSLATE_NOOP("ScreenshotMenu", "No Compatible Applications"), {});
+        submenu->add(text(QT_TRANSLATE_NOOP("ScreenshotMenu", "No Compatible Applications")), {});
         return;
     }
     for (const Workspace::Application &application : applications) {
-        const QString title =
-            application.isDefault
-                ? application.name + translated(QT_TRANSLATE_NOOP("ScreenshotMenu", " (Default)"))
-                : application.name;
+        const QString title = application.isDefault
+                                  ? application.name + text(QT_TRANSLATE_NOOP("ScreenshotMenu", " (Default)"))
+                                  : application.name;
         QAction *item =
             submenu->addAction(application.icon, QString(title).replace(u'&', QStringLiteral("&&")));
         QObject::connect(item, &QAction::triggered, item,
@@ -45,35 +35,34 @@ void addApplications(ShelfMenu &menu, const std::vector<Workspace::Application> 
 std::unique_ptr<QMenu> screenshotMenu(const ScreenshotMenuState &state,
                                       const ScreenshotMenuActions &actions) {
     auto menu = std::make_unique<ShelfMenu>();
-    add(*menu, QT_TRANSLATE_NOOP("ScreenshotMenu", "Copy"), actions.copy);
-    add(*menu, QT_TRANSLATE_NOOP("ScreenshotMenu", "Open in Editor"), actions.openInEditor)
+    menu->add(text(QT_TRANSLATE_NOOP("ScreenshotMenu", "Copy")), actions.copy);
+    menu->add(text(QT_TRANSLATE_NOOP("ScreenshotMenu", "Open in Editor")), actions.openInEditor)
         ->setEnabled(state.canEdit);
     addApplications(*menu, state.applications, actions.openWith);
     if (state.offersRecognition)
-        add(*menu, QT_TRANSLATE_NOOP("ScreenshotMenu", "Image to Text"), actions.recognize)
+        menu->add(text(QT_TRANSLATE_NOOP("ScreenshotMenu", "Image to Text")), actions.recognize)
             ->setEnabled(state.canRecognize);
-    add(*menu, QT_TRANSLATE_NOOP("ScreenshotMenu", "Show in Finder"), actions.reveal);
+    menu->add(text(QT_TRANSLATE_NOOP("ScreenshotMenu", "Show in Finder")), actions.reveal);
     menu->addSeparator();
     const bool areAllPinned = state.pinnedCount == state.selectedCount;
-    add(*menu,
-        areAllPinned ? QT_TRANSLATE_NOOP("ScreenshotMenu", "Unpin")
-                     : QT_TRANSLATE_NOOP("ScreenshotMenu", "Pin"),
-        actions.togglePins);
-    add(*menu, QT_TRANSLATE_NOOP("ScreenshotMenu", "Move to Trash"), actions.trash)
+    menu->add(text(areAllPinned ? QT_TRANSLATE_NOOP("ScreenshotMenu", "Unpin")
+                                : QT_TRANSLATE_NOOP("ScreenshotMenu", "Pin")),
+              actions.togglePins);
+    menu->add(text(QT_TRANSLATE_NOOP("ScreenshotMenu", "Move to Trash")), actions.trash)
         ->setEnabled(!areAllPinned);
     if (state.pinnedCount > 0)
-        add(*menu,
-            QT_TRANSLATE_NOOP("ScreenshotMenu", "Pinned screenshots stay. Unpin them to move them to Trash."),
-            {});
+        menu->add(text(QT_TRANSLATE_NOOP("ScreenshotMenu",
+                                         "Pinned screenshots stay. Unpin them to move them to Trash.")),
+                  {});
     return menu;
 }
 
 std::unique_ptr<QMenu> screenshotBackgroundMenu(const ScreenshotBackgroundMenuActions &actions) {
     auto menu = std::make_unique<ShelfMenu>();
-    add(*menu, QT_TRANSLATE_NOOP("ScreenshotMenu", "Open Folder in Finder"), actions.openFolder);
-    add(*menu, QT_TRANSLATE_NOOP("ScreenshotMenu", "Screenshot Settings"), actions.showSettings);
+    menu->add(text(QT_TRANSLATE_NOOP("ScreenshotMenu", "Open Folder in Finder")), actions.openFolder);
+    menu->add(text(QT_TRANSLATE_NOOP("ScreenshotMenu", "Screenshot Settings")), actions.showSettings);
     menu->addSeparator();
-    add(*menu, QT_TRANSLATE_NOOP("ScreenshotMenu", "Clear Screenshots"), actions.clear);
+    menu->add(text(QT_TRANSLATE_NOOP("ScreenshotMenu", "Clear Screenshots")), actions.clear);
     return menu;
 }
 

@@ -54,7 +54,7 @@ ShelfController::ShelfController(AppSettings &settings, std::unique_ptr<ShelfSes
       m_screenshotFeedback(
           [](QStringList &phrases) { std::ranges::shuffle(phrases, *QRandomGenerator::global()); }),
       m_screenshotAutoOpen(services.isCapture) {
-    m_preview.onOpen = [this](const QStringList &paths) { openInDefaultApplication(paths); };
+    m_preview.onOpen = [this](const QStringList &paths) { openFiles(paths, QString()); };
     askForFolder = askForScreenshotsFolder;
     askForSafetyReview = showSafetyReview;
     askForClearing = showClearScreenshots;
@@ -272,7 +272,7 @@ void ShelfController::applySettings(const AppSettingsState &state) {
         refreshWatchers();
     }
     m_session->applySettings();
-    m_screenshotAutoOpen.configure(state.automaticallyOpenEditor, state.screenshotsFolder, m_services.now());
+    configureAutoOpen();
     if (!isShown(tabs(), m_activeTab))
         m_activeTab = ShelfTab::screenshots;
     reconcileDisplayWindows();
@@ -281,6 +281,10 @@ void ShelfController::applySettings(const AppSettingsState &state) {
 
 void ShelfController::refreshWatchers() {
     m_session->refreshWatcher();
+    configureAutoOpen();
+}
+
+void ShelfController::configureAutoOpen() {
     const AppSettingsState &state = m_settings.state();
     m_screenshotAutoOpen.configure(state.automaticallyOpenEditor, state.screenshotsFolder, m_services.now());
 }

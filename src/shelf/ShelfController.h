@@ -117,6 +117,7 @@ private:
 
     void applySettings(const AppSettingsState &state);
     void refreshWatchers();
+    void configureAutoOpen();
     void refreshTimeline();
     void scheduleTimelineRefresh();
     void render();
@@ -140,7 +141,8 @@ private:
     void dragSelected();
     void updatePreview();
     [[nodiscard]] QRectF previewArea() const;
-    void openInDefaultApplication(const QStringList &paths);
+    // In the default application when the identifier is empty.
+    void openFiles(const QStringList &paths, const QString &applicationIdentifier);
     void showScreenshotMenu(QPoint globalPosition);
     void showScreenshotBackgroundMenu(QPoint globalPosition);
     void installActiveStatusMenu();

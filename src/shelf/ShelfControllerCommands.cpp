@@ -104,7 +104,11 @@ std::vector<Shot> ShelfController::removableSelectedShots() const {
 }
 
 void ShelfController::openScreenshotsWith(const QString &applicationIdentifier) {
-    const auto opened = m_services.workspace.open(content().selectedPaths(), applicationIdentifier);
+    openFiles(content().selectedPaths(), applicationIdentifier);
+}
+
+void ShelfController::openFiles(const QStringList &paths, const QString &applicationIdentifier) {
+    const auto opened = m_services.workspace.open(paths, applicationIdentifier);
     if (!opened)
         onError(tr("Couldn’t Open Files"), opened.error().message);
 }
@@ -169,12 +173,6 @@ void ShelfController::showMenu(std::unique_ptr<QMenu> menu, QPoint globalPositio
     m_menu = std::move(menu);
     connect(m_menu.get(), &QMenu::aboutToHide, this, [this] { m_hover.requestPointerEvaluation(); });
     m_menu->popup(globalPosition);
-}
-
-void ShelfController::openInDefaultApplication(const QStringList &paths) {
-    const auto opened = m_services.workspace.open(paths, QString());
-    if (!opened)
-        onError(tr("Couldn’t Open Files"), opened.error().message);
 }
 
 void ShelfController::cancel() {

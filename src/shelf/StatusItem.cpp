@@ -31,8 +31,4 @@ StatusItem::StatusItem(const StatusMenuActions &actions) : m_menu(statusMenu(act
 
 StatusItem::~StatusItem() = default;
 
-bool StatusItem::isOffered() {
-    return QSystemTrayIcon::isSystemTrayAvailable();
-}
-
 } // namespace tembra

@@ -15,9 +15,6 @@ public:
     StatusItem(const StatusItem &) = delete;
     StatusItem &operator=(const StatusItem &) = delete;
 
-    // Whether the desktop has a place for it.
-    [[nodiscard]] static bool isOffered();
-
 private:
     std::unique_ptr<QMenu> m_menu;
     QSystemTrayIcon m_icon;

@@ -8,24 +8,21 @@ namespace tembra {
 
 namespace {
 
-void add(QMenu &menu, const char *text, const std::function<void()> &action) {
-    QAction *item = menu.addAction(QCoreApplication::translate("StatusMenu", text));
-    item->setEnabled(action != nullptr);
-    if (action)
-        QObject::connect(item, &QAction::triggered, item, action);
+QString text(const char *source) {
+    return QCoreApplication::translate("StatusMenu", source);
 }
 
 } // namespace
 
 std::unique_ptr<QMenu> statusMenu(const StatusMenuActions &actions) {
     auto menu = std::make_unique<ShelfMenu>();
-    add(*menu, QT_TRANSLATE_NOOP("StatusMenu", "Open Tembra"), actions.open);
-    add(*menu, QT_TRANSLATE_NOOP("StatusMenu", "Settings"), actions.showSettings);
+    menu->add(text(QT_TRANSLATE_NOOP("StatusMenu", "Open Tembra")), actions.open);
+    menu->add(text(QT_TRANSLATE_NOOP("StatusMenu", "Settings")), actions.showSettings);
     menu->addSeparator();
-    add(*menu, QT_TRANSLATE_NOOP("StatusMenu", "Check for updates…"), actions.checkForUpdates);
-    add(*menu, QT_TRANSLATE_NOOP("StatusMenu", "Open Screenshots Folder"), actions.openFolder);
+    menu->add(text(QT_TRANSLATE_NOOP("StatusMenu", "Check for updates…")), actions.checkForUpdates);
+    menu->add(text(QT_TRANSLATE_NOOP("StatusMenu", "Open Screenshots Folder")), actions.openFolder);
     menu->addSeparator();
-    add(*menu, QT_TRANSLATE_NOOP("StatusMenu", "Quit Tembra"), actions.quit);
+    menu->add(text(QT_TRANSLATE_NOOP("StatusMenu", "Quit Tembra")), actions.quit);
     return menu;
 }
 
