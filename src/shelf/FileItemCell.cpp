@@ -77,6 +77,12 @@ void FileItemCell::configure(QString path, QString revision, QImage fallback) {
     update();
 }
 
+void FileItemCell::setTile(const FileTile &tile) {
+    const bool isSameFile = m_path == tile.path;
+    if (!isSameFile || m_revision != tile.revision)
+        configure(tile.path, tile.revision, isSameFile ? image() : QImage());
+}
+
 void FileItemCell::prepareForReuse() {
     m_generation.advance();
     m_request.reset();

@@ -4,6 +4,7 @@
 #include "platform/Thumbnails.h"
 #include "shelf/FilePresentation.h"
 #include "shelf/FileThumbnail.h"
+#include "shelf/FileTile.h"
 
 #include <QPropertyAnimation>
 #include <QStringList>
@@ -27,6 +28,8 @@ public:
 
     // Shows the file: its picture from the cache, else the fallback or an icon until the picture is there.
     void configure(QString path, QString revision, QImage fallback = {});
+    // Shows the tile; a file that changed keeps its old picture until the new one is there.
+    virtual void setTile(const FileTile &tile);
     // Forgets the file and takes back the request for its picture.
     void prepareForReuse();
     // Where the tile lies in its parent; with `moves` it goes there from where it is, unless motion is

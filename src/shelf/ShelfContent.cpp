@@ -4,6 +4,7 @@
 #include "shelf/FileDrag.h"
 #include "shelf/NativeScreenshotGrid.h"
 #include "shelf/ScreenshotMessageView.h"
+#include "shelf/ScreenshotTiles.h"
 #include "shelf/ShelfHeader.h"
 
 namespace tembra {
@@ -25,7 +26,7 @@ ShelfContent::ShelfContent(const ShelfServices &services) {
     connect(m_message, &ScreenshotMessageView::acted, this, &ShelfContent::messageActed);
     connect(m_grid, &NativeScreenshotGrid::selectionChanged, this, &ShelfContent::selectionChanged);
     connect(m_grid, &NativeScreenshotGrid::contextMenuRequested, this,
-            [this](const Shot &, QPoint position) { Q_EMIT contextMenuRequested(position); });
+            [this](const FileTile &, QPoint position) { Q_EMIT contextMenuRequested(position); });
     connect(m_grid, &NativeScreenshotGrid::backgroundMenuRequested, this,
             &ShelfContent::backgroundMenuRequested);
     connect(m_grid, &NativeScreenshotGrid::dragRequested, this, &ShelfContent::dragRequested);
@@ -58,11 +59,8 @@ void ShelfContent::apply(const State &state) {
         m_grid->render({});
         return m_message->apply(*state.message);
     }
-    m_grid->render({.sections = state.sections,
-                    .pinnedPaths = state.pinnedPaths,
-                    .showFileNames = state.showsFileNames,
-                    .grouped = state.isGrouped});
-    m_grid->select(state.selection);
+    m_grid->render(state.screenshots);
+    m_grid->select(screenshotTileIDs(state.selection));
     if (gridComesBack && isActiveWindow())
         m_grid->takeFocus();
 }
@@ -86,15 +84,8 @@ void ShelfContent::dragSelected() {
     dragFiles(*m_grid, m_grid->selectedPaths(), m_grid->selectedPictures());
 }
 
-std::vector<Shot> ShelfContent::selectedShots() const {
-    return m_grid->selectedShots();
-}
-
 QSet<ScreenshotFileIdentity> ShelfContent::selection() const {
-    QSet<ScreenshotFileIdentity> identities;
-    for (const Shot &shot : selectedShots())
-        identities.insert(shot.identity);
-    return identities;
+    return screenshotIdentities(m_grid->selection());
 }
 
 void ShelfContent::resizeEvent(QResizeEvent *) {

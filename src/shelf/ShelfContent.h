@@ -1,7 +1,7 @@
 #pragma once
 
-#include "screenshots/ScreenshotSection.h"
 #include "shelf/CaptureNotification.h"
+#include "shelf/FileGridState.h"
 #include "shelf/FileThumbnailCache.h"
 #include "shelf/ScreenshotMessage.h"
 #include "shelf/ShelfServices.h"
@@ -33,13 +33,10 @@ public:
         ShelfTab activeTab = ShelfTab::screenshots;
         // Shown in place of the grid.
         std::optional<ScreenshotMessage> message;
-        std::vector<ScreenshotSection> sections;
-        QSet<QString> pinnedPaths;
+        FileGridState screenshots;
         QSet<ScreenshotFileIdentity> selection;
         // What an offered undo would reverse.
         std::optional<QString> undoName;
-        bool isGrouped = false;
-        bool showsFileNames = true;
         // Shown in place of everything else.
         std::optional<CaptureNotification> notification;
     };
@@ -50,12 +47,12 @@ public:
     void apply(const State &state);
     [[nodiscard]] const State &state() const { return m_state; }
     [[nodiscard]] QStringList selectedPaths() const;
-    [[nodiscard]] std::vector<Shot> selectedShots() const;
     void revealSelection();
     // Gives the keyboard to the content of the active tab.
     void takeFocus();
     // Drags the selected screenshots out; returns when the drag has ended.
     void dragSelected();
+    // Of the screenshots.
     [[nodiscard]] QSet<ScreenshotFileIdentity> selection() const;
 
 Q_SIGNALS:
@@ -74,7 +71,7 @@ Q_SIGNALS:
     void notificationClicked();
     // The pointer rests on it, or drags from it.
     void notificationHeld(bool isHeld);
-    void activated(const tembra::Shot &shot);
+    void activated(const tembra::FileTile &tile);
 
 protected:
     void resizeEvent(QResizeEvent *event) override;

@@ -9,6 +9,7 @@
 #include "shelf/FolderChooser.h"
 #include "shelf/SafetyReviewDialog.h"
 #include "shelf/ScreenshotFolderMessage.h"
+#include "shelf/ScreenshotTiles.h"
 #include "shelf/ShelfContent.h"
 #include "shelf/ShelfSurfaces.h"
 #include "shelf/ShelfTabs.h"
@@ -289,6 +290,11 @@ void ShelfController::configureAutoOpen() {
     m_screenshotAutoOpen.configure(state.automaticallyOpenEditor, state.screenshotsFolder, m_services.now());
 }
 
+std::vector<ScreenshotSection> ShelfController::sections() const {
+    return ScreenshotTimeline::sections(m_session->folderShelf().shots, m_settings.pinnedScreenshotPaths(),
+                                        m_services.now(), QTimeZone::systemTimeZone());
+}
+
 // Nothing is drawn for a shelf that nobody sees: opening renders it.
 void ShelfController::render() {
     if (!m_started || !m_expanded)
@@ -300,15 +306,13 @@ void ShelfController::render() {
     const AppSettingsState &settings = m_settings.state();
     state.message = screenshotFolderMessage(m_folderState.value_or(ScreenshotFolderState::none));
     if (!state.message) {
-        state.pinnedPaths = m_settings.pinnedScreenshotPaths();
-        state.sections = ScreenshotTimeline::sections(m_session->folderShelf().shots, state.pinnedPaths,
-                                                      m_services.now(), QTimeZone::systemTimeZone());
+        state.screenshots = {.sections = screenshotTiles(sections(), m_settings.pinnedScreenshotPaths()),
+                             .showFileNames = settings.showFileNames,
+                             .grouped = settings.groupScreenshotsByDate};
         state.selection = m_session->selected;
-        if (state.sections.empty())
+        if (state.screenshots.sections.empty())
             state.message = emptyFolderMessage();
     }
-    state.isGrouped = settings.groupScreenshotsByDate;
-    state.showsFileNames = settings.showFileNames;
     content().apply(state);
 }
 
@@ -401,9 +405,7 @@ ShelfStatus ShelfController::status() const {
     status.folder = m_settings.state().screenshotsFolder;
     status.folderState = m_folderState.value_or(ScreenshotFolderState::none);
     status.screenshotCount = static_cast<int>(shelf.shots.size());
-    const QSet<QString> pinned = m_settings.pinnedScreenshotPaths();
-    for (const ScreenshotSection &section :
-         ScreenshotTimeline::sections(shelf.shots, pinned, m_services.now(), QTimeZone::systemTimeZone())) {
+    for (const ScreenshotSection &section : sections()) {
         status.sections.push_back({title(section.kind), static_cast<int>(section.shots.size())});
         if (section.kind == ScreenshotSectionKind::pinned)
             status.pinnedCount = static_cast<int>(section.shots.size());

@@ -6,6 +6,7 @@
 #include "screenshots/ScreenshotAutoOpen.h"
 #include "screenshots/ScreenshotDestination.h"
 #include "screenshots/ScreenshotFeedback.h"
+#include "screenshots/ScreenshotSection.h"
 #include "screenshots/Shot.h"
 #include "settings/ScreenshotAutoCleanPeriod.h"
 #include "shelf/CaptureAnnouncer.h"
@@ -136,6 +137,9 @@ private:
     void cancel();
     bool handleShelfKey(const QKeyEvent &event);
     void perform(ShelfCommand command);
+    [[nodiscard]] std::vector<ScreenshotSection> sections() const;
+    // In display order.
+    [[nodiscard]] std::vector<Shot> selectedShots() const;
     [[nodiscard]] std::vector<Shot> removableSelectedShots() const;
     [[nodiscard]] std::vector<Shot> removable(const std::vector<Shot> &shots) const;
     void dragSelected();

@@ -70,7 +70,7 @@ void ShelfController::redo() {
 }
 
 void ShelfController::copySelectedScreenshots() {
-    m_session->copyScreenshots(content().selectedShots());
+    m_session->copyScreenshots(selectedShots());
 }
 
 // Pins them all unless all of them are pinned.
@@ -91,6 +91,17 @@ void ShelfController::revealSelectedScreenshots() {
         onError(tr("Couldn’t Show in Finder"), revealed.error().message);
 }
 
+std::vector<Shot> ShelfController::selectedShots() const {
+    std::vector<Shot> selected;
+    if (m_session->selected.isEmpty())
+        return selected;
+    for (const ScreenshotSection &section : sections())
+        std::ranges::copy_if(section.shots, std::back_inserter(selected), [this](const Shot &shot) {
+            return m_session->selected.contains(shot.identity);
+        });
+    return selected;
+}
+
 std::vector<Shot> ShelfController::removable(const std::vector<Shot> &shots) const {
     const QSet<QString> pinned = m_settings.pinnedScreenshotPaths();
     std::vector<Shot> removable;
@@ -100,7 +111,7 @@ std::vector<Shot> ShelfController::removable(const std::vector<Shot> &shots) con
 }
 
 std::vector<Shot> ShelfController::removableSelectedShots() const {
-    return removable(m_content->selectedShots());
+    return removable(selectedShots());
 }
 
 void ShelfController::openScreenshotsWith(const QString &applicationIdentifier) {

@@ -118,7 +118,7 @@ TEST_F(ContentTest, theButtonOfAMessageAnswersIt) {
 }
 
 TEST_F(ContentTest, aNotificationTakesThePlaceOfEverythingAndGivesItBack) {
-    state.sections = gridState({2, 1}).sections;
+    state.screenshots = gridState({2, 1});
     content.apply(state);
     EXPECT_TRUE(showsGrid());
     content.findChild<NativeScreenshotGrid *>()->selectAll();
