@@ -55,12 +55,15 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     // Draws what lies over the picture, in the tile's coordinates.
     virtual void paintBadges(QPainter &painter);
+    // Draws what stands for the file until there is a picture.
+    virtual void paintKindIcon(QPainter &painter);
+    void setOpacity(qreal opacity);
 
 private:
     void requestThumbnail();
     void receive(const QString &key, const Result<Thumbnails::Thumbnail> &thumbnail);
     void paintSelection(QPainter &painter) const;
-    void paintPicture(QPainter &painter) const;
+    void paintPicture(QPainter &painter);
     void paintName(QPainter &painter) const;
     void assign(bool &state, bool value);
 
@@ -79,6 +82,7 @@ private:
     bool m_selected = false;
     bool m_highlighted = false;
     bool m_current = false;
+    qreal m_opacity = 1;
 };
 
 } // namespace tembra

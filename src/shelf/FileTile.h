@@ -26,6 +26,7 @@ struct FileTile {
     bool isPinned = false;
     // The file can be reached now.
     bool isAvailable = true;
+    bool isFolder = false;
 
     bool operator==(const FileTile &) const = default;
 };

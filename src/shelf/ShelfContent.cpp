@@ -1,16 +1,24 @@
 #include "shelf/ShelfContent.h"
 
 #include "shelf/CaptureNotificationView.h"
+#include "shelf/ClipboardShelf.h"
 #include "shelf/FileDrag.h"
 #include "shelf/NativeScreenshotGrid.h"
 #include "shelf/ScreenshotMessageView.h"
 #include "shelf/ScreenshotTiles.h"
 #include "shelf/ShelfHeader.h"
+#include "tray/ClipboardStore.h"
+
+#include <QDragEnterEvent>
+
+#include <algorithm>
 
 namespace tembra {
 
-ShelfContent::ShelfContent(const ShelfServices &services) {
-    build(services);
+ShelfContent::ShelfContent(const ShelfServices &services, ClipboardStore &store) {
+    build(services, store);
+    connectTray();
+    setAcceptDrops(true);
     connect(m_header, &ShelfHeader::tabClicked, this, &ShelfContent::tabClicked);
     connect(m_header, &ShelfHeader::tabHovered, this, &ShelfContent::tabHovered);
     connect(m_header, &ShelfHeader::tabLeft, this, &ShelfContent::tabLeft);
@@ -35,45 +43,91 @@ ShelfContent::ShelfContent(const ShelfServices &services) {
 
 ShelfContent::~ShelfContent() = default;
 
-void ShelfContent::build(const ShelfServices &services) {
+void ShelfContent::build(const ShelfServices &services, ClipboardStore &store) {
     m_header = new ShelfHeader(this);
-    m_grid = new NativeScreenshotGrid({services.thumbnails, services.files, m_thumbnailCache}, this);
+    const FilePresentation presentation{services.thumbnails, services.files, m_thumbnailCache};
+    m_grid = new NativeScreenshotGrid(presentation, this);
+    m_tray = new ClipboardShelf(store, services, presentation, this);
     m_message = new ScreenshotMessageView(this);
     m_notification = new CaptureNotificationView(services.thumbnails, this);
 }
 
+void ShelfContent::connectTray() {
+    connect(m_header, &ShelfHeader::tabDraggedOver, this, &ShelfContent::tabDraggedOver);
+    connect(m_header, &ShelfHeader::droppedOnTray, this,
+            [this](const QMimeData *content) { m_tray->receiveDrop(*content); });
+    connect(m_tray, &ClipboardShelf::filesDropped, this, &ShelfContent::filesDropped);
+    connect(m_tray, &ClipboardShelf::menuRequested, this, &ShelfContent::trayMenuRequested);
+    connect(m_tray, &ClipboardShelf::dragRequested, this, &ShelfContent::dragRequested);
+    connect(m_tray, &ClipboardShelf::selectionChanged, this, &ShelfContent::selectionChanged);
+    connect(m_tray, &ClipboardShelf::failed, this, &ShelfContent::failed);
+}
+
 void ShelfContent::apply(const State &state) {
+    const bool isSwitch = state.activeTab != m_state.activeTab && !state.notification;
+    if (isSwitch)
+        rememberTabResponder(m_state.activeTab);
+    const bool gridComesBack = m_grid->isHidden();
     m_state = state;
-    const bool isNotification = state.notification.has_value();
-    m_notification->setVisible(isNotification);
-    m_header->setVisible(!isNotification);
-    const bool gridComesBack = !isNotification && !state.message && m_grid->isHidden();
-    m_grid->setVisible(!isNotification && !state.message);
-    m_message->setVisible(!isNotification && state.message);
-    if (isNotification)
+    m_notification->setVisible(state.notification.has_value());
+    m_header->setVisible(!state.notification);
+    if (state.notification) {
+        for (QWidget *host : {static_cast<QWidget *>(m_grid), static_cast<QWidget *>(m_message),
+                              static_cast<QWidget *>(m_tray)})
+            host->hide();
         return m_notification->apply(*state.notification);
+    }
     m_header->apply(state.tabs, state.activeTab);
     m_header->offerUndo(state.undoName);
-    if (state.message) {
+    showTab();
+    if (isActiveWindow() && (isSwitch || (gridComesBack && m_grid->isVisible())))
+        restoreTabResponder(state.activeTab);
+}
+
+void ShelfContent::showTab() {
+    const bool isTray = m_state.activeTab == ShelfTab::fileTray;
+    m_grid->setVisible(!isTray && !m_state.message);
+    m_message->setVisible(!isTray && m_state.message);
+    m_tray->setVisible(isTray);
+    if (isTray) {
+        m_tray->setShowsFileNames(m_state.showsFileNames);
+        return m_tray->refresh();
+    }
+    if (m_state.message) {
         // Nothing that is hidden stays selected.
         m_grid->render({});
-        return m_message->apply(*state.message);
+        return m_message->apply(*m_state.message);
     }
-    m_grid->render(state.screenshots);
-    m_grid->select(screenshotTileIDs(state.selection));
-    if (gridComesBack && isActiveWindow())
-        m_grid->takeFocus();
+    m_grid->render(m_state.screenshots);
+    m_grid->select(screenshotTileIDs(m_state.selection));
+}
+
+QWidget *ShelfContent::tabHost(ShelfTab tab) const {
+    if (tab == ShelfTab::fileTray)
+        return m_tray;
+    return m_state.message ? static_cast<QWidget *>(m_message) : m_grid;
+}
+
+void ShelfContent::rememberTabResponder(ShelfTab tab) {
+    QWidget *focused = window()->focusWidget();
+    if (focused && tabHost(tab)->isAncestorOf(focused))
+        m_tabResponders[tab] = focused;
+}
+
+void ShelfContent::restoreTabResponder(ShelfTab tab) {
+    const QPointer<QWidget> responder = m_tabResponders[tab];
+    if (responder && responder->isVisible())
+        responder->setFocus(Qt::OtherFocusReason);
+    else
+        tabHost(tab)->setFocus(Qt::OtherFocusReason);
 }
 
 QStringList ShelfContent::selectedPaths() const {
-    return m_grid->selectedPaths();
+    return m_state.activeTab == ShelfTab::fileTray ? m_tray->availableSelection() : m_grid->selectedPaths();
 }
 
 void ShelfContent::takeFocus() {
-    if (m_state.message)
-        m_message->setFocus();
-    else
-        m_grid->takeFocus();
+    restoreTabResponder(m_state.activeTab);
 }
 
 void ShelfContent::revealSelection() {
@@ -81,11 +135,20 @@ void ShelfContent::revealSelection() {
 }
 
 void ShelfContent::dragSelected() {
+    if (m_state.activeTab == ShelfTab::fileTray)
+        return m_tray->dragSelected();
     dragFiles(*m_grid, m_grid->selectedPaths(), m_grid->selectedPictures());
 }
 
 QSet<ScreenshotFileIdentity> ShelfContent::selection() const {
     return screenshotIdentities(m_grid->selection());
+}
+
+void ShelfContent::dragEnterEvent(QDragEnterEvent *event) {
+    const bool hasTray = std::ranges::find(m_state.tabs, ShelfTab::fileTray) != m_state.tabs.end();
+    if (!event->source() && hasTray && m_state.activeTab != ShelfTab::fileTray &&
+        ClipboardStore::canRead(*event->mimeData()))
+        Q_EMIT filesDraggedOver();
 }
 
 void ShelfContent::resizeEvent(QResizeEvent *) {
@@ -97,6 +160,7 @@ void ShelfContent::layOut() {
     const QRect below(0, ShelfHeader::height, width(), height() - ShelfHeader::height);
     m_grid->setGeometry(below);
     m_message->setGeometry(below);
+    m_tray->setGeometry(below);
     m_notification->setGeometry(rect());
 }
 

@@ -7,15 +7,19 @@
 #include "shelf/ShelfServices.h"
 #include "shelf/ShelfTab.h"
 
+#include <QPointer>
 #include <QSet>
 #include <QWidget>
 
+#include <map>
 #include <optional>
 #include <vector>
 
 namespace tembra {
 
 class CaptureNotificationView;
+class ClipboardShelf;
+class ClipboardStore;
 class NativeScreenshotGrid;
 class ScreenshotMessageView;
 class ShelfHeader;
@@ -34,6 +38,7 @@ public:
         // Shown in place of the grid.
         std::optional<ScreenshotMessage> message;
         FileGridState screenshots;
+        bool showsFileNames = true;
         QSet<ScreenshotFileIdentity> selection;
         // What an offered undo would reverse.
         std::optional<QString> undoName;
@@ -41,24 +46,33 @@ public:
         std::optional<CaptureNotification> notification;
     };
 
-    explicit ShelfContent(const ShelfServices &services);
+    // The store must outlive this.
+    ShelfContent(const ShelfServices &services, ClipboardStore &store);
     ~ShelfContent() override;
 
     void apply(const State &state);
     [[nodiscard]] const State &state() const { return m_state; }
+    // Of the files of the active tab that can be reached.
     [[nodiscard]] QStringList selectedPaths() const;
     void revealSelection();
     // Gives the keyboard to the content of the active tab.
     void takeFocus();
-    // Drags the selected screenshots out; returns when the drag has ended.
+    // Drags the selected files out; returns when the drag has ended.
     void dragSelected();
     // Of the screenshots.
     [[nodiscard]] QSet<ScreenshotFileIdentity> selection() const;
+    [[nodiscard]] ClipboardShelf &tray() { return *m_tray; }
 
 Q_SIGNALS:
     void tabClicked(tembra::ShelfTab tab);
     void tabHovered(tembra::ShelfTab tab);
     void tabLeft(tembra::ShelfTab tab);
+    // Files from another program are held over a tab that does not take them.
+    void filesDraggedOver();
+    void filesDropped();
+    void tabDraggedOver(tembra::ShelfTab tab);
+    void trayMenuRequested(QPoint globalPosition);
+    void failed(const QString &title, const QString &message);
     // The button of the message.
     void messageActed();
     void selectionChanged();
@@ -75,17 +89,27 @@ Q_SIGNALS:
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
 
 private:
-    void build(const ShelfServices &services);
+    void build(const ShelfServices &services, ClipboardStore &store);
+    void connectTray();
     void layOut();
+    void showTab();
+    // What holds the content of a tab.
+    [[nodiscard]] QWidget *tabHost(ShelfTab tab) const;
+    void rememberTabResponder(ShelfTab tab);
+    void restoreTabResponder(ShelfTab tab);
 
     State m_state;
     FileThumbnailCache m_thumbnailCache;
     ShelfHeader *m_header = nullptr;
     NativeScreenshotGrid *m_grid = nullptr;
+    ClipboardShelf *m_tray = nullptr;
     ScreenshotMessageView *m_message = nullptr;
     CaptureNotificationView *m_notification = nullptr;
+    // What had the keyboard last in each tab.
+    std::map<ShelfTab, QPointer<QWidget>> m_tabResponders;
 };
 
 } // namespace tembra

@@ -6,6 +6,7 @@
 #include "session/ShelfSession.h"
 #include "settings/AppSettings.h"
 #include "shelf/ClearScreenshotsDialog.h"
+#include "shelf/ClipboardShelf.h"
 #include "shelf/FolderChooser.h"
 #include "shelf/SafetyReviewDialog.h"
 #include "shelf/ScreenshotFolderMessage.h"
@@ -33,7 +34,7 @@ constexpr QSize panelSize{744, 256};
 constexpr auto displaySettling = 200ms;
 
 // The tabs whose content there is.
-const std::vector<ShelfTab> builtTabs{ShelfTab::screenshots};
+const std::vector<ShelfTab> builtTabs{ShelfTab::screenshots, ShelfTab::fileTray};
 
 bool isShown(const std::vector<ShelfTab> &tabs, ShelfTab tab) {
     return std::ranges::find(tabs, tab) != tabs.end();
@@ -124,15 +125,26 @@ void ShelfController::stop() {
 ShelfContent &ShelfController::content() {
     if (m_content)
         return *m_content;
-    m_content = std::make_unique<ShelfContent>(m_services);
-    connect(m_content.get(), &ShelfContent::tabClicked, this, &ShelfController::activateTab);
+    m_content = std::make_unique<ShelfContent>(m_services, m_session->clipboard);
+    connect(m_content.get(), &ShelfContent::tabClicked, this, [this](ShelfTab tab) { activateTab(tab); });
+    connect(m_content.get(), &ShelfContent::tabDraggedOver, this,
+            [this](ShelfTab tab) { m_tabHover.hoverTab(tab, true); });
+    connect(m_content.get(), &ShelfContent::filesDraggedOver, this,
+            [this] { activateTab(ShelfTab::fileTray, true); });
+    // Where the user put files is where the user stays.
+    connect(m_content.get(), &ShelfContent::filesDropped, this, [this] { activateTab(ShelfTab::fileTray); });
+    connect(m_content.get(), &ShelfContent::trayMenuRequested, this,
+            [this](QPoint position) { showMenu(content().tray().contextMenu(), position); });
+    connect(m_content.get(), &ShelfContent::failed, this,
+            [this](const QString &title, const QString &message) { onError(title, message); });
     connect(m_content.get(), &ShelfContent::tabHovered, this,
             [this](ShelfTab tab) { m_tabHover.hoverTab(tab); });
     connect(m_content.get(), &ShelfContent::tabLeft, this,
             [this](ShelfTab tab) { m_tabHover.cancelTabHover(tab); });
     connect(m_content.get(), &ShelfContent::messageActed, this, &ShelfController::chooseFolder);
     connect(m_content.get(), &ShelfContent::selectionChanged, this, [this] {
-        m_session->selected = m_content->selection();
+        if (m_activeTab == ShelfTab::screenshots)
+            m_session->selected = m_content->selection();
         updatePreview();
     });
     connect(m_content.get(), &ShelfContent::contextMenuRequested, this, &ShelfController::showScreenshotMenu);
@@ -174,6 +186,7 @@ void ShelfController::connectSession() {
     m_session->onFolderChange = [this](FolderShelf &shelf, bool, int) { receiveFolderChange(shelf); };
     m_session->onNewFiles = [this](const std::vector<Shot> &shots) { receiveNewFiles(shots); };
     m_session->onChange = [this] { render(); };
+    m_session->clipboard.onChange = [this] { trayChanged(); };
     m_session->onBeforeRemoval = [this] { removalBegins(); };
     m_session->onError = [this](const QString &title, const QString &message) { onError(title, message); };
     m_session->isBusy = [this](bool) { return m_expanded || m_choosingFolder; };
@@ -201,6 +214,8 @@ void ShelfController::showExpanded() {
         return m_hover.didCollapse();
     m_expanded = true;
     m_announcer.dismiss();
+    if (m_hover.isDraggingFiles())
+        activateTab(ShelfTab::fileTray, true);
     // The tool's setting may have been changed since: nobody tells, so it is asked when somebody looks.
     m_locationMonitor->check();
     render();
@@ -222,6 +237,7 @@ void ShelfController::hideSurface() {
     m_expanded = false;
     m_preview.close();
     m_tabHover.cancelTabHover();
+    m_activeTab = std::exchange(m_tabBeforeDrag, std::nullopt).value_or(m_activeTab);
     m_surfaces->present(ShelfPresentation::collapsed());
     m_hover.didCollapse();
     m_announcer.flushFolderNotification();
@@ -247,9 +263,13 @@ void ShelfController::reopenFromDock() {
     openManually();
 }
 
-bool ShelfController::activateTab(ShelfTab tab) {
+bool ShelfController::activateTab(ShelfTab tab, bool duringDrag) {
     if (!isShown(tabs(), tab))
         return false;
+    if (!duringDrag)
+        m_tabBeforeDrag.reset();
+    else if (!m_tabBeforeDrag && tab != m_activeTab)
+        m_tabBeforeDrag = m_activeTab;
     m_activeTab = tab;
     render();
     return true;
@@ -304,6 +324,7 @@ void ShelfController::render() {
     if (m_undoOffer.isPending() && !undoable.isEmpty())
         state.undoName = undoable.first();
     const AppSettingsState &settings = m_settings.state();
+    state.showsFileNames = settings.showFileNames;
     state.message = screenshotFolderMessage(m_folderState.value_or(ScreenshotFolderState::none));
     if (!state.message) {
         state.screenshots = {.sections = screenshotTiles(sections(), m_settings.pinnedScreenshotPaths()),

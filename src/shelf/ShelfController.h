@@ -80,8 +80,9 @@ public:
     void openManually();
     void toggleFromShortcut();
     void reopenFromDock();
-    // Whether the tab is shown.
-    bool activateTab(ShelfTab tab);
+    // Whether the tab is shown. One that was activated for a drag gives way again to the one before when the
+    // shelf closes.
+    bool activateTab(ShelfTab tab, bool duringDrag = false);
 
     void chooseFolder();
     // Makes the folder the one that is shown; `adopting` leaves the screenshot tool's own setting as it is,
@@ -143,6 +144,9 @@ private:
     [[nodiscard]] std::vector<Shot> removableSelectedShots() const;
     [[nodiscard]] std::vector<Shot> removable(const std::vector<Shot> &shots) const;
     void dragSelected();
+    void performInTray(ShelfCommand command);
+    void pasteIntoTray();
+    void trayChanged();
     void updatePreview();
     [[nodiscard]] QRectF previewArea() const;
     // In the default application when the identifier is empty.
@@ -187,6 +191,8 @@ private:
     std::unique_ptr<QMenu> m_menu;
     std::unique_ptr<StatusItem> m_statusItem;
     ShelfTab m_activeTab = ShelfTab::screenshots;
+    // The one to go back to after a drag.
+    std::optional<ShelfTab> m_tabBeforeDrag;
     std::optional<ScreenshotDestination> m_destination;
     std::optional<ScreenshotFolderState> m_folderState;
     std::optional<ShelfStatus::Capture> m_lastCapture;

@@ -2,6 +2,7 @@
 
 #include "session/ShelfSession.h"
 #include "settings/AppSettings.h"
+#include "shelf/ClipboardShelf.h"
 #include "shelf/ScreenshotMenu.h"
 #include "shelf/ShelfContent.h"
 #include "shelf/ShelfController.h"
@@ -24,11 +25,16 @@ constexpr std::chrono::seconds undoOfferDuration{10};
 
 bool ShelfController::handleShelfKey(const QKeyEvent &event) {
     const auto command = shelfCommand(event);
-    if (!command || !m_expanded || m_activeTab != ShelfTab::screenshots || !m_content)
+    if (!command || !m_expanded || !m_content)
         return false;
+    if (m_activeTab == ShelfTab::fileTray) {
+        performInTray(*command);
+        return true;
+    }
     // What is not seen is not acted on.
-    const bool needsSelection = *command != ShelfCommand::undo && *command != ShelfCommand::redo;
-    if (needsSelection && m_folderState != ScreenshotFolderState::ready)
+    const bool actsOnSelection =
+        *command != ShelfCommand::undo && *command != ShelfCommand::redo && *command != ShelfCommand::paste;
+    if (actsOnSelection && m_folderState != ScreenshotFolderState::ready)
         return false;
     perform(*command);
     return true;
@@ -42,6 +48,8 @@ void ShelfController::perform(ShelfCommand command) {
         return redo();
     case ShelfCommand::copy:
         return copySelectedScreenshots();
+    case ShelfCommand::paste:
+        return pasteIntoTray();
     case ShelfCommand::pin:
         return toggleSelectedScreenshotPins();
     case ShelfCommand::reveal:
@@ -51,6 +59,41 @@ void ShelfController::perform(ShelfCommand command) {
     case ShelfCommand::preview:
         return togglePreview();
     }
+}
+
+void ShelfController::performInTray(ShelfCommand command) {
+    ClipboardShelf &tray = content().tray();
+    switch (command) {
+    case ShelfCommand::undo:
+        return undo();
+    case ShelfCommand::redo:
+        return redo();
+    case ShelfCommand::copy:
+        return tray.copySelected();
+    case ShelfCommand::paste:
+        return pasteIntoTray();
+    case ShelfCommand::reveal:
+        return tray.revealSelected();
+    case ShelfCommand::remove:
+        return tray.removeSelected();
+    case ShelfCommand::preview:
+        return togglePreview();
+    case ShelfCommand::pin:
+        return;
+    }
+}
+
+// What is pasted anywhere in the shelf is kept in the tray.
+void ShelfController::pasteIntoTray() {
+    if (activateTab(ShelfTab::fileTray))
+        content().tray().paste();
+}
+
+void ShelfController::trayChanged() {
+    if (!m_expanded || m_activeTab != ShelfTab::fileTray || !m_content)
+        return;
+    content().tray().refresh();
+    updatePreview();
 }
 
 void ShelfController::undo() {

@@ -4,6 +4,8 @@
 #include "base/RestoredOrder.h"
 
 #include <QDir>
+#include <QMimeData>
+#include <QUrl>
 
 #include <algorithm>
 #include <iterator>
@@ -39,7 +41,8 @@ void ClipboardStore::add(int generation, const QStringList &paths) {
             m_entries.push_back({.id = QUuid::createUuid(),
                                  .originalPath = clean,
                                  .identity = ScreenshotFileIdentity::of(clean, *facts),
-                                 .lastKnownPath = clean});
+                                 .lastKnownPath = clean,
+                                 .isFolder = facts->kind == FileKind::directory});
     }
     changed();
 }
@@ -83,6 +86,41 @@ void ClipboardStore::rebindEditedReferences(const QSet<QUuid> &ids, const QStrin
         entry.identity = ScreenshotFileIdentity::of(path, *facts);
         entry.available = true;
     }
+    changed();
+}
+
+bool ClipboardStore::canRead(const QMimeData &pasteboard) {
+    return !files(pasteboard).isEmpty();
+}
+
+QStringList ClipboardStore::files(const QMimeData &pasteboard) {
+    QStringList paths;
+    for (const QUrl &url : pasteboard.urls()) {
+        if (url.isLocalFile())
+            paths += url.toLocalFile();
+    }
+    return paths;
+}
+
+bool ClipboardStore::receive(const QMimeData &pasteboard) {
+    if (canReceive && !canReceive())
+        return false;
+    const QStringList paths = files(pasteboard);
+    add(m_importGeneration, paths);
+    return !paths.isEmpty();
+}
+
+void ClipboardStore::removeSelected() {
+    removeReferences(QSet<QUuid>(m_selectedIDs));
+}
+
+void ClipboardStore::clear() {
+    const QList<QUuid> all = order();
+    removeReferences({all.cbegin(), all.cend()});
+}
+
+void ClipboardStore::setStatus(std::optional<QString> status) {
+    m_status = std::move(status);
     changed();
 }
 

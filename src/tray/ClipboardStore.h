@@ -9,7 +9,10 @@
 #include <QUuid>
 
 #include <functional>
+#include <optional>
 #include <vector>
+
+class QMimeData;
 
 namespace tembra {
 
@@ -36,6 +39,14 @@ public:
     // Adds the files that exist, unless the import was overtaken by a later one.
     void add(int generation, const QStringList &paths);
     void select(const QSet<QUuid> &ids);
+    [[nodiscard]] static bool canRead(const QMimeData &pasteboard);
+    [[nodiscard]] static QStringList files(const QMimeData &pasteboard);
+    bool receive(const QMimeData &pasteboard);
+    void removeSelected();
+    void clear();
+    void reconcileFiles() {}
+    [[nodiscard]] const std::optional<QString> &status() const { return m_status; }
+    void setStatus(std::optional<QString> status);
 
     // Takes entries out whose files went to the Trash.
     void removeReferences(const QSet<QUuid> &ids);
@@ -52,6 +63,7 @@ private:
     std::vector<ClipboardEntry> m_entries;
     QSet<QUuid> m_selectedIDs;
     int m_importGeneration = 0;
+    std::optional<QString> m_status;
 };
 
 } // namespace tembra

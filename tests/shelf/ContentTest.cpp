@@ -11,10 +11,12 @@
 #include "support/FakeDesktop.h"
 #include "support/FakeFileFacts.h"
 #include "support/FakeInputMonitor.h"
+#include "support/FakePasteboard.h"
 #include "support/FakeThumbnails.h"
 #include "support/FakeWorkspace.h"
 #include "support/ManualQueue.h"
 #include "support/ManualScheduler.h"
+#include "tray/ClipboardStore.h"
 
 #include <QAccessible>
 #include <QLabel>
@@ -75,9 +77,12 @@ protected:
     FakeThumbnails thumbnails;
     FakeFileFacts files;
     NoPictures pictures;
+    FakePasteboard pasteboard;
+    ClipboardStore store{files};
     ManualQueue queue;
     ShelfContent content{{scheduler, scheduler.uptimeClock(), scheduler.wallClock({}), displays, workspace,
-                          input, panels, zones, thumbnails, files, pictures, queue}};
+                          input, panels, zones, pasteboard, thumbnails, files, pictures, queue},
+                         store};
     ShelfContent::State state;
 };
 

@@ -64,7 +64,7 @@ protected:
             std::make_unique<ScreenshotLocationMonitor>([this] { return destination; }, queue, scheduler,
                                                         workspace),
             ShelfServices{scheduler, scheduler.uptimeClock(), clock, displays, workspace, input, panelWindows,
-                          hotZones, thumbnails, files, parts.pictures, previewQueue,
+                          hotZones, parts.pasteboard, thumbnails, files, parts.pictures, previewQueue,
                           [this](const QString &path) { return detector.isCapture(path); }});
         controller->onError = [this](const QString &title, const QString &) { errors += title; };
         controller->askForClearing = [this](int count, int pinned, std::function<void()> clear) {
