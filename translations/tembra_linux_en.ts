@@ -76,7 +76,7 @@
     </message>
 </context>
 <context>
-    <name>tembra::ShelfController</name>
+    <name>ScreenshotCommands</name>
     <message>
         <source>Couldn’t Show in Finder</source>
         <translation>Couldn’t Show in Files</translation>

@@ -2,13 +2,13 @@
 
 #include "base/MainThread.h"
 #include "screenshots/ScreenshotLocationMonitor.h"
-#include "screenshots/ScreenshotTimeline.h"
 #include "session/ShelfSession.h"
 #include "settings/AppSettings.h"
 #include "shelf/ClearScreenshotsDialog.h"
 #include "shelf/ClipboardShelf.h"
 #include "shelf/FolderChooser.h"
 #include "shelf/SafetyReviewDialog.h"
+#include "shelf/ScreenshotCommands.h"
 #include "shelf/ScreenshotFolderMessage.h"
 #include "shelf/ScreenshotTiles.h"
 #include "shelf/ShelfContent.h"
@@ -18,7 +18,6 @@
 #include <QDateTime>
 #include <QMenu>
 #include <QRandomGenerator>
-#include <QTimeZone>
 
 #include <algorithm>
 
@@ -49,6 +48,8 @@ ShelfController::ShelfController(AppSettings &settings, std::unique_ptr<ShelfSes
       m_services(services),
       m_session(std::move(session)),
       m_locationMonitor(std::move(locationMonitor)),
+      m_commands(
+          std::make_unique<ScreenshotCommands>(settings, *m_session, services.workspace, services.now)),
       m_hover(services.scheduler, services.uptime, services.inputMonitor),
       m_tabHover(services.scheduler),
       m_announcer(services.scheduler),
@@ -56,7 +57,8 @@ ShelfController::ShelfController(AppSettings &settings, std::unique_ptr<ShelfSes
       m_screenshotFeedback(
           [](QStringList &phrases) { std::ranges::shuffle(phrases, *QRandomGenerator::global()); }),
       m_screenshotAutoOpen(services.isCapture) {
-    m_preview.onOpen = [this](const QStringList &paths) { openFiles(paths, QString()); };
+    m_commands->onError = [this](const QString &title, const QString &message) { onError(title, message); };
+    m_preview.onOpen = [this](const QStringList &paths) { m_commands->openFiles(paths, QString()); };
     askForFolder = askForScreenshotsFolder;
     askForSafetyReview = showSafetyReview;
     askForClearing = showClearScreenshots;
@@ -147,7 +149,8 @@ ShelfContent &ShelfController::content() {
             m_session->selected = m_content->selection();
         updatePreview();
     });
-    connect(m_content.get(), &ShelfContent::contextMenuRequested, this, &ShelfController::showScreenshotMenu);
+    connect(m_content.get(), &ShelfContent::contextMenuRequested, this,
+            [this](QPoint position) { showMenu(m_commands->menu(), position); });
     connect(m_content.get(), &ShelfContent::backgroundMenuRequested, this,
             &ShelfController::showScreenshotBackgroundMenu);
     connect(m_content.get(), &ShelfContent::settingsRequested, this,
@@ -310,11 +313,6 @@ void ShelfController::configureAutoOpen() {
     m_screenshotAutoOpen.configure(state.automaticallyOpenEditor, state.screenshotsFolder, m_services.now());
 }
 
-std::vector<ScreenshotSection> ShelfController::sections() const {
-    return ScreenshotTimeline::sections(m_session->folderShelf().shots, m_settings.pinnedScreenshotPaths(),
-                                        m_services.now(), QTimeZone::systemTimeZone());
-}
-
 // Nothing is drawn for a shelf that nobody sees: opening renders it.
 void ShelfController::render() {
     if (!m_started || !m_expanded)
@@ -327,7 +325,8 @@ void ShelfController::render() {
     state.showsFileNames = settings.showFileNames;
     state.message = screenshotFolderMessage(m_folderState.value_or(ScreenshotFolderState::none));
     if (!state.message) {
-        state.screenshots = {.sections = screenshotTiles(sections(), m_settings.pinnedScreenshotPaths()),
+        state.screenshots = {.sections =
+                                 screenshotTiles(m_commands->sections(), m_settings.pinnedScreenshotPaths()),
                              .showFileNames = settings.showFileNames,
                              .grouped = settings.groupScreenshotsByDate};
         state.selection = m_session->selected;
@@ -410,42 +409,6 @@ void ShelfController::scheduleTimelineRefresh() {
     const std::chrono::milliseconds delay(local.msecsTo(midnight));
     m_timelineRefreshWork = m_services.scheduler.schedule(
         delay, [this] { refreshTimeline(); }, 1s);
-}
-
-ShelfStatus ShelfController::status() const {
-    ShelfStatus status;
-    const FolderShelf &shelf = m_session->folderShelf();
-    status.expanded = m_expanded;
-    status.tab = m_activeTab;
-    if (!m_surfaces)
-        return status;
-    if (const ShelfDisplayWindow *active = m_surfaces->active()) {
-        status.display = m_expanded ? active->display().name : QString();
-        status.frame = active->visiblePanel();
-    }
-    status.folder = m_settings.state().screenshotsFolder;
-    status.folderState = m_folderState.value_or(ScreenshotFolderState::none);
-    status.screenshotCount = static_cast<int>(shelf.shots.size());
-    for (const ScreenshotSection &section : sections()) {
-        status.sections.push_back({title(section.kind), static_cast<int>(section.shots.size())});
-        if (section.kind == ScreenshotSectionKind::pinned)
-            status.pinnedCount = static_cast<int>(section.shots.size());
-    }
-    status.selected = m_content ? m_content->selectedPaths() : QStringList();
-    if (const auto &showing = m_announcer.showing()) {
-        status.showingNotification = true;
-        status.notificationText = showing->text;
-        status.notificationDetail = showing->detail();
-        status.notificationCount = showing->captureCount;
-    }
-    status.lastCapture = m_lastCapture;
-    status.autoCleanDays = static_cast<int>(m_settings.state().screenshotAutoClean);
-    status.autoCleanReview = static_cast<int>(m_session->autoCleanReview());
-    status.nextAutoCleanCheck = m_session->timeToAutoCleanCheck();
-    status.undo = m_session->screenshotUndoManager.undoNames();
-    status.redo = m_session->screenshotUndoManager.redoNames();
-    status.trayCount = static_cast<int>(m_session->clipboard.entries().size());
-    return status;
 }
 
 } // namespace tembra

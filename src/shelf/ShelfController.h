@@ -6,7 +6,6 @@
 #include "screenshots/ScreenshotAutoOpen.h"
 #include "screenshots/ScreenshotDestination.h"
 #include "screenshots/ScreenshotFeedback.h"
-#include "screenshots/ScreenshotSection.h"
 #include "screenshots/Shot.h"
 #include "settings/ScreenshotAutoCleanPeriod.h"
 #include "shelf/CaptureAnnouncer.h"
@@ -37,6 +36,7 @@ namespace tembra {
 class AppSettings;
 struct AppSettingsState;
 struct FolderShelf;
+class ScreenshotCommands;
 class ScreenshotLocationMonitor;
 class ShelfContent;
 class ShelfSession;
@@ -90,16 +90,9 @@ public:
     Result<void> acceptScreenshotFolder(const QString &folder, bool adopting);
     [[nodiscard]] QString suggestedScreenshotFolder() const;
 
-    // On the selected screenshots.
-    void copySelectedScreenshots();
-    void toggleSelectedScreenshotPins();
-    void revealSelectedScreenshots();
-    void openScreenshotsWith(const QString &applicationIdentifier);
-    // Those that are not pinned.
-    void trashSelected();
-    // Shows the selected ones large, or not any more.
+    // Shows the selected files large, or not any more.
     void togglePreview();
-    // All of them, after a question.
+    // All screenshots, after a question.
     void clearScreenshots();
     void revealFolder();
     // The last removal or restore.
@@ -138,20 +131,12 @@ private:
     void cancel();
     bool handleShelfKey(const QKeyEvent &event);
     void perform(ShelfCommand command);
-    [[nodiscard]] std::vector<ScreenshotSection> sections() const;
-    // In display order.
-    [[nodiscard]] std::vector<Shot> selectedShots() const;
-    [[nodiscard]] std::vector<Shot> removableSelectedShots() const;
-    [[nodiscard]] std::vector<Shot> removable(const std::vector<Shot> &shots) const;
     void dragSelected();
     void performInTray(ShelfCommand command);
     void pasteIntoTray();
     void trayChanged();
     void updatePreview();
     [[nodiscard]] QRectF previewArea() const;
-    // In the default application when the identifier is empty.
-    void openFiles(const QStringList &paths, const QString &applicationIdentifier);
-    void showScreenshotMenu(QPoint globalPosition);
     void showScreenshotBackgroundMenu(QPoint globalPosition);
     void installActiveStatusMenu();
     [[nodiscard]] StatusMenuActions statusMenuActions();
@@ -173,6 +158,7 @@ private:
     ShelfServices m_services;
     std::unique_ptr<ShelfSession> m_session;
     std::unique_ptr<ScreenshotLocationMonitor> m_locationMonitor;
+    std::unique_ptr<ScreenshotCommands> m_commands;
     // The surfaces show the content, so they go first.
     std::unique_ptr<ShelfContent> m_content;
     std::unique_ptr<ShelfSurfaces> m_surfaces;
