@@ -1,5 +1,6 @@
 #include "shelf/ShelfContent.h"
 
+#include "shelf/AccessibleShelf.h"
 #include "shelf/CaptureNotificationView.h"
 #include "shelf/ClipboardShelf.h"
 #include "shelf/FileDrag.h"
@@ -16,6 +17,7 @@
 namespace tembra {
 
 ShelfContent::ShelfContent(const ShelfServices &services, ClipboardStore &store) {
+    installAccessibleShelf();
     build(services, store);
     connectTray();
     setAcceptDrops(true);
