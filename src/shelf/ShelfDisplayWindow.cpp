@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QRegion>
 
+#include <algorithm>
 #include <cmath>
 
 namespace tembra {
@@ -20,6 +21,10 @@ constexpr QSize largestPanel{744, 256};
 // A pointer this close to the panel still counts as in it; the window must hear it leave. Edges count as
 // well, so it is a point more to the right and below.
 constexpr int pointerTolerance = 1;
+
+int displayWidth(const ShelfDisplay &display) {
+    return static_cast<int>(display.screenFrame.width);
+}
 
 // The panel's outline as the shape of its window.
 QBitmap outline(const QSize &window, const QRectF &body) {
@@ -70,7 +75,8 @@ void ShelfDisplayWindow::makePanel() {
 
 void ShelfDisplayWindow::placePanel() {
     const QSize largest = largestPanel.expandedTo(m_presentation.size);
-    const QSize canvas(largest.width() + 2 * ShelfShadow::reach,
+    // Nothing of it, not even its shadow, falls on the display beside.
+    const QSize canvas(std::min(largest.width() + 2 * ShelfShadow::reach, displayWidth(m_display)),
                        largest.height() + ShelfShadow::reach + ShelfShadow::drop);
     const ScreenRect frame = hangingFromEdge(canvas);
     m_panel->setGeometry(static_cast<int>(std::lround(frame.x)), static_cast<int>(std::lround(frame.y)),
@@ -83,11 +89,8 @@ void ShelfDisplayWindow::setDisplay(const ShelfDisplay &display) {
         return;
     m_display = display;
     m_zone->setRect(display.activationRect());
-    if (!m_panel)
-        return;
-    placePanel();
-    placeBody();
-    updateInputRegion();
+    if (m_panel)
+        present(m_presentation, false);
 }
 
 void ShelfDisplayWindow::setContent(QWidget &content) {
@@ -112,7 +115,7 @@ void ShelfDisplayWindow::present(const ShelfPresentation &presentation, bool isA
     m_animation.stop();
     placePanel();
     if (hasContent() && presentation.kind != ShelfPresentation::Kind::collapsed)
-        m_content->resize(presentation.size);
+        m_content->resize(presentedSize());
     updateInputRegion();
     if (isAnimated && !motion::isReduced(*m_panel)) {
         m_animation.start();
@@ -147,11 +150,19 @@ void ShelfDisplayWindow::placeBody() {
 void ShelfDisplayWindow::updateInputRegion() {
     QRegion region;
     if (m_presentation.kind != ShelfPresentation::Kind::collapsed) {
-        const QSize size = m_presentation.size;
+        const QSize size = presentedSize();
         const QRect body((m_root->width() - size.width()) / 2, 0, size.width(), size.height());
         region = body.adjusted(-pointerTolerance, 0, pointerTolerance + 1, pointerTolerance + 1);
     }
     m_services.panelWindows.setInputRegion(*m_panel, region);
+    // A window with a shape of its own takes no pointer outside of it.
+    if (region.isEmpty() || m_services.workspace.isComposited())
+        m_margin.reset();
+    else
+        m_margin = m_services.hotZones.add(interactionPanel().widened(pointerTolerance + 1),
+                                           {.onEnter = [this] { onPointerActivity(); },
+                                            .onLeave = [this] { onPointerActivity(); },
+                                            .onPress = {}});
 }
 
 void ShelfDisplayWindow::settle() {
@@ -170,16 +181,28 @@ void ShelfDisplayWindow::takeKeyboardFocus() {
         m_services.panelWindows.takeKeyboardFocus(*m_panel);
 }
 
+bool ShelfDisplayWindow::hasKeyboardFocus() const {
+    return m_panel && m_panel->isActiveWindow();
+}
+
 void ShelfDisplayWindow::compositingChanged() {
-    if (m_panel)
-        placeBody();
+    if (!m_panel)
+        return;
+    placeBody();
+    updateInputRegion();
 }
 
 // The collapsed panel is as wide as the notch and has no height.
 QSizeF ShelfDisplayWindow::restingSize() const {
     if (m_presentation.kind == ShelfPresentation::Kind::collapsed)
         return {m_display.activationRect().width, 0};
-    return m_presentation.size;
+    return presentedSize();
+}
+
+// With room for the corners in which it runs out along the edge.
+QSize ShelfDisplayWindow::presentedSize() const {
+    const int room = displayWidth(m_display) - 2 * static_cast<int>(ShelfPanelShape::topRadius);
+    return {std::min(m_presentation.size.width(), room), m_presentation.size.height()};
 }
 
 QSizeF ShelfDisplayWindow::bodySize() const {
