@@ -18,9 +18,15 @@ namespace {
 
 // The window is as large as the largest panel, so that it need not change while the panel grows in it.
 constexpr QSize largestPanel{744, 256};
-// A pointer this close to the panel still counts as in it; the window must hear it leave. Edges count as
-// well, so it is a point more to the right and below.
+// A pointer this close still counts as in a notch or the panel.
 constexpr int pointerTolerance = 1;
+
+// Where the pointer counts as in the rectangle, so that it is heard to leave where it does not any more.
+// Edges count as well, which makes it a point more to the right and below.
+ScreenRect withTolerance(const ScreenRect &rect) {
+    constexpr int more = 2 * pointerTolerance + 1;
+    return {rect.x - pointerTolerance, rect.y - pointerTolerance, rect.width + more, rect.height + more};
+}
 
 int displayWidth(const ShelfDisplay &display) {
     return static_cast<int>(display.screenFrame.width);
@@ -40,9 +46,10 @@ QBitmap outline(const QSize &window, const QRectF &body) {
 ShelfDisplayWindow::ShelfDisplayWindow(const ShelfDisplay &display, const ShelfServices &services)
     : m_services(services),
       m_display(display),
-      m_zone(services.hotZones.add(display.activationRect(), {.onEnter = [this] { onPointerActivity(); },
-                                                              .onLeave = [this] { onPointerActivity(); },
-                                                              .onPress = [this] { onActivationPressed(); }})),
+      m_zone(services.hotZones.add(withTolerance(display.activationRect()),
+                                   {.onEnter = [this] { onPointerActivity(); },
+                                    .onLeave = [this] { onPointerActivity(); },
+                                    .onPress = [this] { onActivationPressed(); }})),
       m_width(display.activationRect().width) {
     m_animation.setStartValue(0.0);
     m_animation.setEndValue(1.0);
@@ -88,7 +95,7 @@ void ShelfDisplayWindow::setDisplay(const ShelfDisplay &display) {
     if (display == m_display)
         return;
     m_display = display;
-    m_zone->setRect(display.activationRect());
+    m_zone->setRect(withTolerance(display.activationRect()));
     if (m_panel)
         present(m_presentation, false);
 }
@@ -159,7 +166,7 @@ void ShelfDisplayWindow::updateInputRegion() {
     if (region.isEmpty() || m_services.workspace.isComposited())
         m_margin.reset();
     else
-        m_margin = m_services.hotZones.add(interactionPanel().widened(pointerTolerance + 1),
+        m_margin = m_services.hotZones.add(withTolerance(interactionPanel()),
                                            {.onEnter = [this] { onPointerActivity(); },
                                             .onLeave = [this] { onPointerActivity(); },
                                             .onPress = {}});

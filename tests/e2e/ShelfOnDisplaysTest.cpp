@@ -68,9 +68,9 @@ protected:
                      {QStringLiteral("mousemove"), QString::number(to.x()), QString::number(to.y())});
     }
     // Through every pixel row between, as a hand does.
-    void moveDown(int x, int fromY, int toY) {
+    void sweep(int x, int fromY, int toY) {
         QStringList steps;
-        for (int y = fromY; y <= toY; ++y)
+        for (int y = fromY; y != toY; y += fromY < toY ? 1 : -1)
             steps += {QStringLiteral("mousemove"), QString::number(x), QString::number(y)};
         tembra->tool(QStringLiteral("xdotool"), steps);
     }
@@ -146,10 +146,20 @@ TEST_F(ShelfOnDisplays, itOpensAtTheTopOfEachDisplayWhereverThatStands) {
 TEST_F(ShelfOnDisplays, aPointerThatCrossesIntoTheLowerDisplayOpensItThereAndMayGoOn) {
     plugIn("1280x800", "--above");
     start("all");
-    moveDown(512, 760, 805);
+    for (const int beyond : {1300, 700}) {
+        sweep(512, 760, 805);
+        EXPECT_TRUE(comesToRest("DUMMY0", onMain.translated(0, 800))) << beyond << found();
+        sweep(512, 805, beyond);
+        EXPECT_TRUE(closes()) << beyond << found();
+    }
+    sweep(512, 700, 805);
     EXPECT_TRUE(comesToRest("DUMMY0", onMain.translated(0, 800))) << found();
-    moveDown(512, 805, 1300);
-    EXPECT_TRUE(closes()) << found();
+    tembra->command({QStringLiteral("close")});
+    EXPECT_TRUE(closes());
+    sweep(512, 805, 700);
+    sweep(512, 700, 805);
+    EXPECT_TRUE(comesToRest("DUMMY0", onMain.translated(0, 800)))
+        << "a pointer that left and came back: " << found();
 }
 
 TEST_F(ShelfOnDisplays, anOpenShelfMovesFromADisplayThatGoes) {
