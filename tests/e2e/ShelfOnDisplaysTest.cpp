@@ -21,37 +21,31 @@ protected:
     static constexpr QPoint aside{20, 700};
 
     static void SetUpTestSuite() {
-        server = DummyServer::start();
-        if (!server)
+        server = std::make_unique<DummyServer>();
+        if (!server->isRunning())
             return;
-        addMode(1280, 800);
-        addMode(720, 1280);
+        server->xrandr(words("--newmode wide 60 1280 1290 1300 1310 800 810 820 830"));
+        server->xrandr(words("--newmode turned 60 720 730 740 750 1280 1290 1300 1310"));
+        server->xrandr(words("--addmode DUMMY1 wide"));
+        server->xrandr(words("--addmode DUMMY1 turned"));
     }
     static void TearDownTestSuite() { server.reset(); }
 
     void SetUp() override {
-        if (!server)
+        if (!server->isRunning())
             GTEST_SKIP() << "Xorg or its dummy driver is not installed, or Xorg may not run here";
-        server->xrandr(words("--output DUMMY0 --primary --pos 0x0 --output DUMMY1 --off"));
+        unplug();
         move(aside);
     }
 
     static QStringList words(const char *line) { return QString::fromLatin1(line).split(u' '); }
-    static void addMode(int width, int height) {
-        const QString name = QStringLiteral("%1x%2").arg(width).arg(height);
-        QStringList timing{QStringLiteral("--newmode"), name, QStringLiteral("60")};
-        for (const int size : {width, height}) {
-            for (const int end : {0, 10, 20, 30})
-                timing += QString::number(size + end);
-        }
-        server->xrandr(timing);
-        server->xrandr({QStringLiteral("--addmode"), QStringLiteral("DUMMY1"), name});
-    }
     static void plugIn(const char *mode, const char *place) {
         server->xrandr({QStringLiteral("--output"), QStringLiteral("DUMMY1"), QStringLiteral("--mode"),
                         QString::fromLatin1(mode), QString::fromLatin1(place), QStringLiteral("DUMMY0")});
     }
-    static void unplug() { server->xrandr(words("--output DUMMY1 --off")); }
+    static void unplug() {
+        server->xrandr(words("--output DUMMY0 --primary --pos 0x0 --output DUMMY1 --off"));
+    }
 
     void start(const char *displayPreference) {
         QDir().mkpath(QFileInfo(tembra->settingsFile()).path());
@@ -119,11 +113,11 @@ TEST_F(ShelfOnDisplays, itOpensAtTheTopOfEachDisplayWhereverThatStands) {
         QPoint mainOrigin;
     };
     for (const Case &c : {
-             Case{"beside", "1280x800", "--right-of", {1664, 0}, {1292, 0, 744, 256}, {0, 0}},
-             Case{"above", "1280x800", "--above", {640, 0}, {268, 0, 744, 256}, {0, 800}},
-             Case{"below", "1280x800", "--below", {640, 768}, {268, 768, 744, 256}, {0, 0}},
+             Case{"beside", "wide", "--right-of", {1664, 0}, {1292, 0, 744, 256}, {0, 0}},
+             Case{"above", "wide", "--above", {640, 0}, {268, 0, 744, 256}, {0, 800}},
+             Case{"below", "wide", "--below", {640, 768}, {268, 768, 744, 256}, {0, 0}},
              Case{"turned, and narrower than the shelf",
-                  "720x1280",
+                  "turned",
                   "--left-of",
                   {360, 0},
                   {14, 0, 692, 256},
@@ -138,13 +132,12 @@ TEST_F(ShelfOnDisplays, itOpensAtTheTopOfEachDisplayWhereverThatStands) {
         move(c.mainOrigin + aside);
         EXPECT_TRUE(closes()) << c.name;
         unplug();
-        server->xrandr(words("--output DUMMY0 --pos 0x0"));
         move(aside);
     }
 }
 
 TEST_F(ShelfOnDisplays, aPointerThatCrossesIntoTheLowerDisplayOpensItThereAndMayGoOn) {
-    plugIn("1280x800", "--above");
+    plugIn("wide", "--above");
     start("all");
     for (const int beyond : {1300, 700}) {
         sweep(512, 760, 805);
@@ -163,7 +156,7 @@ TEST_F(ShelfOnDisplays, aPointerThatCrossesIntoTheLowerDisplayOpensItThereAndMay
 }
 
 TEST_F(ShelfOnDisplays, anOpenShelfMovesFromADisplayThatGoes) {
-    plugIn("1280x800", "--right-of");
+    plugIn("wide", "--right-of");
     start("all");
     move({1664, 0});
     ASSERT_TRUE(comesToRest("DUMMY1", {1292, 0, 744, 256})) << found();
@@ -175,7 +168,7 @@ TEST_F(ShelfOnDisplays, anOpenShelfMovesFromADisplayThatGoes) {
 }
 
 TEST_F(ShelfOnDisplays, theKeyboardMovesWithAShelfOpenedByHand) {
-    plugIn("1280x800", "--right-of");
+    plugIn("wide", "--right-of");
     start("all");
     move({1100, 700});
     tembra->command({QStringLiteral("open")});
@@ -187,7 +180,7 @@ TEST_F(ShelfOnDisplays, theKeyboardMovesWithAShelfOpenedByHand) {
 }
 
 TEST_F(ShelfOnDisplays, theMainDisplayAloneHasItWhenThatIsPreferred) {
-    plugIn("1280x800", "--right-of");
+    plugIn("wide", "--right-of");
     start("main");
     move({512, 0});
     ASSERT_TRUE(comesToRest("DUMMY0", onMain)) << found();
