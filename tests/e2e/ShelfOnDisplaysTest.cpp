@@ -48,37 +48,37 @@ protected:
     }
 
     void start(const char *displayPreference) {
-        QDir().mkpath(QFileInfo(tembra->settingsFile()).path());
-        QFile file(tembra->settingsFile());
+        QDir().mkpath(QFileInfo(tembra.settingsFile()).path());
+        QFile file(tembra.settingsFile());
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(QJsonDocument(QJsonObject{{QStringLiteral("displayPreference"),
                                               QString::fromLatin1(displayPreference)}})
                        .toJson());
         file.close();
-        tembra->start();
+        tembra.start();
     }
     void move(QPoint to) {
-        tembra->tool(QStringLiteral("xdotool"),
-                     {QStringLiteral("mousemove"), QString::number(to.x()), QString::number(to.y())});
+        tembra.tool(QStringLiteral("xdotool"),
+                    {QStringLiteral("mousemove"), QString::number(to.x()), QString::number(to.y())});
     }
     // Through every pixel row between, as a hand does.
     void sweep(int x, int fromY, int toY) {
         QStringList steps;
         for (int y = fromY; y != toY; y += fromY < toY ? 1 : -1)
             steps += {QStringLiteral("mousemove"), QString::number(x), QString::number(y)};
-        tembra->tool(QStringLiteral("xdotool"), steps);
+        tembra.tool(QStringLiteral("xdotool"), steps);
     }
     // Whether only the desktop itself is under the pointer.
     bool isNothingUnderThePointer() {
-        const auto root = tembra->tool(QStringLiteral("xwininfo"), words("-root -int"));
-        const auto under = tembra->tool(QStringLiteral("xdotool"), words("getmouselocation --shell"));
+        const auto root = tembra.tool(QStringLiteral("xwininfo"), words("-root -int"));
+        const auto under = tembra.tool(QStringLiteral("xdotool"), words("getmouselocation --shell"));
         const QString window = under.output.section(QStringLiteral("WINDOW="), 1).trimmed();
         return root.output.contains(QStringLiteral("Window id: %1 ").arg(window));
     }
 
     // Where the open shelf has come to rest.
     bool comesToRest(const char *display, const QRect &frame) {
-        return tembra->waitFor([&](const QJsonObject &status) {
+        return tembra.waitFor([&](const QJsonObject &status) {
             const QJsonObject shelf = status[u"shelf"].toObject();
             return shelf[u"expanded"].toBool() && shelf[u"display"].toString() == QLatin1String(display) &&
                    shelf[u"frame"].toArray() ==
@@ -86,18 +86,18 @@ protected:
         });
     }
     bool closes() {
-        return tembra->waitFor(
+        return tembra.waitFor(
             [](const QJsonObject &status) { return !status[u"shelf"][u"expanded"].toBool(); });
     }
     std::string found() {
-        return QJsonDocument(tembra->status()[u"shelf"].toObject()).toJson().toStdString() +
-               tembra->log().toStdString();
+        return QJsonDocument(tembra.status()[u"shelf"].toObject()).toJson().toStdString() +
+               tembra.log().toStdString();
     }
 
     static inline std::unique_ptr<DummyServer> server;
     static constexpr QRect onMain{140, 0, 744, 256};
     // Created on the server that is there by then.
-    std::unique_ptr<TembraProcess> tembra = std::make_unique<TembraProcess>();
+    TembraProcess tembra;
 };
 
 } // namespace
@@ -147,7 +147,7 @@ TEST_F(ShelfOnDisplays, aPointerThatCrossesIntoTheLowerDisplayOpensItThereAndMay
     }
     sweep(512, 700, 805);
     EXPECT_TRUE(comesToRest("DUMMY0", onMain.translated(0, 800))) << found();
-    tembra->command({QStringLiteral("close")});
+    tembra.command({QStringLiteral("close")});
     EXPECT_TRUE(closes());
     sweep(512, 805, 700);
     sweep(512, 700, 805);
@@ -171,11 +171,11 @@ TEST_F(ShelfOnDisplays, theKeyboardMovesWithAShelfOpenedByHand) {
     plugIn("wide", "--right-of");
     start("all");
     move({1100, 700});
-    tembra->command({QStringLiteral("open")});
+    tembra.command({QStringLiteral("open")});
     ASSERT_TRUE(comesToRest("DUMMY1", {1292, 0, 744, 256})) << found();
     unplug();
     ASSERT_TRUE(comesToRest("DUMMY0", onMain)) << found();
-    tembra->tool(QStringLiteral("xdotool"), words("key Escape"));
+    tembra.tool(QStringLiteral("xdotool"), words("key Escape"));
     EXPECT_TRUE(closes()) << found();
 }
 
@@ -184,10 +184,11 @@ TEST_F(ShelfOnDisplays, theMainDisplayAloneHasItWhenThatIsPreferred) {
     start("main");
     move({512, 0});
     ASSERT_TRUE(comesToRest("DUMMY0", onMain)) << found();
+    EXPECT_FALSE(isNothingUnderThePointer());
     move({1664, 0});
     EXPECT_TRUE(closes()) << found();
     EXPECT_TRUE(isNothingUnderThePointer());
-    tembra->command({QStringLiteral("open")});
+    tembra.command({QStringLiteral("open")});
     EXPECT_TRUE(comesToRest("DUMMY0", onMain)) << "wherever the pointer is: " << found();
     server->xrandr(words("--output DUMMY1 --primary"));
     EXPECT_TRUE(comesToRest("DUMMY1", {1292, 0, 744, 256}))
