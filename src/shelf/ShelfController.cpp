@@ -168,7 +168,12 @@ ShelfContent &ShelfController::content() {
 void ShelfController::connectHover() {
     m_hover.snapshot = [this] { return hoverSnapshot(); };
     m_hover.mouseLocation = [this] { return m_services.inputMonitor.pointer(); };
-    m_hover.onSetExpanded = [this](bool expanded) { setExpanded(expanded); };
+    m_hover.onSetExpanded = [this](bool expanded) {
+        setExpanded(expanded);
+        // A pointer that left for the notch of another display is there already.
+        if (!expanded)
+            m_hover.requestPointerEvaluation();
+    };
     m_surfaces->onPointerActivity = [this] { m_hover.requestPointerEvaluation(); };
     m_hover.onActivationClick = [this] { toggleFromShortcut(); };
     // A press opens what hovering would open; in click mode the click is seen wherever it goes.
@@ -248,7 +253,7 @@ void ShelfController::hideSurface() {
 
 void ShelfController::openManually() {
     m_hover.openManually();
-    if (m_expanded) {
+    if (m_expanded && m_surfaces->active()) {
         m_surfaces->active()->takeKeyboardFocus();
         content().takeFocus();
     }
@@ -342,7 +347,8 @@ HoverSnapshot ShelfController::hoverSnapshot() const {
     snapshot.expanded = m_expanded;
     snapshot.compact = !m_expanded && m_announcer.showing().has_value();
     snapshot.choosingFolder = m_choosingFolder;
-    snapshot.previewOpen = m_dragging || m_preview.isOpen() || (m_menu && m_menu->isVisible());
+    snapshot.previewOpen =
+        m_dragging || m_preview.isOpen() || (m_menu && m_menu->isVisible()) || m_surfaces->hasLostDisplay();
     snapshot.activationNotches = m_surfaces->activationNotches();
     if (const ShelfDisplayWindow *active = m_surfaces->active()) {
         snapshot.notch = active->display().activationRect();

@@ -89,19 +89,22 @@ TEST_F(ShelfHands, theMenuOfAScreenshotRemovesItAndTheButtonBringsItBack) {
 
 TEST_F(ShelfHands, assistiveProgramsFindTheTabsAndTheSelectedTiles) {
     const AccessibleTree tree;
-    const QString program = QStringLiteral("tembra");
+    const QString program = QStringLiteral("Tembra");
     click(background);
     press({QStringLiteral("Home")});
     EXPECT_TRUE(tembra.waitFor([](const QJsonObject &status) { return selectedCount(status) == 1; }));
-    QStringList tiles;
-    QStringList selected;
-    for (const AccessibleTree::Node &node : tree.shown(program)) {
-        if (node.role == QStringLiteral("list item"))
-            (node.isSelected ? selected : tiles) += node.name;
-    }
-    EXPECT_EQ(tiles.size(), 2);
-    EXPECT_EQ(selected,
-              QStringList{QFileInfo(tembra.status()[u"screenshots"][u"selected"][0].toString()).fileName()});
+    const auto tiles = [&tree, &program](bool isSelected) {
+        QStringList names;
+        for (const AccessibleTree::Node &node : tree.shown(program)) {
+            if (node.role == QStringLiteral("list item") && node.isSelected == isSelected)
+                names += node.name;
+        }
+        return names;
+    };
+    // The program joins the tree after somebody has asked for it.
+    EXPECT_TRUE(tembra.waitFor([&tiles](const QJsonObject &) { return tiles(false).size() == 2; }));
+    const QString selected = tembra.status()[u"screenshots"][u"selected"][0].toString();
+    EXPECT_EQ(tiles(true), QStringList{QFileInfo(selected).fileName()});
 
     const auto tray = tree.find(program, QStringLiteral("File Tray"), QStringLiteral("page tab"));
     ASSERT_TRUE(tray);

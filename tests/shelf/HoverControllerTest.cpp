@@ -200,8 +200,9 @@ TEST_F(HoverControllerTest, whatIsDraggedTowardsTheNotchOpensTheShelfInEveryMode
         bool isOffered;
         bool opens;
     };
-    for (const Row &row : {Row{ActivationMode::hover, true, true}, Row{ActivationMode::click, true, true},
-                           Row{ActivationMode::hover, false, false}, Row{ActivationMode::click, false, false}}) {
+    for (const Row &row :
+         {Row{ActivationMode::hover, true, true}, Row{ActivationMode::click, true, true},
+          Row{ActivationMode::hover, false, false}, Row{ActivationMode::click, false, false}}) {
         state = {};
         state.activationMode = row.mode;
         input.isDragOffered = row.isOffered;
