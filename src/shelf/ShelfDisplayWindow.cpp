@@ -20,6 +20,8 @@ constexpr QSize largestPanel{744, 256};
 // A pointer this close to the panel still counts as in it; the window must hear it leave. Edges count as
 // well, so it is a point more to the right and below.
 constexpr int pointerTolerance = 1;
+// Motion that begins at rest begins one frame ahead: its first frame is to show something.
+constexpr SpringMotion::Time headStart{0.016};
 
 // The panel's outline as the shape of its window.
 QBitmap outline(const QSize &window, const QRectF &body) {
@@ -106,6 +108,8 @@ void ShelfDisplayWindow::present(const ShelfPresentation &presentation, bool isA
     if (!m_panel)
         makePanel();
     const auto now = elapsed();
+    m_headStart = m_animation.state() == QAbstractAnimation::Running ? SpringMotion::Time::zero() : headStart;
+    m_isComposited = m_services.workspace.isComposited();
     m_presentation = presentation;
     m_width.retarget(restingSize().width(), now);
     m_height.retarget(restingSize().height(), now);
@@ -132,13 +136,12 @@ void ShelfDisplayWindow::placeBody() {
     const double halfWidth = std::round(size.width() / 2);
     const QRectF body(std::floor(m_root->width() / 2.0) - halfWidth, 0, 2 * halfWidth,
                       std::round(size.height()));
-    const bool isComposited = m_services.workspace.isComposited();
-    m_root->setBody(body, isComposited);
+    m_root->setBody(body, m_isComposited);
     m_viewport->setGeometry(body.toRect());
     if (hasContent())
         m_content->move((m_viewport->width() - m_content->width()) / 2, 0);
     // Without a compositor what is not the panel would be black.
-    if (isComposited)
+    if (m_isComposited)
         m_panel->clearMask();
     else
         m_panel->setMask(outline(m_root->size(), body));
@@ -171,6 +174,7 @@ void ShelfDisplayWindow::takeKeyboardFocus() {
 }
 
 void ShelfDisplayWindow::compositingChanged() {
+    m_isComposited = m_services.workspace.isComposited();
     if (m_panel)
         placeBody();
 }
@@ -190,7 +194,7 @@ QSizeF ShelfDisplayWindow::bodySize() const {
 SpringMotion::Time ShelfDisplayWindow::elapsed() const {
     if (m_animation.state() != QAbstractAnimation::Running)
         return SpringMotion::settling;
-    return std::chrono::milliseconds(m_animation.currentTime());
+    return m_headStart + std::chrono::milliseconds(m_animation.currentTime());
 }
 
 ScreenRect ShelfDisplayWindow::hangingFromEdge(const QSizeF &size) const {
