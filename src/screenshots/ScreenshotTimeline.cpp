@@ -74,7 +74,9 @@ std::vector<ScreenshotSection> ScreenshotTimeline::sections(const std::vector<Sh
     for (ScreenshotSection &section : all) {
         if (section.shots.empty())
             continue;
-        std::ranges::sort(section.shots, isShownBefore);
+        // A scan's shots come in this order already.
+        if (!std::ranges::is_sorted(section.shots, isShownBefore))
+            std::ranges::sort(section.shots, isShownBefore);
         sections.push_back(std::move(section));
     }
     return sections;

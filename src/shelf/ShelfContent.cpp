@@ -6,6 +6,8 @@
 #include "shelf/ScreenshotMessageView.h"
 #include "shelf/ShelfHeader.h"
 
+#include <utility>
+
 namespace tembra {
 
 ShelfContent::ShelfContent(const ShelfServices &services) {
@@ -41,8 +43,7 @@ void ShelfContent::build(const ShelfServices &services) {
     m_notification = new CaptureNotificationView(services.thumbnails, this);
 }
 
-void ShelfContent::apply(const State &state) {
-    m_state = state;
+void ShelfContent::apply(State state) {
     const bool isNotification = state.notification.has_value();
     m_notification->setVisible(isNotification);
     m_header->setVisible(!isNotification);
@@ -58,8 +59,8 @@ void ShelfContent::apply(const State &state) {
         m_grid->render({});
         return m_message->apply(*state.message);
     }
-    m_grid->render({.sections = state.sections,
-                    .pinnedPaths = state.pinnedPaths,
+    m_grid->render({.sections = std::move(state.sections),
+                    .pinnedPaths = std::move(state.pinnedPaths),
                     .showFileNames = state.showsFileNames,
                     .grouped = state.isGrouped});
     m_grid->select(state.selection);
@@ -72,10 +73,10 @@ QStringList ShelfContent::selectedPaths() const {
 }
 
 void ShelfContent::takeFocus() {
-    if (m_state.message)
-        m_message->setFocus();
-    else
+    if (m_message->isHidden())
         m_grid->takeFocus();
+    else
+        m_message->setFocus();
 }
 
 void ShelfContent::revealSelection() {

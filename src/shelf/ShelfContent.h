@@ -47,8 +47,7 @@ public:
     explicit ShelfContent(const ShelfServices &services);
     ~ShelfContent() override;
 
-    void apply(const State &state);
-    [[nodiscard]] const State &state() const { return m_state; }
+    void apply(State state);
     [[nodiscard]] QStringList selectedPaths() const;
     [[nodiscard]] std::vector<Shot> selectedShots() const;
     void revealSelection();
@@ -83,7 +82,6 @@ private:
     void build(const ShelfServices &services);
     void layOut();
 
-    State m_state;
     FileThumbnailCache m_thumbnailCache;
     ShelfHeader *m_header = nullptr;
     NativeScreenshotGrid *m_grid = nullptr;

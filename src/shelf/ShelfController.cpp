@@ -19,6 +19,7 @@
 #include <QTimeZone>
 
 #include <algorithm>
+#include <utility>
 
 namespace tembra {
 
@@ -305,7 +306,7 @@ void ShelfController::render() {
     }
     state.isGrouped = settings.groupScreenshotsByDate;
     state.showsFileNames = settings.showFileNames;
-    content().apply(state);
+    content().apply(std::move(state));
 }
 
 HoverSnapshot ShelfController::hoverSnapshot() const {
