@@ -31,10 +31,10 @@ void synchronise() {
     std::free(xcb_get_input_focus_reply(xcb, xcb_get_input_focus(xcb), nullptr));
 }
 
-double proportionalMebibytes() {
+double memoryMebibytes(const std::string &kind) {
     std::ifstream words("/proc/self/smaps_rollup");
     std::string word;
-    while (words >> word && word != "Pss:") {
+    while (words >> word && word != kind + ':') {
     }
     double kibibytes = 0;
     words >> kibibytes;
@@ -158,7 +158,8 @@ void ShelfMeasurement::memoryAfterAll() {
     const QScrollBar &bar = *m_shelf.grid().scrollView().verticalScrollBar();
     scroll(bar.pageStep(), 1 + bar.maximum() / bar.pageStep());
     turnFor(1s);
-    m_figures["memory"] = {proportionalMebibytes()};
+    m_figures["proportional-memory"] = {memoryMebibytes("Pss")};
+    m_figures["resident-memory"] = {memoryMebibytes("Rss")};
 }
 
 } // namespace tembra::bench
