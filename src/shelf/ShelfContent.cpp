@@ -13,6 +13,7 @@
 #include <QDragEnterEvent>
 
 #include <algorithm>
+#include <utility>
 
 namespace tembra {
 
@@ -65,49 +66,54 @@ void ShelfContent::connectTray() {
     connect(m_tray, &ClipboardShelf::failed, this, &ShelfContent::failed);
 }
 
-void ShelfContent::apply(const State &state) {
-    const bool isSwitch = state.activeTab != m_state.activeTab && !state.notification;
-    if (isSwitch)
-        rememberTabResponder(m_state.activeTab);
-    const bool gridComesBack = m_grid->isHidden();
-    m_state = state;
-    m_notification->setVisible(state.notification.has_value());
-    m_header->setVisible(!state.notification);
-    if (state.notification) {
-        for (QWidget *host : {static_cast<QWidget *>(m_grid), static_cast<QWidget *>(m_message),
-                              static_cast<QWidget *>(m_tray)})
+void ShelfContent::apply(State state) {
+    const bool isNotification = state.notification.has_value();
+    m_notification->setVisible(isNotification);
+    m_header->setVisible(!isNotification);
+    if (isNotification) {
+        for (QWidget *host : tabHosts())
             host->hide();
         return m_notification->apply(*state.notification);
     }
+    const bool isSwitch = state.activeTab != m_activeTab;
+    if (isSwitch)
+        rememberTabResponder(m_activeTab);
+    const bool gridComesBack = m_grid->isHidden();
+    m_tabs = state.tabs;
+    m_activeTab = state.activeTab;
     m_header->apply(state.tabs, state.activeTab);
     m_header->offerUndo(state.undoName);
-    showTab();
+    showTab(state);
     if (isActiveWindow() && (isSwitch || (gridComesBack && m_grid->isVisible())))
-        restoreTabResponder(state.activeTab);
+        restoreTabResponder(m_activeTab);
 }
 
-void ShelfContent::showTab() {
-    const bool isTray = m_state.activeTab == ShelfTab::fileTray;
-    m_grid->setVisible(!isTray && !m_state.message);
-    m_message->setVisible(!isTray && m_state.message);
+void ShelfContent::showTab(State &state) {
+    const bool isTray = m_activeTab == ShelfTab::fileTray;
+    m_grid->setVisible(!isTray && !state.message);
+    m_message->setVisible(!isTray && state.message);
     m_tray->setVisible(isTray);
     if (isTray) {
-        m_tray->setShowsFileNames(m_state.showsFileNames);
+        m_tray->setShowsFileNames(state.showsFileNames);
         return m_tray->refresh();
     }
-    if (m_state.message) {
+    if (state.message) {
         // Nothing that is hidden stays selected.
         m_grid->render({});
-        return m_message->apply(*m_state.message);
+        return m_message->apply(*state.message);
     }
-    m_grid->render(m_state.screenshots);
-    m_grid->select(screenshotTileIDs(m_state.selection));
+    m_grid->render(std::move(state.screenshots));
+    m_grid->select(screenshotTileIDs(state.selection));
+}
+
+std::vector<QWidget *> ShelfContent::tabHosts() const {
+    return {m_grid, m_message, m_tray};
 }
 
 QWidget *ShelfContent::tabHost(ShelfTab tab) const {
     if (tab == ShelfTab::fileTray)
         return m_tray;
-    return m_state.message ? static_cast<QWidget *>(m_message) : m_grid;
+    return m_message->isHidden() ? static_cast<QWidget *>(m_grid) : m_message;
 }
 
 void ShelfContent::rememberTabResponder(ShelfTab tab) {
@@ -125,11 +131,11 @@ void ShelfContent::restoreTabResponder(ShelfTab tab) {
 }
 
 QStringList ShelfContent::selectedPaths() const {
-    return m_state.activeTab == ShelfTab::fileTray ? m_tray->availableSelection() : m_grid->selectedPaths();
+    return m_activeTab == ShelfTab::fileTray ? m_tray->availableSelection() : m_grid->selectedPaths();
 }
 
 void ShelfContent::takeFocus() {
-    restoreTabResponder(m_state.activeTab);
+    restoreTabResponder(m_activeTab);
 }
 
 void ShelfContent::revealSelection() {
@@ -137,7 +143,7 @@ void ShelfContent::revealSelection() {
 }
 
 void ShelfContent::dragSelected() {
-    if (m_state.activeTab == ShelfTab::fileTray)
+    if (m_activeTab == ShelfTab::fileTray)
         return m_tray->dragSelected();
     dragFiles(*m_grid, m_grid->selectedPaths(), m_grid->selectedPictures());
 }
@@ -147,8 +153,8 @@ QSet<ScreenshotFileIdentity> ShelfContent::selection() const {
 }
 
 void ShelfContent::dragEnterEvent(QDragEnterEvent *event) {
-    const bool hasTray = std::ranges::find(m_state.tabs, ShelfTab::fileTray) != m_state.tabs.end();
-    if (!event->source() && hasTray && m_state.activeTab != ShelfTab::fileTray &&
+    const bool hasTray = std::ranges::find(m_tabs, ShelfTab::fileTray) != m_tabs.end();
+    if (!event->source() && hasTray && m_activeTab != ShelfTab::fileTray &&
         ClipboardStore::canRead(*event->mimeData()))
         Q_EMIT filesDraggedOver();
 }

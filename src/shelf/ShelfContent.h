@@ -50,8 +50,7 @@ public:
     ShelfContent(const ShelfServices &services, ClipboardStore &store);
     ~ShelfContent() override;
 
-    void apply(const State &state);
-    [[nodiscard]] const State &state() const { return m_state; }
+    void apply(State state);
     // Of the files of the active tab that can be reached.
     [[nodiscard]] QStringList selectedPaths() const;
     void revealSelection();
@@ -95,13 +94,15 @@ private:
     void build(const ShelfServices &services, ClipboardStore &store);
     void connectTray();
     void layOut();
-    void showTab();
+    void showTab(State &state);
+    [[nodiscard]] std::vector<QWidget *> tabHosts() const;
     // What holds the content of a tab.
     [[nodiscard]] QWidget *tabHost(ShelfTab tab) const;
     void rememberTabResponder(ShelfTab tab);
     void restoreTabResponder(ShelfTab tab);
 
-    State m_state;
+    std::vector<ShelfTab> m_tabs;
+    ShelfTab m_activeTab = ShelfTab::screenshots;
     FileThumbnailCache m_thumbnailCache;
     ShelfHeader *m_header = nullptr;
     NativeScreenshotGrid *m_grid = nullptr;

@@ -20,6 +20,7 @@
 #include <QRandomGenerator>
 
 #include <algorithm>
+#include <utility>
 
 namespace tembra {
 
@@ -338,7 +339,7 @@ void ShelfController::render() {
         if (state.screenshots.sections.empty())
             state.message = emptyFolderMessage();
     }
-    content().apply(state);
+    content().apply(std::move(state));
 }
 
 HoverSnapshot ShelfController::hoverSnapshot() const {

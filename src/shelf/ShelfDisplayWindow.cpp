@@ -20,6 +20,8 @@ namespace {
 constexpr QSize largestPanel{744, 256};
 // A pointer this close still counts as in a notch or the panel.
 constexpr int pointerTolerance = 1;
+// Motion that begins at rest begins one frame ahead: its first frame is to show something.
+constexpr SpringMotion::Time headStart{0.016};
 
 // Where the pointer counts as in the rectangle, so that it is heard to leave where it does not any more.
 // Edges count as well, which makes it a point more to the right and below.
@@ -116,6 +118,8 @@ void ShelfDisplayWindow::present(const ShelfPresentation &presentation, bool isA
     if (!m_panel)
         makePanel();
     const auto now = elapsed();
+    m_headStart = m_animation.state() == QAbstractAnimation::Running ? SpringMotion::Time::zero() : headStart;
+    m_isComposited = m_services.workspace.isComposited();
     m_presentation = presentation;
     m_width.retarget(restingSize().width(), now);
     m_height.retarget(restingSize().height(), now);
@@ -142,13 +146,12 @@ void ShelfDisplayWindow::placeBody() {
     const double halfWidth = std::round(size.width() / 2);
     const QRectF body(std::floor(m_root->width() / 2.0) - halfWidth, 0, 2 * halfWidth,
                       std::round(size.height()));
-    const bool isComposited = m_services.workspace.isComposited();
-    m_root->setBody(body, isComposited);
+    m_root->setBody(body, m_isComposited);
     m_viewport->setGeometry(body.toRect());
     if (hasContent())
         m_content->move((m_viewport->width() - m_content->width()) / 2, 0);
     // Without a compositor what is not the panel would be black.
-    if (isComposited)
+    if (m_isComposited)
         m_panel->clearMask();
     else
         m_panel->setMask(outline(m_root->size(), body));
@@ -193,6 +196,7 @@ bool ShelfDisplayWindow::hasKeyboardFocus() const {
 }
 
 void ShelfDisplayWindow::compositingChanged() {
+    m_isComposited = m_services.workspace.isComposited();
     if (!m_panel)
         return;
     placeBody();
@@ -220,7 +224,7 @@ QSizeF ShelfDisplayWindow::bodySize() const {
 SpringMotion::Time ShelfDisplayWindow::elapsed() const {
     if (m_animation.state() != QAbstractAnimation::Running)
         return SpringMotion::settling;
-    return std::chrono::milliseconds(m_animation.currentTime());
+    return m_headStart + std::chrono::milliseconds(m_animation.currentTime());
 }
 
 ScreenRect ShelfDisplayWindow::hangingFromEdge(const QSizeF &size) const {

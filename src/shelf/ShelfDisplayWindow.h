@@ -81,6 +81,10 @@ private:
     SpringMotion m_width;
     SpringMotion m_height;
     QVariantAnimation m_animation;
+    // How far the motion was when the animation began.
+    SpringMotion::Time m_headStart{};
+    // Asking costs a round trip to the display: not for each frame.
+    bool m_isComposited = true;
 };
 
 } // namespace tembra

@@ -376,6 +376,14 @@ TEST_F(ShelfControllerTest, withoutADisplayNothingOpensAndHoveringWorksOnceThere
     EXPECT_TRUE(status().expanded);
 }
 
+TEST_F(ShelfControllerTest, whereThingsMoveTheFirstFrameOfOpeningShowsAPartOfThePanel) {
+    start();
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    controller->openManually();
+    EXPECT_GT(status().frame.height, 20);
+    EXPECT_LT(status().frame.height, 100);
+}
+
 TEST_F(ShelfControllerTest, nothingIsLeftOnceItIsStopped) {
     start();
     capture();
