@@ -1,15 +1,14 @@
 #include "shelf/FileCollectionView.h"
 
+#include "controls/TembraToolTip.h"
 #include "shelf/FileItemCell.h"
 #include "shelf/ShelfLayout.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QFileInfo>
-#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QToolTip>
 
 #include <algorithm>
 #include <utility>
@@ -32,6 +31,7 @@ FileCollectionView::FileCollectionView(const MakeCell &makeCell)
     : m_cells([this, makeCell] { return makeCell(this); }), m_band(new RubberBand(this)) {
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
+    TembraToolTip::set(*this, QString());
 }
 
 void FileCollectionView::apply(FileGridState state) {
@@ -129,6 +129,8 @@ void FileCollectionView::setHovered(std::optional<int> index) {
     if (m_hovered == index)
         return;
     m_hovered = index;
+    const auto cell = index ? m_cells.shown().find(*index) : m_cells.shown().end();
+    TembraToolTip::set(*this, cell == m_cells.shown().end() ? QString() : cell->second->toolTip());
     updateAppearance();
 }
 
@@ -140,19 +142,6 @@ std::optional<int> FileCollectionView::currentIndex() const {
             return index;
     }
     return std::nullopt;
-}
-
-bool FileCollectionView::event(QEvent *event) {
-    if (event->type() != QEvent::ToolTip)
-        return QWidget::event(event);
-    const auto *help = static_cast<const QHelpEvent *>(event);
-    const auto index = m_layout.itemAt(help->pos());
-    const auto cell = index ? m_cells.shown().find(*index) : m_cells.shown().end();
-    if (cell == m_cells.shown().end())
-        QToolTip::hideText();
-    else
-        QToolTip::showText(help->globalPos(), cell->second->toolTip(), this, m_layout.itemRect(*index));
-    return true;
 }
 
 void FileCollectionView::mousePressEvent(QMouseEvent *event) {

@@ -56,7 +56,6 @@ protected:
     using MakeCell = std::function<FileItemCell *(QWidget *view)>;
     explicit FileCollectionView(const MakeCell &makeCell);
 
-    bool event(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;

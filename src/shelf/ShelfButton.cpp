@@ -2,6 +2,7 @@
 
 #include "controls/FocusRing.h"
 #include "controls/Palette.h"
+#include "controls/TembraToolTip.h"
 
 #include <QDragEnterEvent>
 #include <QPainter>
@@ -19,7 +20,7 @@ ShelfButton::ShelfButton(Icon icon, const QString &name, QWidget *parent)
     : QAbstractButton(parent), m_icon(icon) {
     setCheckable(true);
     setAccessibleName(name);
-    setToolTip(name);
+    TembraToolTip::set(*this, name);
     setFocusPolicy(Qt::TabFocus);
     resize(fieldSize);
 }

@@ -15,7 +15,6 @@
 #include "shelf/ShelfSurfaces.h"
 #include "shelf/ShelfTabs.h"
 
-#include <QDateTime>
 #include <QMenu>
 #include <QRandomGenerator>
 
@@ -29,9 +28,6 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr QSize panelSize{744, 256};
-
-// Screens come and go in bursts while a desktop rearranges itself.
-constexpr auto displaySettling = 200ms;
 
 // The tabs whose content there is.
 const std::vector<ShelfTab> builtTabs{ShelfTab::screenshots, ShelfTab::fileTray};
@@ -112,6 +108,7 @@ void ShelfController::stop() {
     m_displayReconcileWork.cancel();
     m_timelineRefreshWork.cancel();
     m_undoOffer.cancel();
+    m_loadingIndicatorWork.cancel();
     m_statusItem.reset();
     m_preview.close();
     m_tabHover.cancelTabHover();
@@ -129,41 +126,51 @@ ShelfContent &ShelfController::content() {
     if (m_content)
         return *m_content;
     m_content = std::make_unique<ShelfContent>(m_services, m_session->clipboard);
-    connect(m_content.get(), &ShelfContent::tabClicked, this, [this](ShelfTab tab) { activateTab(tab); });
-    connect(m_content.get(), &ShelfContent::tabDraggedOver, this,
+    connectTabs();
+    connectFiles();
+    return *m_content;
+}
+
+void ShelfController::connectTabs() {
+    ShelfContent *content = m_content.get();
+    connect(content, &ShelfContent::tabClicked, this, [this](ShelfTab tab) { activateTab(tab); });
+    connect(content, &ShelfContent::tabHovered, this, [this](ShelfTab tab) { m_tabHover.hoverTab(tab); });
+    connect(content, &ShelfContent::tabLeft, this, [this](ShelfTab tab) { m_tabHover.cancelTabHover(tab); });
+    connect(content, &ShelfContent::tabDraggedOver, this,
             [this](ShelfTab tab) { m_tabHover.hoverTab(tab, true); });
-    connect(m_content.get(), &ShelfContent::filesDraggedOver, this,
+    connect(content, &ShelfContent::filesDraggedOver, this,
             [this] { activateTab(ShelfTab::fileTray, true); });
     // Where the user put files is where the user stays.
-    connect(m_content.get(), &ShelfContent::filesDropped, this, [this] { activateTab(ShelfTab::fileTray); });
-    connect(m_content.get(), &ShelfContent::trayMenuRequested, this,
-            [this](QPoint position) { showMenu(content().tray().contextMenu(), position); });
-    connect(m_content.get(), &ShelfContent::failed, this,
-            [this](const QString &title, const QString &message) { onError(title, message); });
-    connect(m_content.get(), &ShelfContent::tabHovered, this,
-            [this](ShelfTab tab) { m_tabHover.hoverTab(tab); });
-    connect(m_content.get(), &ShelfContent::tabLeft, this,
-            [this](ShelfTab tab) { m_tabHover.cancelTabHover(tab); });
-    connect(m_content.get(), &ShelfContent::messageActed, this, &ShelfController::chooseFolder);
-    connect(m_content.get(), &ShelfContent::selectionChanged, this, [this] {
+    connect(content, &ShelfContent::filesDropped, this, [this] { activateTab(ShelfTab::fileTray); });
+    connect(content, &ShelfContent::messageActed, this, &ShelfController::chooseFolder);
+    connect(content, &ShelfContent::settingsRequested, this,
+            [this](QPoint position) { showMenu(statusMenu(statusMenuActions()), position); });
+    connect(content, &ShelfContent::notificationHeld, this,
+            [this](bool isHeld) { m_announcer.hold(isHeld); });
+    connect(content, &ShelfContent::notificationClicked, this, &ShelfController::openAnnounced);
+    m_tabHover.canSwitchTo = [this](ShelfTab tab) { return canSwitchTabsWithHover(tab); };
+    m_tabHover.onActivate = [this](ShelfTab tab) { activateTab(tab); };
+}
+
+void ShelfController::connectFiles() {
+    ShelfContent *content = m_content.get();
+    connect(content, &ShelfContent::selectionChanged, this, [this] {
         if (m_activeTab == ShelfTab::screenshots)
             m_session->selected = m_content->selection();
         updatePreview();
     });
-    connect(m_content.get(), &ShelfContent::contextMenuRequested, this,
+    connect(content, &ShelfContent::activated, this,
+            [this](const FileTile &tile) { m_commands->openFiles({tile.path}, QString()); });
+    connect(content, &ShelfContent::contextMenuRequested, this,
             [this](QPoint position) { showMenu(m_commands->menu(), position); });
-    connect(m_content.get(), &ShelfContent::backgroundMenuRequested, this,
+    connect(content, &ShelfContent::backgroundMenuRequested, this,
             &ShelfController::showScreenshotBackgroundMenu);
-    connect(m_content.get(), &ShelfContent::settingsRequested, this,
-            [this](QPoint position) { showMenu(statusMenu(statusMenuActions()), position); });
-    connect(m_content.get(), &ShelfContent::undoRequested, this, &ShelfController::undo);
-    connect(m_content.get(), &ShelfContent::notificationHeld, this,
-            [this](bool isHeld) { m_announcer.hold(isHeld); });
-    connect(m_content.get(), &ShelfContent::notificationClicked, this, &ShelfController::openAnnounced);
-    connect(m_content.get(), &ShelfContent::dragRequested, this, &ShelfController::dragSelected);
-    m_tabHover.canSwitchTo = [this](ShelfTab tab) { return canSwitchTabsWithHover(tab); };
-    m_tabHover.onActivate = [this](ShelfTab tab) { activateTab(tab); };
-    return *m_content;
+    connect(content, &ShelfContent::trayMenuRequested, this,
+            [this](QPoint position) { showMenu(m_content->tray().contextMenu(), position); });
+    connect(content, &ShelfContent::undoRequested, this, &ShelfController::undo);
+    connect(content, &ShelfContent::dragRequested, this, &ShelfController::dragSelected);
+    connect(content, &ShelfContent::failed, this,
+            [this](const QString &title, const QString &message) { onError(title, message); });
 }
 
 void ShelfController::connectHover() {
@@ -330,6 +337,8 @@ void ShelfController::render() {
     const AppSettingsState &settings = m_settings.state();
     state.showsFileNames = settings.showFileNames;
     state.message = screenshotFolderMessage(m_folderState.value_or(ScreenshotFolderState::none));
+    if (state.message && m_loadingIndicatorWork.isPending())
+        state.message->isLoading = false;
     if (!state.message) {
         state.screenshots = {.sections =
                                  screenshotTiles(m_commands->sections(), m_settings.pinnedScreenshotPaths()),
@@ -359,63 +368,6 @@ HoverSnapshot ShelfController::hoverSnapshot() const {
         snapshot.panelWindow = active->panelWindow();
     }
     return snapshot;
-}
-
-void ShelfController::workspaceChanged(Workspace::Event event) {
-    switch (event) {
-    case Workspace::Event::activeSpaceChanged:
-        m_hover.activeSpaceChanged();
-        break;
-    case Workspace::Event::didWake:
-        refreshTimeline();
-        m_hover.requestPointerEvaluation();
-        break;
-    case Workspace::Event::didMount:
-        m_settings.refreshFolderAccess();
-        m_settings.refreshUnresolvedPins(true);
-        // What is mounted over a folder hides it without a word.
-        refreshWatchers();
-        updateFolderState();
-        break;
-    case Workspace::Event::didUnmount:
-        m_settings.refreshFolderAccess();
-        m_session->fileWatcher().scanNow();
-        updateFolderState();
-        break;
-    case Workspace::Event::compositingChanged:
-        m_surfaces->compositingChanged();
-        break;
-    case Workspace::Event::willSleep:
-        break;
-    }
-}
-
-void ShelfController::scheduleDisplayReconciliation() {
-    if (!m_displayReconcileWork.isPending())
-        m_displayReconcileWork =
-            m_services.scheduler.schedule(displaySettling, [this] { reconcileDisplayWindows(); });
-}
-
-void ShelfController::reconcileDisplayWindows() {
-    m_surfaces->reconcileDisplayWindows(m_settings.state().displayPreference);
-    // An open shelf that came here from another display waits for the pointer to follow.
-    if (!m_expanded)
-        m_hover.requestPointerEvaluation();
-}
-
-void ShelfController::refreshTimeline() {
-    render();
-    scheduleTimelineRefresh();
-}
-
-// At midnight today's captures become yesterday's.
-void ShelfController::scheduleTimelineRefresh() {
-    const auto now = std::chrono::floor<std::chrono::milliseconds>(m_services.now().time_since_epoch());
-    const QDateTime local = QDateTime::fromMSecsSinceEpoch(now.count());
-    const QDateTime midnight = local.date().addDays(1).startOfDay();
-    const std::chrono::milliseconds delay(local.msecsTo(midnight));
-    m_timelineRefreshWork = m_services.scheduler.schedule(
-        delay, [this] { refreshTimeline(); }, 1s);
 }
 
 } // namespace tembra

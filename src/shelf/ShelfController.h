@@ -95,6 +95,8 @@ public:
     // All screenshots, after a question.
     void clearScreenshots();
     void revealFolder();
+    // The latest capture, in its application.
+    void openCapture();
     // The last removal or restore.
     void undo();
     void redo();
@@ -103,6 +105,8 @@ public:
     [[nodiscard]] ShelfStatus status() const;
 
 private:
+    void connectTabs();
+    void connectFiles();
     void connectHover();
     void connectAnnouncer();
     void connectSession();
@@ -126,6 +130,7 @@ private:
     void removalBegins();
     // Opens the shelf on the captures that the notification told of.
     void openAnnounced();
+    [[nodiscard]] QString latestCapture() const;
     void copyFinished(ScreenshotAutoCopy::Outcome outcome);
     // Ends the preview, else closes the shelf.
     void cancel();
@@ -191,6 +196,8 @@ private:
     WorkItem m_undoOffer;
     WorkItem m_displayReconcileWork;
     WorkItem m_timelineRefreshWork;
+    // While it is pending loading has not taken long enough to be told of.
+    WorkItem m_loadingIndicatorWork;
 };
 
 } // namespace tembra

@@ -7,14 +7,16 @@
 #include "shelf/ShelfController.h"
 #include "shelf/ShelfSurfaces.h"
 
+#include <algorithm>
+
 namespace tembra {
 
 namespace {
 
 constexpr QSize notificationSize{360, 84};
 
-bool isRecording(const Shot &shot) {
-    return !CaptureMedia::isImageExtension(CaptureMedia::extension(shot.location));
+bool isRecording(const QString &path) {
+    return !CaptureMedia::isImageExtension(CaptureMedia::extension(path));
 }
 
 } // namespace
@@ -36,7 +38,8 @@ void ShelfController::announce(const std::vector<Shot> &shots, bool isFirst) {
     std::vector<CaptureNews> news;
     for (const Shot &shot : shots) {
         dates.push_back(shot.createdAt);
-        news.push_back({.path = shot.location, .isRecording = isRecording(shot), .isFirst = isFirst});
+        news.push_back(
+            {.path = shot.location, .isRecording = isRecording(shot.location), .isFirst = isFirst});
     }
     m_screenshotFeedback.recordCaptures(dates);
     if (!m_announcer.isSeriesOpen())
@@ -45,6 +48,23 @@ void ShelfController::announce(const std::vector<Shot> &shots, bool isFirst) {
         m_pendingToastSelection.insert(shot.identity);
     if (m_settings.state().screenshotNotifications)
         m_announcer.announceCaptures(news, m_screenshotFeedback.nextPhrase());
+}
+
+QString ShelfController::latestCapture() const {
+    if (m_lastCapture)
+        return m_lastCapture->path;
+    const std::vector<Shot> &shots = m_session->folderShelf().shots;
+    const auto latest = std::ranges::max_element(shots, {}, &Shot::createdAt);
+    return latest == shots.end() ? QString() : latest->location;
+}
+
+void ShelfController::openCapture() {
+    const QString path = latestCapture();
+    if (path.isEmpty())
+        return;
+    if (const auto opened = m_services.workspace.open({path}, QString()); !opened)
+        onError(isRecording(path) ? tr("Couldn’t Open Video") : tr("Couldn’t Open Image"),
+                opened.error().message);
 }
 
 void ShelfController::openAnnounced() {

@@ -143,7 +143,10 @@ void ShelfController::showScreenshotBackgroundMenu(QPoint globalPosition) {
 }
 
 StatusMenuActions ShelfController::statusMenuActions() {
-    return {.open = [this] { openManually(); }, .openFolder = [this] { revealFolder(); }, .quit = onQuit};
+    return {.open = [this] { openManually(); },
+            .openFolder = [this] { revealFolder(); },
+            .openCapture = [this] { openCapture(); },
+            .quit = onQuit};
 }
 
 void ShelfController::installActiveStatusMenu() {

@@ -9,6 +9,13 @@
 
 namespace tembra {
 
+namespace {
+
+// What is loaded sooner needs no sign of being loaded.
+constexpr std::chrono::milliseconds loadingPatience{300};
+
+} // namespace
+
 void ShelfController::receiveFolderChange(const FolderShelf &shelf) {
     // A folder that was renamed or moved is found again by its bookmark.
     if (shelf.errorText) {
@@ -54,6 +61,8 @@ void ShelfController::updateFolderState() {
     const auto notification = folderNotification(m_folderState, state);
     if (state != m_folderState)
         m_announcer.forgetFolder();
+    if (state != m_folderState && state == ScreenshotFolderState::loading)
+        m_loadingIndicatorWork = m_services.scheduler.schedule(loadingPatience, [this] { render(); });
     m_folderState = state;
     render();
     if (notification && m_settings.state().screenshotNotifications)

@@ -2,6 +2,7 @@
 
 #include "controls/Palette.h"
 #include "controls/TembraButton.h"
+#include "controls/TembraToolTip.h"
 #include "shelf/ShelfButton.h"
 
 #include <QPainter>
@@ -58,7 +59,7 @@ ShelfHeader::ShelfHeader(QWidget *parent)
 
 void ShelfHeader::offerUndo(const std::optional<QString> &actionName) {
     m_undo->setVisible(actionName.has_value());
-    m_undo->setToolTip(actionName ? tr("Undo %1").arg(*actionName) : QString());
+    TembraToolTip::set(*m_undo, actionName ? tr("Undo %1").arg(*actionName) : QString());
     m_undo->setAccessibleName(m_undo->toolTip());
     placeButtons();
 }

@@ -21,6 +21,7 @@ std::unique_ptr<QMenu> statusMenu(const StatusMenuActions &actions) {
     menu->addSeparator();
     menu->add(text(QT_TRANSLATE_NOOP("StatusMenu", "Check for updates…")), actions.checkForUpdates);
     menu->add(text(QT_TRANSLATE_NOOP("StatusMenu", "Open Screenshots Folder")), actions.openFolder);
+    menu->add(text(QT_TRANSLATE_NOOP("StatusMenu", "Open Latest Capture")), actions.openCapture);
     menu->addSeparator();
     menu->add(text(QT_TRANSLATE_NOOP("StatusMenu", "Quit Tembra")), actions.quit);
     return menu;

@@ -17,6 +17,7 @@ struct StatusMenuActions {
     std::function<void()> showSettings;
     std::function<void()> checkForUpdates;
     std::function<void()> openFolder;
+    std::function<void()> openCapture;
     std::function<void()> quit;
 };
 
