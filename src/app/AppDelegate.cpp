@@ -3,6 +3,7 @@
 #include "app/Alert.h"
 #include "app/AppFlowCoordinator.h"
 #include "app/CommandService.h"
+#include "playback/PlaybackModule.h"
 #include "screenshots/FileWatcherService.h"
 #include "screenshots/FolderReader.h"
 #include "screenshots/ScreenshotAutoCleanScan.h"
@@ -78,7 +79,8 @@ std::unique_ptr<ShelfController> AppDelegate::makeShelfController() {
                                  .files = *m_platform.fileFacts,
                                  .pictures = *m_platform.pictureDecoder,
                                  .previewQueue = m_previewQueue,
-                                 .isCapture = [this](const QString &path) { return isCapture(path); }};
+                                 .isCapture = [this](const QString &path) { return isCapture(path); },
+                                 .makeRecordingPlayer = makeRecordingPlayer};
     auto controller =
         std::make_unique<ShelfController>(*m_settings, makeSession(), makeLocationMonitor(), services);
     controller->onError = showAlert;

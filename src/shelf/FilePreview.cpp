@@ -35,6 +35,7 @@ void FilePreview::show(const QStringList &paths, const QRectF &available) {
         return present();
     m_generation.advance();
     m_requests.clear();
+    m_player.reset();
     std::vector<PreviewItem> items;
     for (const QString &path : shown) {
         const auto known = std::ranges::find(m_items, path, &PreviewItem::path);
@@ -42,6 +43,7 @@ void FilePreview::show(const QStringList &paths, const QRectF &available) {
         items.push_back(known != m_items.end() ? *known : PreviewItem{.path = path, .isRecording = !isImage});
     }
     m_items = std::move(items);
+    play();
     present();
     // What comes at once changes the list.
     const std::vector<PreviewItem> wanted = m_items;
@@ -75,20 +77,41 @@ void FilePreview::loaded(const QString &path, const QImage &image) {
     present();
 }
 
+void FilePreview::play() {
+    if (m_items.size() != 1 || !m_items.front().isRecording)
+        return;
+    m_player = m_services.makeRecordingPlayer();
+    if (!m_player)
+        return;
+    m_items.front().isPlayed = true;
+    m_player->onFrame = [this, path = m_items.front().path](const QImage &frame) {
+        m_requests.clear();
+        loaded(path, frame);
+    };
+    m_player->play(m_items.front().path);
+}
+
 void FilePreview::present() {
-    if (!m_view) {
-        m_view = std::make_unique<PreviewView>();
-        QObject::connect(m_view.get(), &PreviewView::openRequested, m_view.get(), [this] {
-            if (onOpen)
-                onOpen(paths());
-        });
-    }
+    if (!m_view)
+        makeView();
     m_view->present(m_items, m_available);
+}
+
+void FilePreview::makeView() {
+    m_view = std::make_unique<PreviewView>();
+    QObject::connect(m_view.get(), &PreviewView::openRequested, m_view.get(), [this] { onOpen(paths()); });
+    QObject::connect(m_view.get(), &PreviewView::openWithRequested, m_view.get(),
+                     [this](QPoint position) { onOpenWith(paths(), position); });
+    QObject::connect(m_view.get(), &PreviewView::pauseToggled, m_view.get(), [this] {
+        if (m_player)
+            m_player->togglePause();
+    });
 }
 
 void FilePreview::close() {
     m_generation.advance();
     m_requests.clear();
+    m_player.reset();
     m_items.clear();
     if (m_view)
         m_view->dismiss();

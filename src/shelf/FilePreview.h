@@ -4,6 +4,7 @@
 #include "shelf/PreviewItem.h"
 #include "shelf/ShelfServices.h"
 
+#include <QPoint>
 #include <QRectF>
 #include <QStringList>
 
@@ -30,6 +31,8 @@ public:
 
     // The files shown are to be opened.
     std::function<void(const QStringList &paths)> onOpen;
+    // They are to be opened in a program that the user chooses at that place of the screen.
+    std::function<void(const QStringList &paths, QPoint position)> onOpenWith;
 
     // Opens, or shows others in the open window; none closes it.
     void show(const QStringList &paths, const QRectF &available);
@@ -41,6 +44,9 @@ private:
     void load(const PreviewItem &item);
     void loaded(const QString &path, const QImage &image);
     void present();
+    void makeView();
+    // Plays the only one shown when it is a recording.
+    void play();
 
     ShelfServices m_services;
     std::vector<PreviewItem> m_items;
@@ -49,6 +55,8 @@ private:
     // The frames of recordings that are being made.
     std::map<QString, std::unique_ptr<Thumbnails::Request>> m_requests;
     std::unique_ptr<PreviewView> m_view;
+    // Nothing while no recording is being played.
+    std::unique_ptr<RecordingPlayer> m_player;
 };
 
 } // namespace tembra

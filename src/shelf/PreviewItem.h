@@ -9,6 +9,8 @@ namespace tembra {
 struct PreviewItem {
     QString path;
     bool isRecording = false;
+    // Its images follow each other.
+    bool isPlayed = false;
     // Null until it is loaded, and when it cannot be.
     QImage image;
     bool isLoaded = false;

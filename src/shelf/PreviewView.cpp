@@ -36,9 +36,12 @@ PreviewView::PreviewView()
     setWindowTitle(tr("Preview"));
     setAccessibleName(tr("Preview"));
     m_open->setFocusPolicy(Qt::NoFocus);
-    m_open->setText(tr("Open"));
-    m_open->resize(m_open->sizeHint());
-    connect(m_open, &TembraButton::clicked, this, &PreviewView::openRequested);
+    connect(m_open, &TembraButton::clicked, this, [this] {
+        if (isStillRecording())
+            Q_EMIT openWithRequested(m_open->mapToGlobal(m_open->rect().bottomLeft()));
+        else
+            Q_EMIT openRequested();
+    });
     m_opening.setDuration(static_cast<int>(motion::fade.count()));
     m_opening.setStartValue(0.0);
     m_opening.setEndValue(1.0);
@@ -54,6 +57,7 @@ void PreviewView::present(const std::vector<PreviewItem> &items, const QRectF &a
         m_offset = {};
     }
     setAccessibleDescription(title());
+    updateButton();
     setGeometry(PreviewGeometry::window(sizes(), available).toRect());
     setCursor(canShowActualSize() ? Qt::PointingHandCursor : Qt::ArrowCursor);
     const bool wasVisible = isVisible();
@@ -62,6 +66,16 @@ void PreviewView::present(const std::vector<PreviewItem> &items, const QRectF &a
     if (!wasVisible && !motion::isReduced(*this))
         m_opening.start();
     update();
+}
+
+bool PreviewView::isStillRecording() const {
+    return m_items.size() == 1 && m_items.front().isRecording && !m_items.front().isPlayed;
+}
+
+void PreviewView::updateButton() {
+    m_open->setText(isStillRecording() ? tr("Open With") : tr("Open"));
+    m_open->resize(m_open->sizeHint());
+    placeButton();
 }
 
 void PreviewView::dismiss() {
@@ -162,6 +176,10 @@ void PreviewView::paintFooter(QPainter &painter) const {
 }
 
 void PreviewView::resizeEvent(QResizeEvent *) {
+    placeButton();
+}
+
+void PreviewView::placeButton() {
     m_open->move(width() - m_open->width() - static_cast<int>(PreviewGeometry::margin) + 3,
                  height() - static_cast<int>(PreviewGeometry::footer + m_open->height()) / 2);
 }
@@ -186,7 +204,11 @@ void PreviewView::mouseMoveEvent(QMouseEvent *event) {
 }
 
 void PreviewView::mouseReleaseEvent(QMouseEvent *event) {
-    if (event->button() == Qt::LeftButton && !m_isPanning)
+    if (event->button() != Qt::LeftButton || m_isPanning)
+        return;
+    if (m_items.size() == 1 && m_items.front().isPlayed)
+        Q_EMIT pauseToggled();
+    else
         setActualSize(!m_isActualSize);
 }
 

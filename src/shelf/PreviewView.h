@@ -26,6 +26,9 @@ public:
 
 Q_SIGNALS:
     void openRequested();
+    void openWithRequested(QPoint globalPosition);
+    // A click on a recording that is played.
+    void pauseToggled();
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -38,6 +41,10 @@ private:
     void setActualSize(bool actual);
     [[nodiscard]] std::vector<QSizeF> sizes() const;
     [[nodiscard]] QString title() const;
+    // A recording of which only a frame can be shown.
+    [[nodiscard]] bool isStillRecording() const;
+    void updateButton();
+    void placeButton();
     // The only picture is larger than its place.
     [[nodiscard]] bool canShowActualSize() const;
     void paintItem(QPainter &painter, const PreviewItem &item, const QRectF &place) const;

@@ -14,23 +14,28 @@ QString text(const char *source) {
 
 void addApplications(ShelfMenu &menu, const std::vector<Workspace::Application> &applications,
                      const std::function<void(const QString &)> &openWith) {
-    ShelfMenu *submenu = menu.addSubmenu(text(QT_TRANSLATE_NOOP("ScreenshotMenu", "Open With")));
     if (applications.empty()) {
-        submenu->add(text(QT_TRANSLATE_NOOP("ScreenshotMenu", "No Compatible Applications")), {});
+        menu.add(text(QT_TRANSLATE_NOOP("ScreenshotMenu", "No Compatible Applications")), {});
         return;
     }
     for (const Workspace::Application &application : applications) {
         const QString title = application.isDefault
                                   ? application.name + text(QT_TRANSLATE_NOOP("ScreenshotMenu", " (Default)"))
                                   : application.name;
-        QAction *item =
-            submenu->addAction(application.icon, QString(title).replace(u'&', QStringLiteral("&&")));
-        QObject::connect(item, &QAction::triggered, item,
-                         [openWith, identifier = application.identifier] { openWith(identifier); });
+        QAction *item = menu.add(QString(title).replace(u'&', QStringLiteral("&&")),
+                                 [openWith, identifier = application.identifier] { openWith(identifier); });
+        item->setIcon(application.icon);
     }
 }
 
 } // namespace
+
+std::unique_ptr<QMenu> screenshotApplicationsMenu(const std::vector<Workspace::Application> &applications,
+                                                  const std::function<void(const QString &)> &openWith) {
+    auto menu = std::make_unique<ShelfMenu>();
+    addApplications(*menu, applications, openWith);
+    return menu;
+}
 
 std::unique_ptr<QMenu> screenshotMenu(const ScreenshotMenuState &state,
                                       const ScreenshotMenuActions &actions) {
@@ -38,7 +43,8 @@ std::unique_ptr<QMenu> screenshotMenu(const ScreenshotMenuState &state,
     menu->add(text(QT_TRANSLATE_NOOP("ScreenshotMenu", "Copy")), actions.copy);
     menu->add(text(QT_TRANSLATE_NOOP("ScreenshotMenu", "Open in Editor")), actions.openInEditor)
         ->setEnabled(state.canEdit);
-    addApplications(*menu, state.applications, actions.openWith);
+    addApplications(*menu->addSubmenu(text(QT_TRANSLATE_NOOP("ScreenshotMenu", "Open With"))),
+                    state.applications, actions.openWith);
     if (state.offersRecognition)
         menu->add(text(QT_TRANSLATE_NOOP("ScreenshotMenu", "Image to Text")), actions.recognize)
             ->setEnabled(state.canRecognize);

@@ -38,6 +38,11 @@ struct ScreenshotMenuActions {
 [[nodiscard]] std::unique_ptr<QMenu> screenshotMenu(const ScreenshotMenuState &state,
                                                     const ScreenshotMenuActions &actions);
 
+// The applications that open the files, the default one first; `openWith` gets the one chosen.
+[[nodiscard]] std::unique_ptr<QMenu>
+screenshotApplicationsMenu(const std::vector<Workspace::Application> &applications,
+                           const std::function<void(const QString &identifier)> &openWith);
+
 // What the menu of the background does.
 struct ScreenshotBackgroundMenuActions {
     std::function<void()> openFolder;

@@ -10,6 +10,7 @@
 #include "shelf/SafetyReviewDialog.h"
 #include "shelf/ScreenshotCommands.h"
 #include "shelf/ScreenshotFolderMessage.h"
+#include "shelf/ScreenshotMenu.h"
 #include "shelf/ScreenshotTiles.h"
 #include "shelf/ShelfContent.h"
 #include "shelf/ShelfSurfaces.h"
@@ -55,6 +56,10 @@ ShelfController::ShelfController(AppSettings &settings, std::unique_ptr<ShelfSes
           [](QStringList &phrases) { std::ranges::shuffle(phrases, *QRandomGenerator::global()); }),
       m_screenshotAutoOpen(services.isCapture) {
     m_commands->onError = [this](const QString &title, const QString &message) { onError(title, message); };
+    m_preview.onOpenWith = [this](const QStringList &paths, QPoint position) {
+        const auto open = [this, paths](const QString &id) { m_commands->openFiles(paths, id); };
+        showMenu(screenshotApplicationsMenu(m_services.workspace.applicationsFor(paths), open), position);
+    };
     m_preview.onOpen = [this](const QStringList &paths) { m_commands->openFiles(paths, QString()); };
     askForFolder = askForScreenshotsFolder;
     askForSafetyReview = showSafetyReview;

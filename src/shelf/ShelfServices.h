@@ -12,8 +12,10 @@
 #include "platform/PictureDecoder.h"
 #include "platform/Thumbnails.h"
 #include "platform/Workspace.h"
+#include "playback/RecordingPlayer.h"
 
 #include <functional>
+#include <memory>
 
 namespace tembra {
 
@@ -35,6 +37,8 @@ struct ShelfServices {
     SerialQueue &previewQueue;
     // Whether a file is a capture.
     std::function<bool(const QString &path)> isCapture;
+    // Nothing where recordings cannot be played.
+    std::function<std::unique_ptr<RecordingPlayer>()> makeRecordingPlayer = [] { return nullptr; };
 };
 
 } // namespace tembra
