@@ -3,20 +3,32 @@
 #include "platform/FileReferences.h"
 #include "platform/linux/FileFinder.h"
 
+#include <atomic>
+
 namespace tembra {
 
-// FileReferences by looking for the identity near the last known path.
+// FileReferences by looking for the identity, and by descriptors for a few hundred files. A descriptor keeps
+// a volume from being unmounted, so files are held only where nothing can be unmounted while the session
+// lasts: on the mounts of the root, of the home and of the temporary folder.
 class LinuxFileReferences final : public FileReferences {
 public:
+    static constexpr int mostHeld = 256;
+
     explicit LinuxFileReferences(const FileFactsReader &reader) : m_finder(reader, {}) {}
 
     [[nodiscard]] std::optional<QString> path(const FileResource &resource,
                                               const QString &lastKnownPath) const override {
         return m_finder.find(resource, lastKnownPath);
     }
+    [[nodiscard]] std::optional<QString> pathBeneath(const QString &folder,
+                                                     const FileResource &resource) const override {
+        return m_finder.findBeneath(folder, resource);
+    }
+    [[nodiscard]] std::shared_ptr<const HeldFile> hold(const QString &path) const override;
 
 private:
     const FileFinder m_finder;
+    const std::shared_ptr<std::atomic<int>> m_heldCount = std::make_shared<std::atomic<int>>(0);
 };
 
 } // namespace tembra
