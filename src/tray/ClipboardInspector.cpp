@@ -21,8 +21,12 @@ bool isLocal(const ClipboardEntry &entry) {
 } // namespace
 
 ClipboardInspector::ClipboardInspector(const FileFactsReader &files, const FileReferences &references,
-                                       const Volumes &volumes, QStringList trash)
-    : m_files(files), m_references(references), m_volumes(volumes), m_trash(std::move(trash)) {}
+                                       const Volumes &volumes, const StandardFolders &folders)
+    : m_files(files),
+      m_references(references),
+      m_volumes(volumes),
+      m_trash(folders.trash),
+      m_home(folders.home) {}
 
 ClipboardEntry ClipboardInspector::entryFor(const QString &path, const FileFacts &facts) const {
     ClipboardEntry entry{.id = QUuid::createUuid(),
@@ -121,8 +125,7 @@ std::optional<QString> ClipboardInspector::find(const ClipboardEntry &entry,
                                                 const QString &mountPoint) const {
     QString expected = entry.lastKnownPath;
     if (entry.volume && mountPoint != entry.volume->mountPoint) {
-        expected =
-            QDir::cleanPath(mountPoint + u'/' + expected.sliced(entry.volume->mountPoint.size()));
+        expected = QDir::cleanPath(mountPoint + u'/' + expected.sliced(entry.volume->mountPoint.size()));
         if (m_files.facts(expected))
             return expected;
     }
@@ -131,7 +134,12 @@ std::optional<QString> ClipboardInspector::find(const ClipboardEntry &entry,
         return std::nullopt;
     if (auto path = m_references.path(*resource, expected))
         return path;
-    return mountPoint.isEmpty() ? std::nullopt : m_references.pathBeneath(mountPoint, *resource);
+    if (mountPoint.isEmpty())
+        return std::nullopt;
+    // The user's files before the system's, which are too many to look through.
+    const bool isUsers = !m_home.isEmpty() && expected.startsWith(m_home + u'/');
+    const bool holdsHome = m_home.startsWith(mountPoint);
+    return m_references.pathBeneath(isUsers && holdsHome ? m_home : mountPoint, *resource);
 }
 
 } // namespace tembra

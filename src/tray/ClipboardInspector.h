@@ -2,6 +2,7 @@
 
 #include "platform/FileFacts.h"
 #include "platform/FileReferences.h"
+#include "platform/StandardFolders.h"
 #include "platform/Volumes.h"
 #include "tray/ClipboardEntry.h"
 #include "tray/ClipboardFileState.h"
@@ -13,9 +14,9 @@ namespace tembra {
 // What becomes of the files of the tray: makes their entries and finds them again. Any thread.
 class ClipboardInspector {
 public:
-    // `trash` are the folders whose contents count as deleted. The services must outlive it.
+    // What is in the Trash of `folders` counts as deleted. The services must outlive it.
     ClipboardInspector(const FileFactsReader &files, const FileReferences &references, const Volumes &volumes,
-                       QStringList trash);
+                       const StandardFolders &folders);
 
     // An entry for a file that is there.
     [[nodiscard]] ClipboardEntry entryFor(const QString &path, const FileFacts &facts) const;
@@ -47,6 +48,7 @@ private:
     const FileReferences &m_references;
     const Volumes &m_volumes;
     const QStringList m_trash;
+    const QString m_home;
 };
 
 } // namespace tembra

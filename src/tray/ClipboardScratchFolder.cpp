@@ -55,16 +55,18 @@ QByteArray checked(const PasteboardImage &image) {
 } // namespace
 
 ClipboardScratchFolder::ClipboardScratchFolder(const QStringList &temporaryFolders) {
-    for (const QString &folder : temporaryFolders)
-        m_roots.append(folder + QStringLiteral("/Pavrell-Clipboard"));
+    for (const QString &folder : temporaryFolders) {
+        if (!folder.isEmpty())
+            m_roots.append(folder + QStringLiteral("/Pavrell-Clipboard"));
+    }
 }
 
 void ClipboardScratchFolder::empty() const {
     for (const QString &root : m_roots) {
         if (!isSafe(root))
             continue;
-        const auto entries = QDir(root).entryInfoList(QDir::AllEntries | QDir::Hidden | QDir::System |
-                                                      QDir::NoDotAndDotDot);
+        const auto entries =
+            QDir(root).entryInfoList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
         for (const QFileInfo &entry : entries) {
             if (entry.fileName().startsWith(m_run))
                 continue;

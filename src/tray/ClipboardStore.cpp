@@ -12,7 +12,7 @@ namespace tembra {
 
 ClipboardStore::ClipboardStore(ClipboardStoreServices services)
     : m_services(std::move(services)),
-      m_inspector(m_services.files, m_services.references, m_services.volumes, m_services.folders.trash),
+      m_inspector(m_services.files, m_services.references, m_services.volumes, m_services.folders),
       m_scratch({m_services.folders.temporary, m_services.folders.cache}),
       m_fileWatches(m_services.folderEvents, [this] { scheduleReconciliation(); }),
       m_pass(m_services.scheduler, m_services.uptime) {

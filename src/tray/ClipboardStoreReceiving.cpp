@@ -32,8 +32,8 @@ std::optional<QString> refusal(qsizetype missing, qsizetype special) {
     if (missing == 1 && special == 0)
         return notReceived();
     if (missing == 0)
-        return translated(QT_TRANSLATE_NOOP(
-            "ClipboardStore", "Pipes, sockets and devices cannot be kept in the file tray"));
+        return translated(QT_TRANSLATE_NOOP("ClipboardStore",
+                                            "Pipes, sockets and devices cannot be kept in the file tray"));
     return translated(QT_TRANSLATE_NOOP("ClipboardStore", "Some files could not be received"));
 }
 
@@ -134,14 +134,13 @@ void ClipboardStore::receiveImage(const QMimeData &pasteboard) {
 }
 
 void ClipboardStore::addWritten(std::function<Result<QString>()> write, const QString &failureStatus) {
-    performInBackground(
-        m_services.queue, m_services.scheduler, m_life.ticket(), std::move(write),
-        [this, failureStatus, generation = m_importGeneration](const Result<QString> &path) {
-            if (path)
-                return add(generation, {*path});
-            qWarning("%s", qUtf8Printable(path.error().message));
-            setStatus(failureStatus);
-        });
+    performInBackground(m_services.queue, m_services.scheduler, m_life.ticket(), std::move(write),
+                        [this, failureStatus, generation = m_importGeneration](const Result<QString> &path) {
+                            if (path)
+                                return add(generation, {*path});
+                            qWarning("%s", qUtf8Printable(path.error().message));
+                            setStatus(failureStatus);
+                        });
 }
 
 } // namespace tembra

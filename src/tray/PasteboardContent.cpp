@@ -76,8 +76,8 @@ QStringList filesOfText(const QString &text) {
 
 QString otherImageFormat(const QMimeData &pasteboard) {
     const QStringList formats = pasteboard.formats();
-    const auto found = std::ranges::find_if(
-        formats, [](const QString &format) { return format.startsWith(u"image/"); });
+    const auto found =
+        std::ranges::find_if(formats, [](const QString &format) { return format.startsWith(u"image/"); });
     return found == formats.end() ? QString() : *found;
 }
 

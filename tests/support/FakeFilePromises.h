@@ -2,7 +2,6 @@
 
 #include "platform/FilePromises.h"
 
-
 namespace tembra {
 
 // Promises that the test keeps or breaks, by calling `deliver`.

@@ -26,9 +26,9 @@ public:
               std::function<void(std::vector<TreeEvent>)> onEvents) override;
 
 private:
-    [[nodiscard]] Result<std::unique_ptr<Handle>>
-    watch(const QString &folder, std::optional<QSet<QByteArray>> names,
-          std::function<void(std::uint32_t)> onEvents);
+    [[nodiscard]] Result<std::unique_ptr<Handle>> watch(const QString &folder,
+                                                        std::optional<QSet<QByteArray>> names,
+                                                        std::function<void(std::uint32_t)> onEvents);
 
     const LinuxFileFactsReader &m_reader;
     Scheduler &m_scheduler;

@@ -142,8 +142,7 @@ FileFacts LinuxFileFactsReader::factsOfOpen(int descriptor, const struct statx &
 }
 
 Result<void> LinuxFileFactsReader::canReadFolder(const QString &path, bool enumerateContents) const {
-    const std::unique_ptr<DIR, int (*)(DIR *)> folder(::opendir(pathBytes(path).constData()),
-                                                      ::closedir);
+    const std::unique_ptr<DIR, int (*)(DIR *)> folder(::opendir(pathBytes(path).constData()), ::closedir);
     if (!folder)
         return failure(posixError());
     errno = 0;

@@ -149,7 +149,8 @@ bool LinuxVolumes::isMounted(std::uint64_t id) {
         if (mount.type == "autofs")
             return false;
         struct statfs facts {};
-        const bool hasFacts = !isRemoteFileSystem(mount.type) && ::statfs(mount.mountPoint.constData(), &facts) == 0;
+        const bool hasFacts =
+            !isRemoteFileSystem(mount.type) && ::statfs(mount.mountPoint.constData(), &facts) == 0;
         const std::uint64_t mounted = volumeId(mount, hasFacts ? &facts : nullptr);
         // A subvolume inside the mounted one differs in its number alone.
         const bool isSubvolume = mount.type == "btrfs" && (mounted ^ id) >> 32 == 0;

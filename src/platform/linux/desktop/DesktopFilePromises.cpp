@@ -15,10 +15,10 @@ namespace tembra {
 namespace {
 
 QDBusMessage retrieveFilesCall(const QString &key) {
-    QDBusMessage call = QDBusMessage::createMethodCall(
-        QStringLiteral("org.freedesktop.portal.Documents"),
-        QStringLiteral("/org/freedesktop/portal/documents"),
-        QStringLiteral("org.freedesktop.portal.FileTransfer"), QStringLiteral("RetrieveFiles"));
+    QDBusMessage call = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.portal.Documents"),
+                                                       QStringLiteral("/org/freedesktop/portal/documents"),
+                                                       QStringLiteral("org.freedesktop.portal.FileTransfer"),
+                                                       QStringLiteral("RetrieveFiles"));
     call << key << QVariantMap();
     return call;
 }
@@ -39,15 +39,14 @@ void DesktopFilePromises::receive(const QMimeData &pasteboard, const QString &fo
 void DesktopFilePromises::askPortal(const QString &key, std::function<void(Result<Delivery>)> onDone) {
     auto *const answer = new QDBusPendingCallWatcher(
         QDBusConnection::sessionBus().asyncCall(retrieveFilesCall(key)), &m_context);
-    QObject::connect(answer, &QDBusPendingCallWatcher::finished, &m_context,
-                     [answer, onDone = std::move(onDone)] {
-                         answer->deleteLater();
-                         const QDBusPendingReply<QStringList> reply = *answer;
-                         if (reply.isError() || reply.value().isEmpty())
-                             return onDone(
-                                 failure({errorDomain, notDelivered, reply.error().message(), QString()}));
-                         onDone(Delivery{.paths = reply.value()});
-                     });
+    QObject::connect(
+        answer, &QDBusPendingCallWatcher::finished, &m_context, [answer, onDone = std::move(onDone)] {
+            answer->deleteLater();
+            const QDBusPendingReply<QStringList> reply = *answer;
+            if (reply.isError() || reply.value().isEmpty())
+                return onDone(failure({errorDomain, notDelivered, reply.error().message(), QString()}));
+            onDone(Delivery{.paths = reply.value()});
+        });
 }
 
 } // namespace tembra

@@ -43,10 +43,10 @@ public:
 
     [[nodiscard]] bool write(const QByteArray &text) const {
         xcb_connection_t *const xcb = m_connection.xcb();
-        const auto request = xcb_change_property_checked(
-            xcb, XCB_PROP_MODE_REPLACE, m_source, m_property,
-            m_connection.atom(QByteArrayLiteral("text/plain")), 8, static_cast<std::uint32_t>(text.size()),
-            text.constData());
+        const auto request =
+            xcb_change_property_checked(xcb, XCB_PROP_MODE_REPLACE, m_source, m_property,
+                                        m_connection.atom(QByteArrayLiteral("text/plain")), 8,
+                                        static_cast<std::uint32_t>(text.size()), text.constData());
         const X11Reply<xcb_generic_error_t> error(xcb_request_check(xcb, request));
         return !error;
     }
