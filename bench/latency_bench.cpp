@@ -113,8 +113,8 @@ int main(int argc, char **argv) {
     watcher.onNewFiles = [&](const std::vector<Shot> &shots) {
         arrivedAfter = since(start);
         surfaces.activateForOpening(DisplayPreference::main, {});
-        content.apply(
-            {.notification = CaptureNotification{QStringLiteral("Got it"), {shots.front().location}, 1}});
+        content.apply({.notification = CaptureNotification{
+                           QStringLiteral("Got it"), {shots.front().location}, 1}});
         paintWatch.painted = false;
         surfaces.present(ShelfPresentation::notification({360, 84}));
     };
