@@ -3,7 +3,6 @@
 #include <QBuffer>
 #include <QDir>
 #include <QFileInfo>
-#include <QImage>
 #include <QSaveFile>
 
 #include <unistd.h>
@@ -46,7 +45,7 @@ QByteArray checked(const PasteboardImage &image) {
         return image.bytes.startsWith("\x89PNG\r\n\x1a\n") ? image.bytes : QByteArray();
     if (image.format == u"tiff")
         return isTiff(image.bytes) ? image.bytes : QByteArray();
-    const QImage decoded = QImage::fromData(image.bytes);
+    const QImage decoded = image.pixels.isNull() ? QImage::fromData(image.bytes) : image.pixels;
     QByteArray bytes;
     QBuffer buffer(&bytes);
     return !decoded.isNull() && decoded.save(&buffer, "PNG") ? bytes : QByteArray();

@@ -8,7 +8,9 @@
 #include "tray/ClipboardInspector.h"
 #include "tray/ClipboardScratchFolder.h"
 #include "tray/ClipboardStoreServices.h"
+#include "tray/PromisedFolder.h"
 
+#include <QHash>
 #include <QList>
 #include <QMimeData>
 #include <QObject>
@@ -97,6 +99,8 @@ private:
     bool receivePromises(const QMimeData &pasteboard);
     void promisesDelivered(int generation, const QString &folder,
                            const Result<FilePromises::Delivery> &delivery);
+    // Adds what comes into the folder.
+    void awaitPromises(int generation, const QString &folder);
     void receiveImage(const QMimeData &pasteboard);
     // Runs the job on the queue and adds the file it wrote.
     void addWritten(std::function<Result<QString>()> write, const QString &failureStatus);
@@ -119,6 +123,9 @@ private:
     QSet<QUuid> m_selectedIDs;
     int m_importGeneration = 0;
     std::optional<QString> m_status;
+
+    // By their folders.
+    QHash<QString, std::shared_ptr<PromisedFolder>> m_promises;
 
     ClipboardFileWatches m_fileWatches;
     WorkItem m_reconciliation;

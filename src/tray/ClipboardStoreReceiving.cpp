@@ -9,6 +9,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace tembra {
 
 namespace {
@@ -120,12 +122,28 @@ void ClipboardStore::promisesDelivered(int generation, const QString &folder,
         QDir(folder).removeRecursively();
         return setStatus(notReceived());
     }
-    if (delivery->name.isEmpty())
-        return add(generation, delivery->paths);
+    if (delivery->name.isEmpty()) {
+        const bool isToCome = std::ranges::any_of(delivery->paths, [&](const QString &path) {
+            return path.startsWith(folder + u'/') && !m_services.files.facts(path);
+        });
+        return isToCome ? awaitPromises(generation, folder) : add(generation, delivery->paths);
+    }
     const auto write = [scratch = m_scratch, delivery = *delivery] {
         return scratch.write(delivery.name, delivery.content);
     };
     addWritten(write, notReceived());
+}
+
+void ClipboardStore::awaitPromises(int generation, const QString &folder) {
+    const auto onFilled = [this, generation, folder](const QStringList &paths) {
+        const auto finished = m_promises.take(folder);
+        if (paths.isEmpty())
+            setStatus(notReceived());
+        else
+            add(generation, paths);
+    };
+    m_promises.insert(folder, std::make_shared<PromisedFolder>(m_services.folderEvents, m_services.scheduler,
+                                                               folder, onFilled));
 }
 
 void ClipboardStore::receiveImage(const QMimeData &pasteboard) {

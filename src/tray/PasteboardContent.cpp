@@ -2,10 +2,8 @@
 
 #include "base/FilePath.h"
 
-#include <QBuffer>
 #include <QDir>
 #include <QFileInfo>
-#include <QImage>
 #include <QSysInfo>
 #include <QUrl>
 
@@ -81,12 +79,6 @@ QString otherImageFormat(const QMimeData &pasteboard) {
     return found == formats.end() ? QString() : *found;
 }
 
-QByteArray encoded(const QImage &image) {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    return image.save(&buffer, "PNG") ? bytes : QByteArray();
-}
-
 } // namespace
 
 QStringList filesOn(const QMimeData &pasteboard) {
@@ -105,11 +97,11 @@ bool hasImage(const QMimeData &pasteboard) {
 PasteboardImage imageOn(const QMimeData &pasteboard) {
     for (const QString &format : {png, tiff}) {
         if (pasteboard.hasFormat(format))
-            return {pasteboard.data(format), format.section(u'/', 1)};
+            return {.bytes = pasteboard.data(format), .format = format.section(u'/', 1)};
     }
     if (const QString other = otherImageFormat(pasteboard); !other.isEmpty())
-        return {pasteboard.data(other), {}};
-    return {encoded(qvariant_cast<QImage>(pasteboard.imageData())), QStringLiteral("png")};
+        return {.bytes = pasteboard.data(other)};
+    return {.pixels = qvariant_cast<QImage>(pasteboard.imageData())};
 }
 
 } // namespace tembra

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QImage>
 #include <QMimeData>
 #include <QString>
 #include <QStringList>
@@ -14,6 +15,8 @@ struct PasteboardImage {
     QByteArray bytes;
     // "png" or "tiff"; empty for another format, which is to be converted.
     QString format;
+    // Where there are no bytes.
+    QImage pixels;
 };
 
 // The local files that a pasteboard names, as URLs or as a plain list of absolute paths, one a line, that are

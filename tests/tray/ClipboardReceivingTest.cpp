@@ -2,7 +2,6 @@
 #include "support/Files.h"
 #include "support/Pictures.h"
 #include "support/ScratchMount.h"
-#include "support/Unprivileged.h"
 #include "tray/Tray.h"
 
 #include <QDirIterator>
@@ -12,6 +11,7 @@
 
 #include <sys/stat.h>
 
+using namespace std::chrono_literals;
 using namespace tembra;
 
 namespace {
@@ -62,7 +62,10 @@ TEST_F(ClipboardReceivingTest, takesFilesTheWayProgramsOfferThem) {
         QStringList taken;
     };
     const Case cases[]{
-        {"a file manager", uris, "file://" + folder + "/a%20b%25.txt\r\nfile://" + folder + "/b\r\n", {one, two}},
+        {"a file manager",
+         uris,
+         "file://" + folder + "/a%20b%25.txt\r\nfile://" + folder + "/b\r\n",
+         {one, two}},
         {"with a comment and this machine's name",
          uris,
          "# two\r\nfile://localhost" + folder + "/b\r\n",
@@ -89,8 +92,8 @@ TEST_F(ClipboardReceivingTest, takesFilesTheWayProgramsOfferThem) {
 
 TEST_F(ClipboardReceivingTest, takesFilesOfAnyNameAndKindAsTheyAre) {
     const QByteArray folder = tray.home.path().toUtf8() + '/';
-    const QList<QByteArray> names{"a\nb", "\xF0\x9F\x98\x80", QByteArray(255, 'n'), "not \xff\xfe text", "#x",
-                                  "a (deleted)"};
+    const QList<QByteArray> names{"a\nb", "\xF0\x9F\x98\x80", QByteArray(255, 'n'), "not \xff\xfe text",
+                                  "#x",   "a (deleted)"};
     QByteArray list;
     for (const QByteArray &name : names) {
         ASSERT_EQ(::mknod((folder + name).constData(), S_IFREG | 0600, 0), 0);
@@ -164,12 +167,21 @@ TEST_F(ClipboardReceivingTest, imagesBecomeFilesInFoldersOfTheirOwn) {
     const Case cases[]{
         {"PNG before TIFF", {{tiff, tiffBytes}, {png, picture}}, "File Tray Image.png", picture},
         {"TIFF", {{tiff, tiffBytes}}, "File Tray Image.tiff", tiffBytes},
-        {"another format", {{QStringLiteral("image/jpeg"), pictureBytes("jpg", {4, 3})}}, "File Tray Image.png", {}},
+        {"another format",
+         {{QStringLiteral("image/jpeg"), pictureBytes("jpg", {4, 3})}},
+         "File Tray Image.png",
+         {}},
         {"a browser's, with the page's address",
          {{uris, "https://example.org/a.png"}, {png, picture}},
          "File Tray Image.png",
          picture},
     };
+    QMimeData pixels;
+    pixels.setImageData(QImage::fromData(picture));
+    EXPECT_TRUE(tray.store.receive(pixels));
+    tray.settle();
+    EXPECT_EQ(QImage(tray.shown().constLast()).size(), QSize(4, 3)) << "of this program's own";
+
     QSet<QString> folders;
     for (const Case &c : cases) {
         EXPECT_TRUE(receive(c.data)) << c.what;
@@ -264,6 +276,23 @@ TEST_F(ClipboardReceivingTest, promisedFilesAreAddedWhenTheyAreDelivered) {
     EXPECT_EQ(contentOf(tray.shown().constLast()), "bytes");
     EXPECT_EQ(QFileInfo(tray.shown().constLast()).fileName(), QStringLiteral("given"));
     EXPECT_EQ(tray.status(), QString());
+
+    // Said to be there before it is, and under another name.
+    begin();
+    tray.promises.deliver(
+        FilePromises::Delivery{.paths = {tray.promises.folder + QStringLiteral("/archive")}});
+    EXPECT_EQ(tray.status(), QStringLiteral("Receiving files…"));
+    const QString late = writeFile(tray.promises.folder + QStringLiteral("/late"));
+    EXPECT_TRUE(eventually([&] {
+        tray.scheduler.advance(500ms);
+        return tray.shown().constLast() == late;
+    }));
+    EXPECT_EQ(tray.status(), QString());
+
+    begin();
+    tray.promises.deliver(FilePromises::Delivery{.paths = {tray.promises.folder + QStringLiteral("/none")}});
+    tray.scheduler.advance(60s);
+    EXPECT_EQ(tray.status(), QStringLiteral("Could not receive this file"));
 
     begin();
     tray.promises.deliver(failure({.domain = FilePromises::errorDomain}));

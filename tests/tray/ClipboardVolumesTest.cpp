@@ -124,8 +124,8 @@ TEST(ClipboardRemovableVolume, aFileIsFoundAnywhereOnItWithoutBeingHeld) {
     ASSERT_TRUE(QDir().rename(file, far + QStringLiteral("/renamed")));
     tray.reconcile();
     EXPECT_EQ(tray.shown(), QStringList{far + QStringLiteral("/renamed")});
-    ASSERT_TRUE(
-        QDir().rename(far + QStringLiteral("/renamed"), disk.path() + QStringLiteral("/.Trash-0/files/renamed")));
+    ASSERT_TRUE(QDir().rename(far + QStringLiteral("/renamed"),
+                              disk.path() + QStringLiteral("/.Trash-0/files/renamed")));
     tray.reconcile();
     EXPECT_TRUE(tray.shown().isEmpty());
 }

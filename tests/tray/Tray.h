@@ -62,16 +62,17 @@ private:
     const QString m_temporary;
 
 public:
-    ClipboardStore store{{.scheduler = scheduler,
-                          .uptime = scheduler.uptimeClock(),
-                          .files = files,
-                          .references = references,
-                          .volumes = volumes,
-                          .folderEvents = events,
-                          .workspace = workspace,
-                          .promises = promises,
-                          .queue = queue,
-                          .folders = {.trash = {path("Trash")}, .cache = path("cache"), .temporary = m_temporary}}};
+    ClipboardStore store{
+        {.scheduler = scheduler,
+         .uptime = scheduler.uptimeClock(),
+         .files = files,
+         .references = references,
+         .volumes = volumes,
+         .folderEvents = events,
+         .workspace = workspace,
+         .promises = promises,
+         .queue = queue,
+         .folders = {.trash = {path("Trash")}, .cache = path("cache"), .temporary = m_temporary}}};
 };
 
 } // namespace tembra
