@@ -72,9 +72,11 @@ bool ClipboardInspector::isTrashed(const QString &path) const {
                                [&path](const QString &trash) { return path.startsWith(trash + u'/'); });
 }
 
+bool ClipboardInspector::needsSearch(const ClipboardEntry &entry, ClipboardFileState state) const {
+    return !isLocal(entry) || (state == ClipboardFileState::unavailable && isLost(entry));
+}
+
 bool ClipboardInspector::isLost(const ClipboardEntry &entry) const {
-    if (!isLocal(entry))
-        return true;
     // Hidden by something, but still held: it comes back.
     if (entry.reference && !entry.reference->isDeleted())
         return false;
@@ -84,8 +86,6 @@ bool ClipboardInspector::isLost(const ClipboardEntry &entry) const {
 }
 
 ClipboardEntry ClipboardInspector::refreshed(ClipboardEntry entry) const {
-    if (!isLocal(entry))
-        return entry;
     if (entry.reference) {
         if (const auto path = entry.reference->path())
             return *path == entry.lastKnownPath ? entry : rebound(std::move(entry), *path);
@@ -110,7 +110,7 @@ ClipboardEntry ClipboardInspector::rebound(ClipboardEntry entry, const QString &
 ClipboardInspector::Found ClipboardInspector::search(const ClipboardEntry &entry) const {
     const ClipboardFileState state = lookAt(entry);
     if (state != ClipboardFileState::unavailable)
-        return {state, entry};
+        return {state, state == ClipboardFileState::available ? refreshed(entry) : entry};
     const auto mountPoint = entry.volume ? m_volumes.mountPointOf(*entry.volume) : QString();
     if (!mountPoint)
         return {ClipboardFileState::unavailable, entry};

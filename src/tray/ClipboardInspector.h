@@ -20,11 +20,11 @@ public:
 
     // An entry for a file that is there.
     [[nodiscard]] ClipboardEntry entryFor(const QString &path, const FileFacts &facts) const;
-    // The state as far as it is told without looking for the file and without asking another machine; a lost
+    // The state as far as it is told without looking for the file and without asking another machine: a lost
     // file counts as unavailable.
     [[nodiscard]] ClipboardFileState state(const ClipboardEntry &entry) const;
-    // Only a search tells what became of the file.
-    [[nodiscard]] bool isLost(const ClipboardEntry &entry) const;
+    // Only a search tells what became of the file: it is not where it was, or is another machine's.
+    [[nodiscard]] bool needsSearch(const ClipboardEntry &entry, ClipboardFileState state) const;
     // The entry as it is now that its file is available: at another path, or with a new file in the place of
     // the old one.
     [[nodiscard]] ClipboardEntry refreshed(ClipboardEntry entry) const;
@@ -38,6 +38,7 @@ public:
 
 private:
     [[nodiscard]] ClipboardFileState lookAt(const ClipboardEntry &entry) const;
+    [[nodiscard]] bool isLost(const ClipboardEntry &entry) const;
     [[nodiscard]] bool isOnItsVolume(const ClipboardEntry &entry, const FileFacts &facts) const;
     [[nodiscard]] bool isTrashed(const QString &path) const;
     [[nodiscard]] std::optional<QString> find(const ClipboardEntry &entry, const QString &mountPoint) const;

@@ -79,7 +79,7 @@ void ClipboardStore::removeReferences(const QSet<QUuid> &ids) {
 
 void ClipboardStore::removeEntries(const QSet<QUuid> &ids) {
     std::erase_if(m_entries, [&ids](const ClipboardEntry &entry) { return ids.contains(entry.id); });
-    m_selectedIDs = QSet<QUuid>(m_selectedIDs).subtract(ids);
+    m_selectedIDs.subtract(ids);
     updateFileWatches();
 }
 

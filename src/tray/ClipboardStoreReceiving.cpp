@@ -93,8 +93,11 @@ bool ClipboardStore::addFiles(const QStringList &paths) {
         reconcileFiles();
         updateFileWatches();
     }
-    m_status = refusal(missing, special);
-    changed();
+    auto status = refusal(missing, special);
+    const bool isDifferent = hasAdded || status != m_status;
+    m_status = std::move(status);
+    if (isDifferent)
+        changed();
     return hasAdded;
 }
 

@@ -86,7 +86,7 @@ void ClipboardStore::reconcileFiles() {
 void ClipboardStore::inspectNext(Pass &pass) {
     const ClipboardEntry &entry = pass.entries[pass.next++];
     const ClipboardFileState state = inspectEntry(entry);
-    if (state == ClipboardFileState::unavailable && m_inspector.isLost(entry)) {
+    if (m_inspector.needsSearch(entry, state)) {
         pass.lost.push_back(entry);
         return;
     }

@@ -102,6 +102,21 @@ TEST_F(ClipboardFollowingTest, whatIsNotHeldIsFoundByItsIdentity) {
     EXPECT_TRUE(tray.store.entries().back().reference);
 }
 
+TEST_F(ClipboardFollowingTest, filesOfAnotherMachineAreAskedForOnTheQueueAlone) {
+    tray.volumes.areLocal = false;
+    const QString file = writeFile(tray.path("a/file"));
+    const QString other = writeFile(tray.path("a/other"));
+    tray.add({file, other});
+    tray.settle();
+    ASSERT_TRUE(QFile::remove(file));
+    const QString moved = tray.path("far/other");
+    move(other, moved);
+    tray.store.reconcileFiles();
+    EXPECT_EQ(tray.shown(), (QStringList{file, other})) << "nobody has been asked yet";
+    tray.settle();
+    EXPECT_EQ(tray.shown(), QStringList{moved});
+}
+
 TEST_F(ClipboardFollowingTest, aBurstOfEventsIsOneReconciliation) {
     const QString file = writeFile(tray.path("a/file"));
     tray.add({file, writeFile(tray.path("a/other"))});

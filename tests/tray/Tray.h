@@ -16,6 +16,27 @@
 
 namespace tembra {
 
+// The mounted volumes, which can be said to be another machine's.
+class AdjustableVolumes final : public Volumes {
+public:
+    explicit AdjustableVolumes(const LinuxFileFactsReader &reader) : m_mounted(reader) {}
+
+    bool areLocal = true;
+
+    [[nodiscard]] Result<Volume> volumeOf(const QString &path) const override {
+        return m_mounted.volumeOf(path).map([this](Volume volume) {
+            volume.isLocal = areLocal;
+            return volume;
+        });
+    }
+    [[nodiscard]] std::optional<QString> mountPointOf(const Volume &volume) const override {
+        return m_mounted.mountPointOf(volume);
+    }
+
+private:
+    const LinuxMountedVolumes m_mounted;
+};
+
 // A file tray over real files and their events; time and the queue are the test's.
 class Tray {
 public:
@@ -52,7 +73,7 @@ public:
     ManualQueue queue;
     LinuxFileFactsReader files;
     LinuxFileReferences references{files};
-    LinuxMountedVolumes volumes{files};
+    AdjustableVolumes volumes{files};
     InotifyFolderEvents events{files, scheduler};
     FakeWorkspace workspace;
     FakeFilePromises promises;
