@@ -18,6 +18,18 @@ bool isLocal(const ClipboardEntry &entry) {
     return !entry.volume || entry.volume->isLocal;
 }
 
+// Files of one folder are on one volume; a folder in it can be another one's mount point.
+bool isBeside(const QString &path, const FileFacts &facts, const ClipboardEntry &neighbour) {
+    const qsizetype slash = path.lastIndexOf(u'/');
+    const QString &other = neighbour.lastKnownPath;
+    const auto resource = neighbour.identity.resource();
+    return facts.kind == FileKind::regular && facts.resource && resource &&
+           facts.resource->volume == resource->volume && neighbour.volume &&
+           neighbour.volume->id == resource->volume && neighbour.volume->mountPoint != other &&
+           other.lastIndexOf(u'/') == slash &&
+           QStringView(other).first(slash) == QStringView(path).first(slash);
+}
+
 } // namespace
 
 ClipboardInspector::ClipboardInspector(const FileFactsReader &files, const FileReferences &references,
@@ -28,13 +40,16 @@ ClipboardInspector::ClipboardInspector(const FileFactsReader &files, const FileR
       m_trash(folders.trash),
       m_home(folders.home) {}
 
-ClipboardEntry ClipboardInspector::entryFor(const QString &path, const FileFacts &facts) const {
+ClipboardEntry ClipboardInspector::entryFor(const QString &path, const FileFacts &facts,
+                                            const ClipboardEntry *neighbour) const {
     ClipboardEntry entry{.id = QUuid::createUuid(),
                          .originalPath = path,
                          .reference = m_references.hold(path),
                          .identity = ScreenshotFileIdentity::of(path, facts),
                          .lastKnownPath = path};
-    if (const auto volume = m_volumes.volumeOf(path))
+    if (neighbour && isBeside(path, facts, *neighbour))
+        entry.volume = neighbour->volume;
+    else if (const auto volume = m_volumes.volumeOf(path))
         entry.volume = *volume;
     return entry;
 }

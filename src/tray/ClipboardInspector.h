@@ -18,8 +18,9 @@ public:
     ClipboardInspector(const FileFactsReader &files, const FileReferences &references, const Volumes &volumes,
                        const StandardFolders &folders);
 
-    // An entry for a file that is there.
-    [[nodiscard]] ClipboardEntry entryFor(const QString &path, const FileFacts &facts) const;
+    // An entry for a file that is there. `neighbour` is another one that may save asking for the volume.
+    [[nodiscard]] ClipboardEntry entryFor(const QString &path, const FileFacts &facts,
+                                          const ClipboardEntry *neighbour = nullptr) const;
     // The state as far as it is told without looking for the file and without asking another machine: a lost
     // file counts as unavailable.
     [[nodiscard]] ClipboardFileState state(const ClipboardEntry &entry) const;

@@ -89,7 +89,7 @@ Result<QString> ClipboardScratchFolder::makeStorageDirectory() const {
 Result<QString> ClipboardScratchFolder::write(const QString &name, const QByteArray &content) const {
     const auto folder = makeStorageDirectory();
     if (!folder)
-        return folder;
+        return failure(folder.error());
     QSaveFile file(*folder + u'/' + name);
     if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit())
         return file.fileName();

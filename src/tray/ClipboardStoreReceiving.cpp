@@ -86,7 +86,8 @@ bool ClipboardStore::addFiles(const QStringList &paths) {
         else if (facts->kind == FileKind::other)
             ++special;
         else
-            m_entries.push_back(m_inspector.entryFor(clean, *facts));
+            m_entries.push_back(
+                m_inspector.entryFor(clean, *facts, m_entries.empty() ? nullptr : &m_entries.back()));
     }
     const bool hasAdded = m_entries.size() > before;
     if (hasAdded) {

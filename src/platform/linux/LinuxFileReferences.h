@@ -2,8 +2,12 @@
 
 #include "platform/FileReferences.h"
 #include "platform/linux/FileFinder.h"
+#include "platform/linux/MountKey.h"
+#include "platform/linux/MountTableChanges.h"
 
 #include <atomic>
+#include <mutex>
+#include <vector>
 
 namespace tembra {
 
@@ -27,8 +31,14 @@ public:
     [[nodiscard]] std::shared_ptr<const HeldFile> hold(const QString &path) const override;
 
 private:
+    [[nodiscard]] bool isOnLastingMount(int file) const;
+
     const FileFinder m_finder;
     const std::shared_ptr<std::atomic<int>> m_heldCount = std::make_shared<std::atomic<int>>(0);
+    mutable std::mutex m_mutex;
+    mutable MountTableChanges m_changes;
+    // Those that are not unmounted; empty before they are asked for.
+    mutable std::vector<MountKey> m_lastingMounts;
 };
 
 } // namespace tembra
