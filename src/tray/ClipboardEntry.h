@@ -26,6 +26,7 @@ struct ClipboardEntry {
     QString lastKnownPath;
     // The file can be reached now.
     bool available = true;
+    bool isFolder = false;
 
     bool operator==(const ClipboardEntry &) const = default;
 };

@@ -46,7 +46,8 @@ ClipboardEntry ClipboardInspector::entryFor(const QString &path, const FileFacts
                          .originalPath = path,
                          .reference = m_references.hold(path),
                          .identity = ScreenshotFileIdentity::of(path, facts),
-                         .lastKnownPath = path};
+                         .lastKnownPath = path,
+                         .isFolder = facts.kind == FileKind::directory};
     if (neighbour && isBeside(path, facts, *neighbour))
         entry.volume = neighbour->volume;
     else if (const auto volume = m_volumes.volumeOf(path))
@@ -115,8 +116,10 @@ ClipboardEntry ClipboardInspector::refreshed(ClipboardEntry entry) const {
 
 ClipboardEntry ClipboardInspector::rebound(ClipboardEntry entry, const QString &path) const {
     entry.lastKnownPath = path;
-    if (const auto facts = m_files.facts(path))
+    if (const auto facts = m_files.facts(path)) {
         entry.identity = ScreenshotFileIdentity::of(path, *facts);
+        entry.isFolder = facts->kind == FileKind::directory;
+    }
     if (const auto volume = m_volumes.volumeOf(path))
         entry.volume = *volume;
     return entry;

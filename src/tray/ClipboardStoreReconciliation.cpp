@@ -87,7 +87,11 @@ void ClipboardStore::inspectNext(Pass &pass) {
     const ClipboardEntry &entry = pass.entries[pass.next++];
     const ClipboardFileState state = inspectEntry(entry);
     if (m_inspector.needsSearch(entry, state)) {
-        pass.lost.push_back(entry);
+        // Greyed until it is found.
+        ClipboardEntry &lost = pass.lost.emplace_back(entry);
+        lost.available = state == ClipboardFileState::available;
+        if (lost.available != entry.available)
+            pass.outcomes.push_back({entry, state, entry});
         return;
     }
     const ClipboardEntry now = state == ClipboardFileState::available ? m_inspector.refreshed(entry) : entry;
