@@ -13,6 +13,7 @@
 #include "screenshots/FolderReader.h"
 #include "shelf/ShelfContent.h"
 #include "shelf/ShelfSurfaces.h"
+#include "tray/ClipboardStore.h"
 
 #include <QApplication>
 #include <QDir>
@@ -95,11 +96,22 @@ int main(int argc, char **argv) {
                                  *platform.inputMonitor,
                                  *platform.panelWindows,
                                  *platform.hotZones,
+                                 *platform.pasteboard,
                                  *platform.thumbnails,
                                  *platform.fileFacts,
                                  *platform.pictureDecoder,
                                  queue};
-    ShelfContent content(services);
+    ClipboardStore store({.scheduler = scheduler,
+                          .uptime = systemUptime,
+                          .files = *platform.fileFacts,
+                          .references = *platform.fileReferences,
+                          .volumes = *platform.volumes,
+                          .folderEvents = *platform.folderEvents,
+                          .workspace = *platform.workspace,
+                          .promises = *platform.filePromises,
+                          .queue = queue,
+                          .folders = {.temporary = folder.path()}});
+    ShelfContent content(services, store);
     PaintWatch paintWatch;
     content.installEventFilter(&paintWatch);
     ShelfSurfaces surfaces(services, [&content]() -> QWidget & { return content; });
@@ -113,8 +125,8 @@ int main(int argc, char **argv) {
     watcher.onNewFiles = [&](const std::vector<Shot> &shots) {
         arrivedAfter = since(start);
         surfaces.activateForOpening(DisplayPreference::main, {});
-        content.apply({.notification = CaptureNotification{
-                           QStringLiteral("Got it"), {shots.front().location}, 1}});
+        content.apply(
+            {.notification = CaptureNotification{QStringLiteral("Got it"), {shots.front().location}, 1}});
         paintWatch.painted = false;
         surfaces.present(ShelfPresentation::notification({360, 84}));
     };

@@ -15,8 +15,9 @@ run_packages=(qt6-image-formats-plugins qt6-qpa-plugins fonts-inter dconf-gsetti
 
 # A private desktop to run on, and real tools to take captures with and to drive it.
 desktop_packages=(
-  xvfb openbox picom dbus dbus-daemon xdotool x11-utils x11-xserver-utils
-  sway wl-clipboard xclip xsettingsd faketime hsetroot scrot imagemagick gnome-screenshot libglib2.0-bin
+  xvfb xserver-xorg-core xserver-xorg-video-dummy openbox picom at-spi2-core dbus dbus-daemon
+  xdotool x11-utils x11-xserver-utils sway wl-clipboard xclip xsettingsd faketime hsetroot
+  scrot imagemagick gnome-screenshot pcmanfm-qt libglib2.0-bin
 )
 
 # What other programs are measured against.

@@ -76,7 +76,7 @@
     </message>
 </context>
 <context>
-    <name>tembra::ShelfController</name>
+    <name>ScreenshotCommands</name>
     <message>
         <source>Couldn’t Show in Finder</source>
         <translation>Couldn’t Show in Files</translation>
@@ -90,6 +90,28 @@
             <numerusform>and %n more</numerusform>
             <numerusform>and %n more</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>tembra::ClipboardDropArea</name>
+    <message>
+        <source>Drop files here or ⌘V to paste</source>
+        <translation>Drop files here or Ctrl+V to paste</translation>
+    </message>
+</context>
+<context>
+    <name>tembra::ClipboardShelf</name>
+    <message>
+        <source>Drag or ⌘C to copy</source>
+        <translation>Drag or Ctrl+C to copy</translation>
+    </message>
+    <message>
+        <source>Show in Finder</source>
+        <translation>Show in Files</translation>
+    </message>
+    <message>
+        <source>Couldn’t Show in Finder</source>
+        <translation>Couldn’t Show in Files</translation>
     </message>
 </context>
 </TS>

@@ -74,6 +74,7 @@ std::unique_ptr<ShelfController> AppDelegate::makeShelfController() {
                                  .inputMonitor = *m_platform.inputMonitor,
                                  .panelWindows = *m_platform.panelWindows,
                                  .hotZones = *m_platform.hotZones,
+                                 .pasteboard = *m_platform.pasteboard,
                                  .thumbnails = *m_platform.thumbnails,
                                  .files = *m_platform.fileFacts,
                                  .pictures = *m_platform.pictureDecoder,

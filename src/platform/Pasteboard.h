@@ -8,6 +8,8 @@
 #include <cstdint>
 #include <vector>
 
+class QMimeData;
+
 namespace tembra {
 
 // The clipboard that programs share. Main thread.
@@ -34,6 +36,9 @@ public:
     // Grows whenever anyone, this program too, changes what is on the clipboard. Tells of every change that
     // happened before the call.
     [[nodiscard]] virtual std::int64_t changeCount() = 0;
+    // What anyone put there, in the form in which drops bring it. It belongs to the clipboard and may be gone
+    // after the next event; nothing when there is nothing.
+    [[nodiscard]] virtual const QMimeData *content() = 0;
     // Puts the items there in place of what was there: all files in their order, and the image of the last
     // item that has one. Succeeds only when other programs are really offered them.
     [[nodiscard]] virtual Result<void> writeObjects(const std::vector<Item> &items) = 0;

@@ -66,15 +66,26 @@ std::vector<ScreenshotSection> ScreenshotTimeline::sections(const std::vector<Sh
         ScreenshotSection{Kind::pinned, {}}, ScreenshotSection{Kind::today, {}},
         ScreenshotSection{Kind::yesterday, {}}, ScreenshotSection{Kind::recent, {}},
         ScreenshotSection{Kind::older, {}}};
+    // Counted first: with many thousands, growing would cost more than all the rest.
+    std::vector<std::size_t> places;
+    places.reserve(shots.size());
+    std::array<std::size_t, 5> counts{};
     for (const Shot &shot : shots) {
         const Kind kind = pinnedPaths.contains(shot.location) ? Kind::pinned : starts.kind(shot.createdAt);
-        all[static_cast<std::size_t>(kind)].shots.push_back(shot);
+        places.push_back(static_cast<std::size_t>(kind));
+        ++counts[places.back()];
     }
+    for (std::size_t place = 0; place < all.size(); ++place)
+        all[place].shots.reserve(counts[place]);
+    for (std::size_t i = 0; i < shots.size(); ++i)
+        all[places[i]].shots.push_back(shots[i]);
     std::vector<ScreenshotSection> sections;
     for (ScreenshotSection &section : all) {
         if (section.shots.empty())
             continue;
-        std::ranges::sort(section.shots, isShownBefore);
+        // A scan's shots come in this order already.
+        if (!std::ranges::is_sorted(section.shots, isShownBefore))
+            std::ranges::sort(section.shots, isShownBefore);
         sections.push_back(std::move(section));
     }
     return sections;

@@ -10,7 +10,7 @@ class FileInteraction {
 public:
     enum class State {
         idle,
-        // The button is down on a file selection.
+        // The button is down outside of the shelf.
         pressing,
         // Files were selected while the shelf is open; it waits for the pointer to come back with or without
         // them.
@@ -21,10 +21,14 @@ public:
 
     [[nodiscard]] State state() const { return m_state; }
     [[nodiscard]] bool isIdle() const { return m_state == State::idle; }
+    [[nodiscard]] bool isDragging() const { return m_state == State::dragging; }
 
-    // `onSelection`: the press is on a file selection outside of the shelf.
+    // `onSelection`: the program that was pressed is known to hold a selection of files.
     void pressed(ScreenPoint point, bool onSelection);
-    void moved(ScreenPoint point);
+    // `isOffered`: a program offers what it drags.
+    void moved(ScreenPoint point, bool isOffered);
+    // A press on the shelf itself.
+    void pressedShelf() { m_state = State::idle; }
     void released(bool shelfIsOpen);
     // The pointer is back at the shelf.
     void pickedUp();
@@ -32,6 +36,7 @@ public:
 private:
     State m_state = State::idle;
     ScreenPoint m_pressPoint;
+    bool m_onSelection = false;
 };
 
 } // namespace tembra

@@ -77,6 +77,12 @@ void FileItemCell::configure(QString path, QString revision, QImage fallback) {
     update();
 }
 
+void FileItemCell::setTile(const FileTile &tile) {
+    const bool isSameFile = m_path == tile.path;
+    if (!isSameFile || m_revision != tile.revision)
+        configure(tile.path, tile.revision, isSameFile ? image() : QImage());
+}
+
 void FileItemCell::prepareForReuse() {
     m_generation.advance();
     m_request.reset();
@@ -139,6 +145,13 @@ void FileItemCell::setCurrent(bool current) {
     assign(m_current, current);
 }
 
+void FileItemCell::setOpacity(qreal opacity) {
+    if (m_opacity == opacity)
+        return;
+    m_opacity = opacity;
+    update();
+}
+
 bool FileItemCell::event(QEvent *event) {
     const bool mayHaveMoved = event->type() == QEvent::ScreenChangeInternal || event->type() == QEvent::Show;
     if (mayHaveMoved && !m_path.isEmpty() && m_requestedScale != devicePixelRatioF())
@@ -152,6 +165,7 @@ void FileItemCell::paintEvent(QPaintEvent *) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(bleed, bleed);
+    painter.setOpacity(m_opacity);
     paintSelection(painter);
     paintPicture(painter);
     if (m_showsFileName)
@@ -178,10 +192,14 @@ void FileItemCell::paintSelection(QPainter &painter) const {
     }
 }
 
-void FileItemCell::paintPicture(QPainter &painter) const {
+void FileItemCell::paintKindIcon(QPainter &painter) {
+    drawFileKindIcon(painter, m_path, iconFrame);
+}
+
+void FileItemCell::paintPicture(QPainter &painter) {
     const QImage picture = image();
     if (picture.isNull())
-        drawFileKindIcon(painter, m_path, iconFrame);
+        paintKindIcon(painter);
     else
         ScreenshotPreviewImageView::draw(painter, ScreenshotPreviewImageView::fitted(picture, iconFrame),
                                          picture);

@@ -4,6 +4,7 @@
 #include "platform/Thumbnails.h"
 #include "shelf/FilePresentation.h"
 #include "shelf/FileThumbnail.h"
+#include "shelf/FileTile.h"
 
 #include <QPropertyAnimation>
 #include <QStringList>
@@ -27,6 +28,8 @@ public:
 
     // Shows the file: its picture from the cache, else the fallback or an icon until the picture is there.
     void configure(QString path, QString revision, QImage fallback = {});
+    // Shows the tile; a file that changed keeps its old picture until the new one is there.
+    virtual void setTile(const FileTile &tile);
     // Forgets the file and takes back the request for its picture.
     void prepareForReuse();
     // Where the tile lies in its parent; with `moves` it goes there from where it is, unless motion is
@@ -52,12 +55,15 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     // Draws what lies over the picture, in the tile's coordinates.
     virtual void paintBadges(QPainter &painter);
+    // Draws what stands for the file until there is a picture.
+    virtual void paintKindIcon(QPainter &painter);
+    void setOpacity(qreal opacity);
 
 private:
     void requestThumbnail();
     void receive(const QString &key, const Result<Thumbnails::Thumbnail> &thumbnail);
     void paintSelection(QPainter &painter) const;
-    void paintPicture(QPainter &painter) const;
+    void paintPicture(QPainter &painter);
     void paintName(QPainter &painter) const;
     void assign(bool &state, bool value);
 
@@ -76,6 +82,7 @@ private:
     bool m_selected = false;
     bool m_highlighted = false;
     bool m_current = false;
+    qreal m_opacity = 1;
 };
 
 } // namespace tembra

@@ -71,6 +71,9 @@ bool HoverController::decide(const HoverSnapshot &now, ScreenPoint pointer, bool
             return true;
         m_suppressHoverUntilExit = false;
     }
+    // Who drags cannot click, so a file that is brought opens the shelf in every mode.
+    if (m_interaction.isDragging() && !now.expanded && now.isNearActivationArea(pointer))
+        return decideInside(now, pointer);
     // A shelf opened by hand is closed by hand.
     if (now.activationMode != ActivationMode::hover || m_manuallyOpened)
         return true;
@@ -161,7 +164,10 @@ void HoverController::receiveMouseEvent(const InputMonitor::Event &event) {
     const HoverSnapshot now = snapshot();
     switch (event.kind) {
     case InputMonitor::Kind::leftDown:
-        m_interaction.pressed(event.point, !event.local && !now.keepsOpen(event.point) && hasFileSelection());
+        if (event.local || now.keepsOpen(event.point))
+            m_interaction.pressedShelf();
+        else
+            m_interaction.pressed(event.point, hasFileSelection());
         if (now.activationMode == ActivationMode::click && onActivationClick &&
             (now.expanded ? now.contains(event.point, now.notch) : now.isInActivationArea(event.point)))
             onActivationClick();
@@ -170,8 +176,8 @@ void HoverController::receiveMouseEvent(const InputMonitor::Event &event) {
         m_interaction.released(now.expanded);
         break;
     case InputMonitor::Kind::leftDragged:
-        m_interaction.moved(event.point);
-        if (m_interaction.state() != FileInteraction::State::dragging)
+        m_interaction.moved(event.point, m_inputMonitor.isForeignDragOffered());
+        if (!m_interaction.isDragging())
             return;
         break;
     case InputMonitor::Kind::rightDown:

@@ -38,6 +38,8 @@ public:
 
     // An open made by the user: the shelf stays open until the user closes it.
     void openManually();
+    // Files are being dragged from another program.
+    [[nodiscard]] bool isDraggingFiles() const { return m_interaction.isDragging(); }
     // The owner reports that the shelf has closed.
     void didCollapse();
     void activeSpaceChanged();

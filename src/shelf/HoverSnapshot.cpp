@@ -4,15 +4,29 @@
 
 namespace tembra {
 
+double HoverSnapshot::tolerance() const {
+    return 1 / std::max(scale, 1.0);
+}
+
 bool HoverSnapshot::contains(ScreenPoint point, const ScreenRect &rect) const {
-    return rect.widened(1 / std::max(scale, 1.0)).contains(point);
+    return rect.widened(tolerance()).contains(point);
+}
+
+bool HoverSnapshot::isWithinReach(ScreenPoint point, double reach) const {
+    if (activationNotches.empty())
+        return notch.widened(reach).contains(point);
+    return std::ranges::any_of(activationNotches, [point, reach](const ScreenRect &area) {
+        return area.widened(reach).contains(point);
+    });
 }
 
 bool HoverSnapshot::isInActivationArea(ScreenPoint point) const {
-    if (activationNotches.empty())
-        return contains(point, notch);
-    return std::ranges::any_of(activationNotches,
-                               [&](const ScreenRect &area) { return contains(point, area); });
+    return isWithinReach(point, tolerance());
+}
+
+bool HoverSnapshot::isNearActivationArea(ScreenPoint point) const {
+    constexpr double reach = 24;
+    return isWithinReach(point, reach);
 }
 
 bool HoverSnapshot::containsPanel(ScreenPoint point, const ScreenRect &rect) const {

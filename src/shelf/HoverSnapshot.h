@@ -34,8 +34,14 @@ struct HoverSnapshot {
     // All tests widen the rectangle by one device pixel; an empty one contains nothing.
     [[nodiscard]] bool contains(ScreenPoint point, const ScreenRect &rect) const;
     [[nodiscard]] bool isInActivationArea(ScreenPoint point) const;
+    // So near to such an area that what is dragged there is meant for the shelf.
+    [[nodiscard]] bool isNearActivationArea(ScreenPoint point) const;
     [[nodiscard]] bool containsPanel(ScreenPoint point, const ScreenRect &rect) const;
     [[nodiscard]] bool keepsOpen(ScreenPoint point) const;
+
+private:
+    [[nodiscard]] double tolerance() const;
+    [[nodiscard]] bool isWithinReach(ScreenPoint point, double reach) const;
 };
 
 } // namespace tembra

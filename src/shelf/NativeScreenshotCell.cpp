@@ -7,6 +7,11 @@
 
 namespace tembra {
 
+void NativeScreenshotCell::setTile(const FileTile &tile) {
+    FileItemCell::setTile(tile);
+    setPinned(tile.isPinned);
+}
+
 void NativeScreenshotCell::setPinned(bool pinned) {
     if (m_pinned == pinned)
         return;

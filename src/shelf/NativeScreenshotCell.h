@@ -11,6 +11,7 @@ class NativeScreenshotCell final : public FileItemCell {
 public:
     using FileItemCell::FileItemCell;
 
+    void setTile(const FileTile &tile) override;
     void setPinned(bool pinned);
     [[nodiscard]] bool isPinned() const { return m_pinned; }
 

@@ -11,7 +11,7 @@ RubberBand::RubberBand(QWidget *parent) : QWidget(parent) {
     hide();
 }
 
-void RubberBand::begin(QPoint origin, const QSet<ScreenshotFileIdentity> &base) {
+void RubberBand::begin(QPoint origin, const QSet<FileTileID> &base) {
     m_isActive = true;
     m_origin = origin;
     m_base = base;

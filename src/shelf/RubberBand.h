@@ -1,6 +1,6 @@
 #pragma once
 
-#include "screenshots/ScreenshotFileIdentity.h"
+#include "shelf/FileTile.h"
 
 #include <QSet>
 #include <QWidget>
@@ -16,12 +16,12 @@ public:
     explicit RubberBand(QWidget *parent);
 
     // `base` is what was selected before and stays so.
-    void begin(QPoint origin, const QSet<ScreenshotFileIdentity> &base);
+    void begin(QPoint origin, const QSet<FileTileID> &base);
     void stretchTo(QPoint point);
     void end();
 
     [[nodiscard]] bool isActive() const { return m_isActive; }
-    [[nodiscard]] const QSet<ScreenshotFileIdentity> &base() const { return m_base; }
+    [[nodiscard]] const QSet<FileTileID> &base() const { return m_base; }
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -29,7 +29,7 @@ protected:
 private:
     bool m_isActive = false;
     QPoint m_origin;
-    QSet<ScreenshotFileIdentity> m_base;
+    QSet<FileTileID> m_base;
 };
 
 } // namespace tembra

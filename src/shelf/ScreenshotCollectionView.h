@@ -1,102 +1,16 @@
 #pragma once
 
-#include "shelf/RubberBand.h"
-#include "shelf/ScreenshotCellPool.h"
-#include "shelf/ScreenshotGridLayout.h"
-#include "shelf/ScreenshotGridState.h"
-#include "shelf/ScreenshotSectionHeader.h"
-#include "shelf/ScreenshotSelection.h"
-#include "shelf/TypeAhead.h"
-
-#include <QWidget>
-
-#include <optional>
+#include "shelf/FileCollectionView.h"
+#include "shelf/FilePresentation.h"
 
 namespace tembra {
 
-// The document of the screenshots tab: tiles under their titles. It is as high as all of them need, but only
-// what lies in the visible span exists as widgets.
-class ScreenshotCollectionView final : public QWidget {
+// The document of the screenshots tab.
+class ScreenshotCollectionView final : public FileCollectionView {
     Q_OBJECT
 
 public:
-    explicit ScreenshotCollectionView(const FilePresentation &presentation, QWidget *parent = nullptr);
-
-    // Shows the state; an unchanged one costs a comparison.
-    void apply(ScreenshotGridState state);
-    // Lays the document out for a viewport of this size.
-    void fit(QSize viewport);
-    // The span of the document that can be seen.
-    void setVisibleSpan(int top, int bottom);
-
-    // Found by its name from the menu.
-    Q_SLOT void selectAll();
-    void clearSelection();
-    void select(const QSet<ScreenshotFileIdentity> &identities);
-    [[nodiscard]] std::vector<Shot> selectedShots() const { return m_selection.shots(m_state); }
-
-    [[nodiscard]] const ScreenshotGridState &state() const { return m_state; }
-    [[nodiscard]] const ScreenshotGridLayout &gridLayout() const { return m_layout; }
-    [[nodiscard]] const ScreenshotCellPool &cells() const { return m_cells; }
-    // Where the keyboard is, else the first selected shot.
-    [[nodiscard]] std::optional<int> currentIndex() const;
-
-Q_SIGNALS:
-    void selectionChanged();
-    void activated(const tembra::Shot &shot);
-    void contextMenuRequested(const tembra::Shot &shot, QPoint globalPosition);
-    void backgroundMenuRequested(QPoint globalPosition);
-    // The selected shots are to be dragged out.
-    void dragRequested();
-    // The keyboard went to a place that may be out of sight.
-    void revealRequested(QRect rectangle);
-
-protected:
-    bool event(QEvent *event) override;
-    void mousePressEvent(QMouseEvent *event) override;
-    void mouseMoveEvent(QMouseEvent *event) override;
-    void mouseReleaseEvent(QMouseEvent *event) override;
-    void mouseDoubleClickEvent(QMouseEvent *event) override;
-    void leaveEvent(QEvent *event) override;
-    void contextMenuEvent(QContextMenuEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
-    void focusInEvent(QFocusEvent *event) override;
-    void focusOutEvent(QFocusEvent *event) override;
-
-private:
-    // With `moves` tiles go to their new places visibly.
-    void arrange(bool moves = false);
-    void layOut(bool moves);
-    void arrangeHeaders();
-    void updateAppearance();
-    void setHovered(std::optional<int> index);
-    void choose(int index, ScreenshotSelection::Mode mode);
-    void changed(bool didChange);
-    void moveTo(int index, bool extending);
-    [[nodiscard]] std::optional<int> target(const QKeyEvent &event) const;
-    void stretchBand(QPoint position);
-    // Whether the key was a letter of a name.
-    bool searchFor(const QKeyEvent &event);
-    [[nodiscard]] int indexAfterPage(int index, int rows) const;
-
-    ScreenshotGridState m_state;
-    ScreenshotGridLayout m_layout;
-    ScreenshotSelection m_selection;
-    ScreenshotCellPool m_cells;
-    std::vector<ScreenshotSectionHeader *> m_headers;
-    QSize m_viewport;
-    int m_visibleTop = 0;
-    int m_visibleBottom = 0;
-    std::optional<int> m_hovered;
-
-    struct Press {
-        QPoint position;
-        // The other selected shots are given up when the press ends without a drag.
-        std::optional<int> narrowsTo;
-    };
-    std::optional<Press> m_press;
-    RubberBand *m_band;
-    TypeAhead m_typeAhead;
+    explicit ScreenshotCollectionView(const FilePresentation &presentation);
 };
 
 } // namespace tembra

@@ -3,6 +3,7 @@
 #include "controls/FocusRing.h"
 #include "controls/Palette.h"
 
+#include <QDragEnterEvent>
 #include <QPainter>
 
 namespace tembra {
@@ -47,6 +48,23 @@ void ShelfButton::leaveEvent(QEvent *event) {
     QAbstractButton::leaveEvent(event);
     update();
     Q_EMIT left();
+}
+
+void ShelfButton::dragEnterEvent(QDragEnterEvent *event) {
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    Q_EMIT draggedOver();
+}
+
+void ShelfButton::dragLeaveEvent(QDragLeaveEvent *) {
+    Q_EMIT left();
+}
+
+void ShelfButton::dropEvent(QDropEvent *event) {
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    Q_EMIT left();
+    Q_EMIT dropped(event->mimeData());
 }
 
 } // namespace tembra

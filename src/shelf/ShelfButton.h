@@ -4,6 +4,8 @@
 
 #include <QAbstractButton>
 
+class QMimeData;
+
 namespace tembra {
 
 // A button of the shelf's header: an icon on a rounded field, which is filled while its tab is the active
@@ -21,11 +23,17 @@ public:
 Q_SIGNALS:
     void entered();
     void left();
+    // Something is held over it, or dropped on it.
+    void draggedOver();
+    void dropped(const QMimeData *content);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
     void enterEvent(QEnterEvent *event) override;
     void leaveEvent(QEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dragLeaveEvent(QDragLeaveEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
 
 private:
     const Icon m_icon;

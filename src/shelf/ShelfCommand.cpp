@@ -12,6 +12,8 @@ std::optional<ShelfCommand> withCtrl(int key) {
         return ShelfCommand::redo;
     case Qt::Key_C:
         return ShelfCommand::copy;
+    case Qt::Key_V:
+        return ShelfCommand::paste;
     case Qt::Key_P:
         return ShelfCommand::pin;
     case Qt::Key_F:

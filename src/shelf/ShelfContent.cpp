@@ -1,15 +1,27 @@
 #include "shelf/ShelfContent.h"
 
+#include "shelf/AccessibleShelf.h"
 #include "shelf/CaptureNotificationView.h"
+#include "shelf/ClipboardShelf.h"
 #include "shelf/FileDrag.h"
 #include "shelf/NativeScreenshotGrid.h"
 #include "shelf/ScreenshotMessageView.h"
+#include "shelf/ScreenshotTiles.h"
 #include "shelf/ShelfHeader.h"
+#include "tray/ClipboardStore.h"
+
+#include <QDragEnterEvent>
+
+#include <algorithm>
+#include <utility>
 
 namespace tembra {
 
-ShelfContent::ShelfContent(const ShelfServices &services) {
-    build(services);
+ShelfContent::ShelfContent(const ShelfServices &services, ClipboardStore &store) {
+    installAccessibleShelf();
+    build(services, store);
+    connectTray();
+    setAcceptDrops(true);
     connect(m_header, &ShelfHeader::tabClicked, this, &ShelfContent::tabClicked);
     connect(m_header, &ShelfHeader::tabHovered, this, &ShelfContent::tabHovered);
     connect(m_header, &ShelfHeader::tabLeft, this, &ShelfContent::tabLeft);
@@ -25,7 +37,7 @@ ShelfContent::ShelfContent(const ShelfServices &services) {
     connect(m_message, &ScreenshotMessageView::acted, this, &ShelfContent::messageActed);
     connect(m_grid, &NativeScreenshotGrid::selectionChanged, this, &ShelfContent::selectionChanged);
     connect(m_grid, &NativeScreenshotGrid::contextMenuRequested, this,
-            [this](const Shot &, QPoint position) { Q_EMIT contextMenuRequested(position); });
+            [this](const FileTile &, QPoint position) { Q_EMIT contextMenuRequested(position); });
     connect(m_grid, &NativeScreenshotGrid::backgroundMenuRequested, this,
             &ShelfContent::backgroundMenuRequested);
     connect(m_grid, &NativeScreenshotGrid::dragRequested, this, &ShelfContent::dragRequested);
@@ -34,48 +46,96 @@ ShelfContent::ShelfContent(const ShelfServices &services) {
 
 ShelfContent::~ShelfContent() = default;
 
-void ShelfContent::build(const ShelfServices &services) {
+void ShelfContent::build(const ShelfServices &services, ClipboardStore &store) {
     m_header = new ShelfHeader(this);
-    m_grid = new NativeScreenshotGrid({services.thumbnails, services.files, m_thumbnailCache}, this);
+    const FilePresentation presentation{services.thumbnails, services.files, m_thumbnailCache};
+    m_grid = new NativeScreenshotGrid(presentation, this);
+    m_tray = new ClipboardShelf(store, services, presentation, this);
     m_message = new ScreenshotMessageView(this);
     m_notification = new CaptureNotificationView(services.thumbnails, this);
 }
 
-void ShelfContent::apply(const State &state) {
-    m_state = state;
+void ShelfContent::connectTray() {
+    connect(m_header, &ShelfHeader::tabDraggedOver, this, &ShelfContent::tabDraggedOver);
+    connect(m_header, &ShelfHeader::droppedOnTray, this,
+            [this](const QMimeData *content) { m_tray->receiveDrop(*content); });
+    connect(m_tray, &ClipboardShelf::filesDropped, this, &ShelfContent::filesDropped);
+    connect(m_tray, &ClipboardShelf::menuRequested, this, &ShelfContent::trayMenuRequested);
+    connect(m_tray, &ClipboardShelf::dragRequested, this, &ShelfContent::dragRequested);
+    connect(m_tray, &ClipboardShelf::selectionChanged, this, &ShelfContent::selectionChanged);
+    connect(m_tray, &ClipboardShelf::failed, this, &ShelfContent::failed);
+}
+
+void ShelfContent::apply(State state) {
     const bool isNotification = state.notification.has_value();
     m_notification->setVisible(isNotification);
     m_header->setVisible(!isNotification);
-    const bool gridComesBack = !isNotification && !state.message && m_grid->isHidden();
-    m_grid->setVisible(!isNotification && !state.message);
-    m_message->setVisible(!isNotification && state.message);
-    if (isNotification)
+    if (isNotification) {
+        for (QWidget *host : tabHosts())
+            host->hide();
         return m_notification->apply(*state.notification);
+    }
+    const bool isSwitch = state.activeTab != m_activeTab;
+    if (isSwitch)
+        rememberTabResponder(m_activeTab);
+    const bool gridComesBack = m_grid->isHidden();
+    m_tabs = state.tabs;
+    m_activeTab = state.activeTab;
     m_header->apply(state.tabs, state.activeTab);
     m_header->offerUndo(state.undoName);
+    showTab(state);
+    if (isActiveWindow() && (isSwitch || (gridComesBack && m_grid->isVisible())))
+        restoreTabResponder(m_activeTab);
+}
+
+void ShelfContent::showTab(State &state) {
+    const bool isTray = m_activeTab == ShelfTab::fileTray;
+    m_grid->setVisible(!isTray && !state.message);
+    m_message->setVisible(!isTray && state.message);
+    m_tray->setVisible(isTray);
+    if (isTray) {
+        m_tray->setShowsFileNames(state.showsFileNames);
+        return m_tray->refresh();
+    }
     if (state.message) {
         // Nothing that is hidden stays selected.
         m_grid->render({});
         return m_message->apply(*state.message);
     }
-    m_grid->render({.sections = state.sections,
-                    .pinnedPaths = state.pinnedPaths,
-                    .showFileNames = state.showsFileNames,
-                    .grouped = state.isGrouped});
-    m_grid->select(state.selection);
-    if (gridComesBack && isActiveWindow())
-        m_grid->takeFocus();
+    m_grid->render(std::move(state.screenshots));
+    m_grid->select(screenshotTileIDs(state.selection));
+}
+
+std::vector<QWidget *> ShelfContent::tabHosts() const {
+    return {m_grid, m_message, m_tray};
+}
+
+QWidget *ShelfContent::tabHost(ShelfTab tab) const {
+    if (tab == ShelfTab::fileTray)
+        return m_tray;
+    return m_message->isHidden() ? static_cast<QWidget *>(m_grid) : m_message;
+}
+
+void ShelfContent::rememberTabResponder(ShelfTab tab) {
+    QWidget *focused = window()->focusWidget();
+    if (focused && tabHost(tab)->isAncestorOf(focused))
+        m_tabResponders[tab] = focused;
+}
+
+void ShelfContent::restoreTabResponder(ShelfTab tab) {
+    const QPointer<QWidget> responder = m_tabResponders[tab];
+    if (responder && responder->isVisible())
+        responder->setFocus(Qt::OtherFocusReason);
+    else
+        tabHost(tab)->setFocus(Qt::OtherFocusReason);
 }
 
 QStringList ShelfContent::selectedPaths() const {
-    return m_grid->selectedPaths();
+    return m_activeTab == ShelfTab::fileTray ? m_tray->availableSelection() : m_grid->selectedPaths();
 }
 
 void ShelfContent::takeFocus() {
-    if (m_state.message)
-        m_message->setFocus();
-    else
-        m_grid->takeFocus();
+    restoreTabResponder(m_activeTab);
 }
 
 void ShelfContent::revealSelection() {
@@ -83,18 +143,20 @@ void ShelfContent::revealSelection() {
 }
 
 void ShelfContent::dragSelected() {
+    if (m_activeTab == ShelfTab::fileTray)
+        return m_tray->dragSelected();
     dragFiles(*m_grid, m_grid->selectedPaths(), m_grid->selectedPictures());
 }
 
-std::vector<Shot> ShelfContent::selectedShots() const {
-    return m_grid->selectedShots();
+QSet<ScreenshotFileIdentity> ShelfContent::selection() const {
+    return screenshotIdentities(m_grid->selection());
 }
 
-QSet<ScreenshotFileIdentity> ShelfContent::selection() const {
-    QSet<ScreenshotFileIdentity> identities;
-    for (const Shot &shot : selectedShots())
-        identities.insert(shot.identity);
-    return identities;
+void ShelfContent::dragEnterEvent(QDragEnterEvent *event) {
+    const bool hasTray = std::ranges::find(m_tabs, ShelfTab::fileTray) != m_tabs.end();
+    if (!event->source() && hasTray && m_activeTab != ShelfTab::fileTray &&
+        ClipboardStore::canRead(*event->mimeData()))
+        Q_EMIT filesDraggedOver();
 }
 
 void ShelfContent::resizeEvent(QResizeEvent *) {
@@ -106,6 +168,7 @@ void ShelfContent::layOut() {
     const QRect below(0, ShelfHeader::height, width(), height() - ShelfHeader::height);
     m_grid->setGeometry(below);
     m_message->setGeometry(below);
+    m_tray->setGeometry(below);
     m_notification->setGeometry(rect());
 }
 

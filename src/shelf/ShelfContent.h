@@ -1,21 +1,25 @@
 #pragma once
 
-#include "screenshots/ScreenshotSection.h"
 #include "shelf/CaptureNotification.h"
+#include "shelf/FileGridState.h"
 #include "shelf/FileThumbnailCache.h"
 #include "shelf/ScreenshotMessage.h"
 #include "shelf/ShelfServices.h"
 #include "shelf/ShelfTab.h"
 
+#include <QPointer>
 #include <QSet>
 #include <QWidget>
 
+#include <map>
 #include <optional>
 #include <vector>
 
 namespace tembra {
 
 class CaptureNotificationView;
+class ClipboardShelf;
+class ClipboardStore;
 class NativeScreenshotGrid;
 class ScreenshotMessageView;
 class ShelfHeader;
@@ -33,35 +37,41 @@ public:
         ShelfTab activeTab = ShelfTab::screenshots;
         // Shown in place of the grid.
         std::optional<ScreenshotMessage> message;
-        std::vector<ScreenshotSection> sections;
-        QSet<QString> pinnedPaths;
+        FileGridState screenshots;
+        bool showsFileNames = true;
         QSet<ScreenshotFileIdentity> selection;
         // What an offered undo would reverse.
         std::optional<QString> undoName;
-        bool isGrouped = false;
-        bool showsFileNames = true;
         // Shown in place of everything else.
         std::optional<CaptureNotification> notification;
     };
 
-    explicit ShelfContent(const ShelfServices &services);
+    // The store must outlive this.
+    ShelfContent(const ShelfServices &services, ClipboardStore &store);
     ~ShelfContent() override;
 
-    void apply(const State &state);
-    [[nodiscard]] const State &state() const { return m_state; }
+    void apply(State state);
+    // Of the files of the active tab that can be reached.
     [[nodiscard]] QStringList selectedPaths() const;
-    [[nodiscard]] std::vector<Shot> selectedShots() const;
     void revealSelection();
     // Gives the keyboard to the content of the active tab.
     void takeFocus();
-    // Drags the selected screenshots out; returns when the drag has ended.
+    // Drags the selected files out; returns when the drag has ended.
     void dragSelected();
+    // Of the screenshots.
     [[nodiscard]] QSet<ScreenshotFileIdentity> selection() const;
+    [[nodiscard]] ClipboardShelf &tray() { return *m_tray; }
 
 Q_SIGNALS:
     void tabClicked(tembra::ShelfTab tab);
     void tabHovered(tembra::ShelfTab tab);
     void tabLeft(tembra::ShelfTab tab);
+    // Files from another program are held over a tab that does not take them.
+    void filesDraggedOver();
+    void filesDropped();
+    void tabDraggedOver(tembra::ShelfTab tab);
+    void trayMenuRequested(QPoint globalPosition);
+    void failed(const QString &title, const QString &message);
     // The button of the message.
     void messageActed();
     void selectionChanged();
@@ -74,21 +84,33 @@ Q_SIGNALS:
     void notificationClicked();
     // The pointer rests on it, or drags from it.
     void notificationHeld(bool isHeld);
-    void activated(const tembra::Shot &shot);
+    void activated(const tembra::FileTile &tile);
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
 
 private:
-    void build(const ShelfServices &services);
+    void build(const ShelfServices &services, ClipboardStore &store);
+    void connectTray();
     void layOut();
+    void showTab(State &state);
+    [[nodiscard]] std::vector<QWidget *> tabHosts() const;
+    // What holds the content of a tab.
+    [[nodiscard]] QWidget *tabHost(ShelfTab tab) const;
+    void rememberTabResponder(ShelfTab tab);
+    void restoreTabResponder(ShelfTab tab);
 
-    State m_state;
+    std::vector<ShelfTab> m_tabs;
+    ShelfTab m_activeTab = ShelfTab::screenshots;
     FileThumbnailCache m_thumbnailCache;
     ShelfHeader *m_header = nullptr;
     NativeScreenshotGrid *m_grid = nullptr;
+    ClipboardShelf *m_tray = nullptr;
     ScreenshotMessageView *m_message = nullptr;
     CaptureNotificationView *m_notification = nullptr;
+    // What had the keyboard last in each tab.
+    std::map<ShelfTab, QPointer<QWidget>> m_tabResponders;
 };
 
 } // namespace tembra

@@ -2,13 +2,15 @@
 
 #include "base/MainThread.h"
 #include "screenshots/ScreenshotLocationMonitor.h"
-#include "screenshots/ScreenshotTimeline.h"
 #include "session/ShelfSession.h"
 #include "settings/AppSettings.h"
 #include "shelf/ClearScreenshotsDialog.h"
+#include "shelf/ClipboardShelf.h"
 #include "shelf/FolderChooser.h"
 #include "shelf/SafetyReviewDialog.h"
+#include "shelf/ScreenshotCommands.h"
 #include "shelf/ScreenshotFolderMessage.h"
+#include "shelf/ScreenshotTiles.h"
 #include "shelf/ShelfContent.h"
 #include "shelf/ShelfSurfaces.h"
 #include "shelf/ShelfTabs.h"
@@ -16,9 +18,9 @@
 #include <QDateTime>
 #include <QMenu>
 #include <QRandomGenerator>
-#include <QTimeZone>
 
 #include <algorithm>
+#include <utility>
 
 namespace tembra {
 
@@ -32,7 +34,7 @@ constexpr QSize panelSize{744, 256};
 constexpr auto displaySettling = 200ms;
 
 // The tabs whose content there is.
-const std::vector<ShelfTab> builtTabs{ShelfTab::screenshots};
+const std::vector<ShelfTab> builtTabs{ShelfTab::screenshots, ShelfTab::fileTray};
 
 bool isShown(const std::vector<ShelfTab> &tabs, ShelfTab tab) {
     return std::ranges::find(tabs, tab) != tabs.end();
@@ -47,6 +49,8 @@ ShelfController::ShelfController(AppSettings &settings, std::unique_ptr<ShelfSes
       m_services(services),
       m_session(std::move(session)),
       m_locationMonitor(std::move(locationMonitor)),
+      m_commands(
+          std::make_unique<ScreenshotCommands>(settings, *m_session, services.workspace, services.now)),
       m_hover(services.scheduler, services.uptime, services.inputMonitor),
       m_tabHover(services.scheduler),
       m_announcer(services.scheduler),
@@ -54,7 +58,8 @@ ShelfController::ShelfController(AppSettings &settings, std::unique_ptr<ShelfSes
       m_screenshotFeedback(
           [](QStringList &phrases) { std::ranges::shuffle(phrases, *QRandomGenerator::global()); }),
       m_screenshotAutoOpen(services.isCapture) {
-    m_preview.onOpen = [this](const QStringList &paths) { openFiles(paths, QString()); };
+    m_commands->onError = [this](const QString &title, const QString &message) { onError(title, message); };
+    m_preview.onOpen = [this](const QStringList &paths) { m_commands->openFiles(paths, QString()); };
     askForFolder = askForScreenshotsFolder;
     askForSafetyReview = showSafetyReview;
     askForClearing = showClearScreenshots;
@@ -123,18 +128,30 @@ void ShelfController::stop() {
 ShelfContent &ShelfController::content() {
     if (m_content)
         return *m_content;
-    m_content = std::make_unique<ShelfContent>(m_services);
-    connect(m_content.get(), &ShelfContent::tabClicked, this, &ShelfController::activateTab);
+    m_content = std::make_unique<ShelfContent>(m_services, m_session->clipboard);
+    connect(m_content.get(), &ShelfContent::tabClicked, this, [this](ShelfTab tab) { activateTab(tab); });
+    connect(m_content.get(), &ShelfContent::tabDraggedOver, this,
+            [this](ShelfTab tab) { m_tabHover.hoverTab(tab, true); });
+    connect(m_content.get(), &ShelfContent::filesDraggedOver, this,
+            [this] { activateTab(ShelfTab::fileTray, true); });
+    // Where the user put files is where the user stays.
+    connect(m_content.get(), &ShelfContent::filesDropped, this, [this] { activateTab(ShelfTab::fileTray); });
+    connect(m_content.get(), &ShelfContent::trayMenuRequested, this,
+            [this](QPoint position) { showMenu(content().tray().contextMenu(), position); });
+    connect(m_content.get(), &ShelfContent::failed, this,
+            [this](const QString &title, const QString &message) { onError(title, message); });
     connect(m_content.get(), &ShelfContent::tabHovered, this,
             [this](ShelfTab tab) { m_tabHover.hoverTab(tab); });
     connect(m_content.get(), &ShelfContent::tabLeft, this,
             [this](ShelfTab tab) { m_tabHover.cancelTabHover(tab); });
     connect(m_content.get(), &ShelfContent::messageActed, this, &ShelfController::chooseFolder);
     connect(m_content.get(), &ShelfContent::selectionChanged, this, [this] {
-        m_session->selected = m_content->selection();
+        if (m_activeTab == ShelfTab::screenshots)
+            m_session->selected = m_content->selection();
         updatePreview();
     });
-    connect(m_content.get(), &ShelfContent::contextMenuRequested, this, &ShelfController::showScreenshotMenu);
+    connect(m_content.get(), &ShelfContent::contextMenuRequested, this,
+            [this](QPoint position) { showMenu(m_commands->menu(), position); });
     connect(m_content.get(), &ShelfContent::backgroundMenuRequested, this,
             &ShelfController::showScreenshotBackgroundMenu);
     connect(m_content.get(), &ShelfContent::settingsRequested, this,
@@ -152,7 +169,12 @@ ShelfContent &ShelfController::content() {
 void ShelfController::connectHover() {
     m_hover.snapshot = [this] { return hoverSnapshot(); };
     m_hover.mouseLocation = [this] { return m_services.inputMonitor.pointer(); };
-    m_hover.onSetExpanded = [this](bool expanded) { setExpanded(expanded); };
+    m_hover.onSetExpanded = [this](bool expanded) {
+        setExpanded(expanded);
+        // A pointer that left for the notch of another display is there already.
+        if (!expanded)
+            m_hover.requestPointerEvaluation();
+    };
     m_surfaces->onPointerActivity = [this] { m_hover.requestPointerEvaluation(); };
     m_hover.onActivationClick = [this] { toggleFromShortcut(); };
     // A press opens what hovering would open; in click mode the click is seen wherever it goes.
@@ -173,6 +195,7 @@ void ShelfController::connectSession() {
     m_session->onFolderChange = [this](FolderShelf &shelf, bool, int) { receiveFolderChange(shelf); };
     m_session->onNewFiles = [this](const std::vector<Shot> &shots) { receiveNewFiles(shots); };
     m_session->onChange = [this] { render(); };
+    m_session->clipboard.onChange = [this] { trayChanged(); };
     m_session->onBeforeRemoval = [this] { removalBegins(); };
     m_session->onError = [this](const QString &title, const QString &message) { onError(title, message); };
     m_session->isBusy = [this](bool) { return m_expanded || m_choosingFolder; };
@@ -200,6 +223,8 @@ void ShelfController::showExpanded() {
         return m_hover.didCollapse();
     m_expanded = true;
     m_announcer.dismiss();
+    if (m_hover.isDraggingFiles())
+        activateTab(ShelfTab::fileTray, true);
     // The tool's setting may have been changed since: nobody tells, so it is asked when somebody looks.
     m_locationMonitor->check();
     render();
@@ -221,6 +246,7 @@ void ShelfController::hideSurface() {
     m_expanded = false;
     m_preview.close();
     m_tabHover.cancelTabHover();
+    m_activeTab = std::exchange(m_tabBeforeDrag, std::nullopt).value_or(m_activeTab);
     m_surfaces->present(ShelfPresentation::collapsed());
     m_hover.didCollapse();
     m_announcer.flushFolderNotification();
@@ -228,7 +254,7 @@ void ShelfController::hideSurface() {
 
 void ShelfController::openManually() {
     m_hover.openManually();
-    if (m_expanded) {
+    if (m_expanded && m_surfaces->active()) {
         m_surfaces->active()->takeKeyboardFocus();
         content().takeFocus();
     }
@@ -246,9 +272,13 @@ void ShelfController::reopenFromDock() {
     openManually();
 }
 
-bool ShelfController::activateTab(ShelfTab tab) {
+bool ShelfController::activateTab(ShelfTab tab, bool duringDrag) {
     if (!isShown(tabs(), tab))
         return false;
+    if (!duringDrag)
+        m_tabBeforeDrag.reset();
+    else if (!m_tabBeforeDrag && tab != m_activeTab)
+        m_tabBeforeDrag = m_activeTab;
     m_activeTab = tab;
     render();
     return true;
@@ -298,18 +328,18 @@ void ShelfController::render() {
     if (m_undoOffer.isPending() && !undoable.isEmpty())
         state.undoName = undoable.first();
     const AppSettingsState &settings = m_settings.state();
+    state.showsFileNames = settings.showFileNames;
     state.message = screenshotFolderMessage(m_folderState.value_or(ScreenshotFolderState::none));
     if (!state.message) {
-        state.pinnedPaths = m_settings.pinnedScreenshotPaths();
-        state.sections = ScreenshotTimeline::sections(m_session->folderShelf().shots, state.pinnedPaths,
-                                                      m_services.now(), QTimeZone::systemTimeZone());
+        state.screenshots = {.sections =
+                                 screenshotTiles(m_commands->sections(), m_settings.pinnedScreenshotPaths()),
+                             .showFileNames = settings.showFileNames,
+                             .grouped = settings.groupScreenshotsByDate};
         state.selection = m_session->selected;
-        if (state.sections.empty())
+        if (state.screenshots.sections.empty())
             state.message = emptyFolderMessage();
     }
-    state.isGrouped = settings.groupScreenshotsByDate;
-    state.showsFileNames = settings.showFileNames;
-    content().apply(state);
+    content().apply(std::move(state));
 }
 
 HoverSnapshot ShelfController::hoverSnapshot() const {
@@ -318,7 +348,8 @@ HoverSnapshot ShelfController::hoverSnapshot() const {
     snapshot.expanded = m_expanded;
     snapshot.compact = !m_expanded && m_announcer.showing().has_value();
     snapshot.choosingFolder = m_choosingFolder;
-    snapshot.previewOpen = m_dragging || m_preview.isOpen() || (m_menu && m_menu->isVisible());
+    snapshot.previewOpen =
+        m_dragging || m_preview.isOpen() || (m_menu && m_menu->isVisible()) || m_surfaces->hasLostDisplay();
     snapshot.activationNotches = m_surfaces->activationNotches();
     if (const ShelfDisplayWindow *active = m_surfaces->active()) {
         snapshot.notch = active->display().activationRect();
@@ -385,44 +416,6 @@ void ShelfController::scheduleTimelineRefresh() {
     const std::chrono::milliseconds delay(local.msecsTo(midnight));
     m_timelineRefreshWork = m_services.scheduler.schedule(
         delay, [this] { refreshTimeline(); }, 1s);
-}
-
-ShelfStatus ShelfController::status() const {
-    ShelfStatus status;
-    const FolderShelf &shelf = m_session->folderShelf();
-    status.expanded = m_expanded;
-    status.tab = m_activeTab;
-    if (!m_surfaces)
-        return status;
-    if (const ShelfDisplayWindow *active = m_surfaces->active()) {
-        status.display = m_expanded ? active->display().name : QString();
-        status.frame = active->visiblePanel();
-    }
-    status.folder = m_settings.state().screenshotsFolder;
-    status.folderState = m_folderState.value_or(ScreenshotFolderState::none);
-    status.screenshotCount = static_cast<int>(shelf.shots.size());
-    const QSet<QString> pinned = m_settings.pinnedScreenshotPaths();
-    for (const ScreenshotSection &section :
-         ScreenshotTimeline::sections(shelf.shots, pinned, m_services.now(), QTimeZone::systemTimeZone())) {
-        status.sections.push_back({title(section.kind), static_cast<int>(section.shots.size())});
-        if (section.kind == ScreenshotSectionKind::pinned)
-            status.pinnedCount = static_cast<int>(section.shots.size());
-    }
-    status.selected = m_content ? m_content->selectedPaths() : QStringList();
-    if (const auto &showing = m_announcer.showing()) {
-        status.showingNotification = true;
-        status.notificationText = showing->text;
-        status.notificationDetail = showing->detail();
-        status.notificationCount = showing->captureCount;
-    }
-    status.lastCapture = m_lastCapture;
-    status.autoCleanDays = static_cast<int>(m_settings.state().screenshotAutoClean);
-    status.autoCleanReview = static_cast<int>(m_session->autoCleanReview());
-    status.nextAutoCleanCheck = m_session->timeToAutoCleanCheck();
-    status.undo = m_session->screenshotUndoManager.undoNames();
-    status.redo = m_session->screenshotUndoManager.redoNames();
-    status.trayCount = static_cast<int>(m_session->clipboard.entries().size());
-    return status;
 }
 
 } // namespace tembra

@@ -36,6 +36,7 @@ namespace tembra {
 class AppSettings;
 struct AppSettingsState;
 struct FolderShelf;
+class ScreenshotCommands;
 class ScreenshotLocationMonitor;
 class ShelfContent;
 class ShelfSession;
@@ -79,8 +80,9 @@ public:
     void openManually();
     void toggleFromShortcut();
     void reopenFromDock();
-    // Whether the tab is shown.
-    bool activateTab(ShelfTab tab);
+    // Whether the tab is shown. One that was activated for a drag gives way again to the one before when the
+    // shelf closes.
+    bool activateTab(ShelfTab tab, bool duringDrag = false);
 
     void chooseFolder();
     // Makes the folder the one that is shown; `adopting` leaves the screenshot tool's own setting as it is,
@@ -88,16 +90,9 @@ public:
     Result<void> acceptScreenshotFolder(const QString &folder, bool adopting);
     [[nodiscard]] QString suggestedScreenshotFolder() const;
 
-    // On the selected screenshots.
-    void copySelectedScreenshots();
-    void toggleSelectedScreenshotPins();
-    void revealSelectedScreenshots();
-    void openScreenshotsWith(const QString &applicationIdentifier);
-    // Those that are not pinned.
-    void trashSelected();
-    // Shows the selected ones large, or not any more.
+    // Shows the selected files large, or not any more.
     void togglePreview();
-    // All of them, after a question.
+    // All screenshots, after a question.
     void clearScreenshots();
     void revealFolder();
     // The last removal or restore.
@@ -136,14 +131,12 @@ private:
     void cancel();
     bool handleShelfKey(const QKeyEvent &event);
     void perform(ShelfCommand command);
-    [[nodiscard]] std::vector<Shot> removableSelectedShots() const;
-    [[nodiscard]] std::vector<Shot> removable(const std::vector<Shot> &shots) const;
     void dragSelected();
+    void performInTray(ShelfCommand command);
+    void pasteIntoTray();
+    void trayChanged();
     void updatePreview();
     [[nodiscard]] QRectF previewArea() const;
-    // In the default application when the identifier is empty.
-    void openFiles(const QStringList &paths, const QString &applicationIdentifier);
-    void showScreenshotMenu(QPoint globalPosition);
     void showScreenshotBackgroundMenu(QPoint globalPosition);
     void installActiveStatusMenu();
     [[nodiscard]] StatusMenuActions statusMenuActions();
@@ -165,6 +158,7 @@ private:
     ShelfServices m_services;
     std::unique_ptr<ShelfSession> m_session;
     std::unique_ptr<ScreenshotLocationMonitor> m_locationMonitor;
+    std::unique_ptr<ScreenshotCommands> m_commands;
     // The surfaces show the content, so they go first.
     std::unique_ptr<ShelfContent> m_content;
     std::unique_ptr<ShelfSurfaces> m_surfaces;
@@ -183,6 +177,8 @@ private:
     std::unique_ptr<QMenu> m_menu;
     std::unique_ptr<StatusItem> m_statusItem;
     ShelfTab m_activeTab = ShelfTab::screenshots;
+    // The one to go back to after a drag.
+    std::optional<ShelfTab> m_tabBeforeDrag;
     std::optional<ScreenshotDestination> m_destination;
     std::optional<ScreenshotFolderState> m_folderState;
     std::optional<ShelfStatus::Capture> m_lastCapture;

@@ -1,7 +1,9 @@
-// What keys and menus do to the selected screenshots.
+// What keys and menus do.
 
 #include "session/ShelfSession.h"
 #include "settings/AppSettings.h"
+#include "shelf/ClipboardShelf.h"
+#include "shelf/ScreenshotCommands.h"
 #include "shelf/ScreenshotMenu.h"
 #include "shelf/ShelfContent.h"
 #include "shelf/ShelfController.h"
@@ -9,9 +11,6 @@
 #include "shelf/StatusMenu.h"
 
 #include <QMenu>
-
-#include <algorithm>
-#include <iterator>
 
 namespace tembra {
 
@@ -24,11 +23,16 @@ constexpr std::chrono::seconds undoOfferDuration{10};
 
 bool ShelfController::handleShelfKey(const QKeyEvent &event) {
     const auto command = shelfCommand(event);
-    if (!command || !m_expanded || m_activeTab != ShelfTab::screenshots || !m_content)
+    if (!command || !m_expanded || !m_content)
         return false;
+    if (m_activeTab == ShelfTab::fileTray) {
+        performInTray(*command);
+        return true;
+    }
     // What is not seen is not acted on.
-    const bool needsSelection = *command != ShelfCommand::undo && *command != ShelfCommand::redo;
-    if (needsSelection && m_folderState != ScreenshotFolderState::ready)
+    const bool actsOnSelection =
+        *command != ShelfCommand::undo && *command != ShelfCommand::redo && *command != ShelfCommand::paste;
+    if (actsOnSelection && m_folderState != ScreenshotFolderState::ready)
         return false;
     perform(*command);
     return true;
@@ -41,16 +45,53 @@ void ShelfController::perform(ShelfCommand command) {
     case ShelfCommand::redo:
         return redo();
     case ShelfCommand::copy:
-        return copySelectedScreenshots();
+        return m_commands->copySelectedScreenshots();
+    case ShelfCommand::paste:
+        return pasteIntoTray();
     case ShelfCommand::pin:
-        return toggleSelectedScreenshotPins();
+        return m_commands->toggleSelectedScreenshotPins();
     case ShelfCommand::reveal:
-        return revealSelectedScreenshots();
+        return m_commands->revealSelectedScreenshots();
     case ShelfCommand::remove:
-        return trashSelected();
+        return m_commands->trashSelected();
     case ShelfCommand::preview:
         return togglePreview();
     }
+}
+
+void ShelfController::performInTray(ShelfCommand command) {
+    ClipboardShelf &tray = content().tray();
+    switch (command) {
+    case ShelfCommand::undo:
+        return undo();
+    case ShelfCommand::redo:
+        return redo();
+    case ShelfCommand::copy:
+        return tray.copySelected();
+    case ShelfCommand::paste:
+        return pasteIntoTray();
+    case ShelfCommand::reveal:
+        return tray.revealSelected();
+    case ShelfCommand::remove:
+        return tray.removeSelected();
+    case ShelfCommand::preview:
+        return togglePreview();
+    case ShelfCommand::pin:
+        return;
+    }
+}
+
+// What is pasted anywhere in the shelf is kept in the tray.
+void ShelfController::pasteIntoTray() {
+    if (activateTab(ShelfTab::fileTray))
+        content().tray().paste();
+}
+
+void ShelfController::trayChanged() {
+    if (!m_expanded || m_activeTab != ShelfTab::fileTray || !m_content)
+        return;
+    content().tray().refresh();
+    updatePreview();
 }
 
 void ShelfController::undo() {
@@ -69,67 +110,21 @@ void ShelfController::redo() {
     m_session->redo();
 }
 
-void ShelfController::copySelectedScreenshots() {
-    m_session->copyScreenshots(content().selectedShots());
-}
-
-// Pins them all unless all of them are pinned.
-void ShelfController::toggleSelectedScreenshotPins() {
-    const QStringList paths = content().selectedPaths();
-    const QSet<QString> pinned = m_settings.pinnedScreenshotPaths();
-    const bool pins =
-        std::ranges::any_of(paths, [&pinned](const QString &path) { return !pinned.contains(path); });
-    if (const auto changed = m_settings.setScreenshotsPinned(paths, pins); !changed)
-        onError(tr("Couldn’t Pin Screenshots"), changed.error().message);
-}
-
-void ShelfController::revealSelectedScreenshots() {
-    const QStringList paths = content().selectedPaths();
-    if (paths.isEmpty())
-        return;
-    if (const auto revealed = m_services.workspace.reveal(paths); !revealed)
-        onError(tr("Couldn’t Show in Finder"), revealed.error().message);
-}
-
-std::vector<Shot> ShelfController::removable(const std::vector<Shot> &shots) const {
-    const QSet<QString> pinned = m_settings.pinnedScreenshotPaths();
-    std::vector<Shot> removable;
-    std::ranges::copy_if(shots, std::back_inserter(removable),
-                         [&pinned](const Shot &shot) { return !pinned.contains(shot.location); });
-    return removable;
-}
-
-std::vector<Shot> ShelfController::removableSelectedShots() const {
-    return removable(m_content->selectedShots());
-}
-
-void ShelfController::openScreenshotsWith(const QString &applicationIdentifier) {
-    openFiles(content().selectedPaths(), applicationIdentifier);
-}
-
-void ShelfController::openFiles(const QStringList &paths, const QString &applicationIdentifier) {
-    const auto opened = m_services.workspace.open(paths, applicationIdentifier);
-    if (!opened)
-        onError(tr("Couldn’t Open Files"), opened.error().message);
-}
-
 void ShelfController::revealFolder() {
-    const auto &folder = m_settings.state().screenshotsFolder;
-    if (!folder)
-        return chooseFolder();
-    if (const auto opened = m_services.workspace.openFolder(*folder); !opened)
-        onError(tr("Couldn’t Open Folder"), opened.error().message);
+    if (const auto &folder = m_settings.state().screenshotsFolder)
+        m_commands->openFolder(*folder);
+    else
+        chooseFolder();
 }
 
 void ShelfController::clearScreenshots() {
-    const std::vector<Shot> &shots = m_session->folderShelf().shots;
-    const auto count = static_cast<int>(removable(shots).size());
+    const auto count = static_cast<int>(m_commands->removableShots().size());
     if (count == 0)
         return;
     // The panel is above every other window, also above the question.
     collapse();
-    askForClearing(count, static_cast<int>(shots.size()) - count,
-                   [this] { m_session->removeScreenshots(removable(m_session->folderShelf().shots)); });
+    askForClearing(count, static_cast<int>(m_session->folderShelf().shots.size()) - count,
+                   [this] { m_session->removeScreenshots(m_commands->removableShots()); });
 }
 
 // The drag needs the window it began in until it ends.
@@ -140,23 +135,9 @@ void ShelfController::dragSelected() {
     m_hover.requestPointerEvaluation();
 }
 
-void ShelfController::showScreenshotMenu(QPoint globalPosition) {
-    const QStringList paths = content().selectedPaths();
-    const auto count = static_cast<int>(paths.size());
-    const ScreenshotMenuState state{.selectedCount = count,
-                                    .pinnedCount = count - static_cast<int>(removableSelectedShots().size()),
-                                    .applications = m_services.workspace.applicationsFor(paths)};
-    showMenu(screenshotMenu(state, {.copy = [this] { copySelectedScreenshots(); },
-                                    .openWith = [this](const QString &id) { openScreenshotsWith(id); },
-                                    .reveal = [this] { revealSelectedScreenshots(); },
-                                    .togglePins = [this] { toggleSelectedScreenshotPins(); },
-                                    .trash = [this] { trashSelected(); }}),
-             globalPosition);
-}
-
 void ShelfController::showScreenshotBackgroundMenu(QPoint globalPosition) {
     ScreenshotBackgroundMenuActions actions{.openFolder = [this] { revealFolder(); }};
-    if (!removable(m_session->folderShelf().shots).empty())
+    if (!m_commands->removableShots().empty())
         actions.clear = [this] { clearScreenshots(); };
     showMenu(screenshotBackgroundMenu(actions), globalPosition);
 }
@@ -202,10 +183,6 @@ QRectF ShelfController::previewArea() const {
     const ScreenRect &screen = active->display().screenFrame;
     const QRectF display(screen.x, screen.y, screen.width, screen.height);
     return display.adjusted(margin, targetPanelHeight() + margin, -margin, -margin);
-}
-
-void ShelfController::trashSelected() {
-    m_session->removeScreenshots(removableSelectedShots());
 }
 
 } // namespace tembra

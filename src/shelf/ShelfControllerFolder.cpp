@@ -29,10 +29,13 @@ void ShelfController::rereadDestination() {
 }
 
 void ShelfController::receiveDestination(const ScreenshotDestination &destination) {
+    const bool isNew = m_destination != destination;
     m_destination = destination;
     if (onDestinationRead)
         onDestinationRead(destination);
-    updateFolderState();
+    // It is read again at each opening.
+    if (isNew)
+        updateFolderState();
 }
 
 ScreenshotFolderFacts ShelfController::folderFacts() const {

@@ -15,7 +15,9 @@ std::optional<ShelfDisplay> ShelfDisplaySelection::opening(const std::vector<She
         return display.activationRect().widened(1 / std::max(display.scale, 1.0)).contains(pointer);
     };
     const auto isOnScreen = [pointer](const ShelfDisplay &display) {
-        return display.screenFrame.contains(pointer);
+        // Displays side by side share an edge, which belongs to the one that begins there.
+        const ScreenRect &frame = display.screenFrame;
+        return frame.contains(pointer) && pointer.x < frame.right() && pointer.y < frame.bottom();
     };
     auto found = std::ranges::find_if(displays, isAtNotch);
     if (found == displays.end())

@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QRegion>
 
+#include <algorithm>
 #include <cmath>
 
 namespace tembra {
@@ -17,9 +18,21 @@ namespace {
 
 // The window is as large as the largest panel, so that it need not change while the panel grows in it.
 constexpr QSize largestPanel{744, 256};
-// A pointer this close to the panel still counts as in it; the window must hear it leave. Edges count as
-// well, so it is a point more to the right and below.
+// A pointer this close still counts as in a notch or the panel.
 constexpr int pointerTolerance = 1;
+// Motion that begins at rest begins one frame ahead: its first frame is to show something.
+constexpr SpringMotion::Time headStart{0.016};
+
+// Where the pointer counts as in the rectangle, so that it is heard to leave where it does not any more.
+// Edges count as well, which makes it a point more to the right and below.
+ScreenRect withTolerance(const ScreenRect &rect) {
+    constexpr int more = 2 * pointerTolerance + 1;
+    return {rect.x - pointerTolerance, rect.y - pointerTolerance, rect.width + more, rect.height + more};
+}
+
+int displayWidth(const ShelfDisplay &display) {
+    return static_cast<int>(display.screenFrame.width);
+}
 
 // The panel's outline as the shape of its window.
 QBitmap outline(const QSize &window, const QRectF &body) {
@@ -35,9 +48,10 @@ QBitmap outline(const QSize &window, const QRectF &body) {
 ShelfDisplayWindow::ShelfDisplayWindow(const ShelfDisplay &display, const ShelfServices &services)
     : m_services(services),
       m_display(display),
-      m_zone(services.hotZones.add(display.activationRect(), {.onEnter = [this] { onPointerActivity(); },
-                                                              .onLeave = [this] { onPointerActivity(); },
-                                                              .onPress = [this] { onActivationPressed(); }})),
+      m_zone(services.hotZones.add(withTolerance(display.activationRect()),
+                                   {.onEnter = [this] { onPointerActivity(); },
+                                    .onLeave = [this] { onPointerActivity(); },
+                                    .onPress = [this] { onActivationPressed(); }})),
       m_width(display.activationRect().width) {
     m_animation.setStartValue(0.0);
     m_animation.setEndValue(1.0);
@@ -70,7 +84,8 @@ void ShelfDisplayWindow::makePanel() {
 
 void ShelfDisplayWindow::placePanel() {
     const QSize largest = largestPanel.expandedTo(m_presentation.size);
-    const QSize canvas(largest.width() + 2 * ShelfShadow::reach,
+    // Nothing of it, not even its shadow, falls on the display beside.
+    const QSize canvas(std::min(largest.width() + 2 * ShelfShadow::reach, displayWidth(m_display)),
                        largest.height() + ShelfShadow::reach + ShelfShadow::drop);
     const ScreenRect frame = hangingFromEdge(canvas);
     m_panel->setGeometry(static_cast<int>(std::lround(frame.x)), static_cast<int>(std::lround(frame.y)),
@@ -82,12 +97,9 @@ void ShelfDisplayWindow::setDisplay(const ShelfDisplay &display) {
     if (display == m_display)
         return;
     m_display = display;
-    m_zone->setRect(display.activationRect());
-    if (!m_panel)
-        return;
-    placePanel();
-    placeBody();
-    updateInputRegion();
+    m_zone->setRect(withTolerance(display.activationRect()));
+    if (m_panel)
+        present(m_presentation, false);
 }
 
 void ShelfDisplayWindow::setContent(QWidget &content) {
@@ -106,13 +118,15 @@ void ShelfDisplayWindow::present(const ShelfPresentation &presentation, bool isA
     if (!m_panel)
         makePanel();
     const auto now = elapsed();
+    m_headStart = m_animation.state() == QAbstractAnimation::Running ? SpringMotion::Time::zero() : headStart;
+    m_isComposited = m_services.workspace.isComposited();
     m_presentation = presentation;
     m_width.retarget(restingSize().width(), now);
     m_height.retarget(restingSize().height(), now);
     m_animation.stop();
     placePanel();
     if (hasContent() && presentation.kind != ShelfPresentation::Kind::collapsed)
-        m_content->resize(presentation.size);
+        m_content->resize(presentedSize());
     updateInputRegion();
     if (isAnimated && !motion::isReduced(*m_panel)) {
         m_animation.start();
@@ -132,13 +146,12 @@ void ShelfDisplayWindow::placeBody() {
     const double halfWidth = std::round(size.width() / 2);
     const QRectF body(std::floor(m_root->width() / 2.0) - halfWidth, 0, 2 * halfWidth,
                       std::round(size.height()));
-    const bool isComposited = m_services.workspace.isComposited();
-    m_root->setBody(body, isComposited);
+    m_root->setBody(body, m_isComposited);
     m_viewport->setGeometry(body.toRect());
     if (hasContent())
         m_content->move((m_viewport->width() - m_content->width()) / 2, 0);
     // Without a compositor what is not the panel would be black.
-    if (isComposited)
+    if (m_isComposited)
         m_panel->clearMask();
     else
         m_panel->setMask(outline(m_root->size(), body));
@@ -147,11 +160,19 @@ void ShelfDisplayWindow::placeBody() {
 void ShelfDisplayWindow::updateInputRegion() {
     QRegion region;
     if (m_presentation.kind != ShelfPresentation::Kind::collapsed) {
-        const QSize size = m_presentation.size;
+        const QSize size = presentedSize();
         const QRect body((m_root->width() - size.width()) / 2, 0, size.width(), size.height());
         region = body.adjusted(-pointerTolerance, 0, pointerTolerance + 1, pointerTolerance + 1);
     }
     m_services.panelWindows.setInputRegion(*m_panel, region);
+    // A window with a shape of its own takes no pointer outside of it.
+    if (region.isEmpty() || m_services.workspace.isComposited())
+        m_margin.reset();
+    else
+        m_margin = m_services.hotZones.add(withTolerance(interactionPanel()),
+                                           {.onEnter = [this] { onPointerActivity(); },
+                                            .onLeave = [this] { onPointerActivity(); },
+                                            .onPress = {}});
 }
 
 void ShelfDisplayWindow::settle() {
@@ -170,16 +191,29 @@ void ShelfDisplayWindow::takeKeyboardFocus() {
         m_services.panelWindows.takeKeyboardFocus(*m_panel);
 }
 
+bool ShelfDisplayWindow::hasKeyboardFocus() const {
+    return m_panel && m_panel->isActiveWindow();
+}
+
 void ShelfDisplayWindow::compositingChanged() {
-    if (m_panel)
-        placeBody();
+    m_isComposited = m_services.workspace.isComposited();
+    if (!m_panel)
+        return;
+    placeBody();
+    updateInputRegion();
 }
 
 // The collapsed panel is as wide as the notch and has no height.
 QSizeF ShelfDisplayWindow::restingSize() const {
     if (m_presentation.kind == ShelfPresentation::Kind::collapsed)
         return {m_display.activationRect().width, 0};
-    return m_presentation.size;
+    return presentedSize();
+}
+
+// With room for the corners in which it runs out along the edge.
+QSize ShelfDisplayWindow::presentedSize() const {
+    const int room = displayWidth(m_display) - 2 * static_cast<int>(ShelfPanelShape::topRadius);
+    return {std::min(m_presentation.size.width(), room), m_presentation.size.height()};
 }
 
 QSizeF ShelfDisplayWindow::bodySize() const {
@@ -190,7 +224,7 @@ QSizeF ShelfDisplayWindow::bodySize() const {
 SpringMotion::Time ShelfDisplayWindow::elapsed() const {
     if (m_animation.state() != QAbstractAnimation::Running)
         return SpringMotion::settling;
-    return std::chrono::milliseconds(m_animation.currentTime());
+    return m_headStart + std::chrono::milliseconds(m_animation.currentTime());
 }
 
 ScreenRect ShelfDisplayWindow::hangingFromEdge(const QSizeF &size) const {

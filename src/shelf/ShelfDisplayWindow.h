@@ -43,6 +43,7 @@ public:
     // `isAnimated` false goes there at once.
     void present(const ShelfPresentation &presentation, bool isAnimated = true);
     void takeKeyboardFocus();
+    [[nodiscard]] bool hasKeyboardFocus() const;
     // After a compositor came or went.
     void compositingChanged();
 
@@ -59,6 +60,8 @@ private:
     void placePanel();
     void placeBody();
     void updateInputRegion();
+    // What is presented, within the display.
+    [[nodiscard]] QSize presentedSize() const;
     void settle();
     [[nodiscard]] QSizeF restingSize() const;
     [[nodiscard]] QSizeF bodySize() const;
@@ -69,6 +72,8 @@ private:
     ShelfDisplay m_display;
     ShelfPresentation m_presentation;
     std::unique_ptr<HotZones::Zone> m_zone;
+    // Around a panel whose window ends where the panel does.
+    std::unique_ptr<HotZones::Zone> m_margin;
     std::unique_ptr<ShelfPanel> m_panel;
     ShelfView *m_root = nullptr;
     QWidget *m_viewport = nullptr;
@@ -76,6 +81,10 @@ private:
     SpringMotion m_width;
     SpringMotion m_height;
     QVariantAnimation m_animation;
+    // How far the motion was when the animation began.
+    SpringMotion::Time m_headStart{};
+    // Asking costs a round trip to the display: not for each frame.
+    bool m_isComposited = true;
 };
 
 } // namespace tembra

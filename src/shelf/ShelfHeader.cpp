@@ -97,6 +97,11 @@ void ShelfHeader::build() {
         connect(button, &ShelfButton::entered, this, [this, tab] { Q_EMIT tabHovered(tab); });
         connect(button, &ShelfButton::left, this, [this, tab] { Q_EMIT tabLeft(tab); });
         m_buttons.push_back(button);
+        if (tab != ShelfTab::fileTray)
+            continue;
+        button->setAcceptDrops(true);
+        connect(button, &ShelfButton::draggedOver, this, [this, tab] { Q_EMIT tabDraggedOver(tab); });
+        connect(button, &ShelfButton::dropped, this, &ShelfHeader::droppedOnTray);
     }
     update();
 }

@@ -7,6 +7,8 @@
 #include <optional>
 #include <vector>
 
+class QMimeData;
+
 namespace tembra {
 
 class ShelfButton;
@@ -28,6 +30,9 @@ public:
 Q_SIGNALS:
     void tabClicked(tembra::ShelfTab tab);
     void tabHovered(tembra::ShelfTab tab);
+    // Something is held over the tab's button, or dropped on it.
+    void tabDraggedOver(tembra::ShelfTab tab);
+    void droppedOnTray(const QMimeData *content);
     void tabLeft(tembra::ShelfTab tab);
     void undoClicked();
     // Where a menu of the button is to open.

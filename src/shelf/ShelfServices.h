@@ -8,6 +8,7 @@
 #include "platform/HotZones.h"
 #include "platform/InputMonitor.h"
 #include "platform/PanelWindows.h"
+#include "platform/Pasteboard.h"
 #include "platform/PictureDecoder.h"
 #include "platform/Thumbnails.h"
 #include "platform/Workspace.h"
@@ -26,6 +27,7 @@ struct ShelfServices {
     InputMonitor &inputMonitor;
     PanelWindows &panelWindows;
     HotZones &hotZones;
+    Pasteboard &pasteboard;
     Thumbnails &thumbnails;
     const FileFactsReader &files;
     const PictureDecoder &pictures;

@@ -1,8 +1,20 @@
 #include "shelf/ShelfSurfaces.h"
 
+#include <QApplication>
+#include <QPointer>
+#include <QWidget>
+
 #include <algorithm>
 
 namespace tembra {
+
+namespace {
+
+bool contains(const std::vector<ShelfDisplay> &displays, std::uint32_t identifier) {
+    return std::ranges::find(displays, identifier, &ShelfDisplay::identifier) != displays.end();
+}
+
+} // namespace
 
 ShelfSurfaces::ShelfSurfaces(const ShelfServices &services, std::function<QWidget &()> content)
     : m_services(services), m_content(std::move(content)) {}
@@ -12,7 +24,6 @@ ShelfSurfaces::~ShelfSurfaces() = default;
 void ShelfSurfaces::reconcileDisplayWindows(DisplayPreference preference) {
     const auto displays =
         ShelfDisplaySelection::admitted(ShelfDisplay::connected(m_services.displays), preference);
-    removeVanished(displays);
     for (const ShelfDisplay &display : displays) {
         const auto found = m_windows.find(display.identifier);
         if (found == m_windows.end())
@@ -20,16 +31,26 @@ void ShelfSurfaces::reconcileDisplayWindows(DisplayPreference preference) {
         else
             found->second->setDisplay(display);
     }
-    if (!m_active && !displays.empty() && m_presentation.kind != ShelfPresentation::Kind::collapsed) {
-        transferContent(*m_windows.at(displays.front().identifier));
-        m_active->present(m_presentation, false);
-    }
+    const bool mustMove = !m_active || !contains(displays, m_active->display().identifier);
+    if (mustMove && !displays.empty() && m_presentation.kind != ShelfPresentation::Kind::collapsed)
+        moveTo(*m_windows.at(displays.front().identifier));
+    removeVanished(displays);
+}
+
+void ShelfSurfaces::moveTo(ShelfDisplayWindow &window) {
+    const bool hadKeyboard = m_active && m_active->hasKeyboardFocus();
+    const QPointer<QWidget> focused = hadKeyboard ? QApplication::focusWidget() : nullptr;
+    transferContent(window);
+    window.present(m_presentation, false);
+    if (hadKeyboard)
+        window.takeKeyboardFocus();
+    if (focused)
+        focused->setFocus();
 }
 
 void ShelfSurfaces::removeVanished(const std::vector<ShelfDisplay> &displays) {
     std::erase_if(m_windows, [&](const auto &entry) {
-        const bool remains = std::ranges::any_of(
-            displays, [&entry](const ShelfDisplay &display) { return display.identifier == entry.first; });
+        const bool remains = contains(displays, entry.first);
         if (!remains && m_active == entry.second.get())
             m_active = nullptr;
         return !remains;
@@ -78,6 +99,11 @@ void ShelfSurfaces::present(const ShelfPresentation &presentation) {
     m_presentation = presentation;
     if (m_active)
         m_active->present(presentation);
+}
+
+bool ShelfSurfaces::hasLostDisplay() const {
+    return m_active &&
+           !contains(ShelfDisplay::connected(m_services.displays), m_active->display().identifier);
 }
 
 std::vector<ScreenRect> ShelfSurfaces::activationNotches() const {

@@ -43,12 +43,16 @@ public:
     void present(const ShelfPresentation &presentation);
 
     [[nodiscard]] ShelfDisplayWindow *active() const { return m_active; }
+    // The display of the active surface has gone, and the windows are not yet in step with that.
+    [[nodiscard]] bool hasLostDisplay() const;
     [[nodiscard]] std::vector<ScreenRect> activationNotches() const;
 
 private:
     void add(const ShelfDisplay &display);
     void removeVanished(const std::vector<ShelfDisplay> &displays);
     void transferContent(ShelfDisplayWindow &window);
+    // With what is presented, and with the keyboard if it is there.
+    void moveTo(ShelfDisplayWindow &window);
 
     ShelfServices m_services;
     const std::function<QWidget &()> m_content;

@@ -6,9 +6,9 @@ using namespace std::chrono_literals;
 
 TabHover::TabHover(Scheduler &scheduler) : m_scheduler(scheduler) {}
 
-void TabHover::hoverTab(ShelfTab tab) {
+void TabHover::hoverTab(ShelfTab tab, bool duringDrag) {
     cancelTabHover();
-    if (!canSwitchTo(tab))
+    if (!duringDrag && !canSwitchTo(tab))
         return;
     m_pending = tab;
     m_work = m_scheduler.schedule(250ms, [this, tab] {

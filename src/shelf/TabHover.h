@@ -18,7 +18,8 @@ public:
     std::function<bool(ShelfTab)> canSwitchTo;
     std::function<void(ShelfTab)> onActivate;
 
-    void hoverTab(ShelfTab tab);
+    // What is dragged switches tabs whatever the setting says.
+    void hoverTab(ShelfTab tab, bool duringDrag = false);
     // The pointer left the tab; without a tab, whatever is pending is dropped.
     void cancelTabHover(std::optional<ShelfTab> tab = std::nullopt);
 

@@ -1,6 +1,8 @@
+#include "AccessibleTree.h"
 #include "TembraProcess.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QPoint>
@@ -83,6 +85,35 @@ TEST_F(ShelfHands, theMenuOfAScreenshotRemovesItAndTheButtonBringsItBack) {
     openByHover();
     click(undoButton);
     EXPECT_TRUE(tembra.waitFor([](const QJsonObject &status) { return count(status) == 3; }));
+}
+
+TEST_F(ShelfHands, assistiveProgramsFindTheTabsAndTheSelectedTiles) {
+    const AccessibleTree tree;
+    const QString program = QStringLiteral("Tembra");
+    click(background);
+    press({QStringLiteral("Home")});
+    EXPECT_TRUE(tembra.waitFor([](const QJsonObject &status) { return selectedCount(status) == 1; }));
+    const auto tiles = [&tree, &program](bool isSelected) {
+        QStringList names;
+        for (const AccessibleTree::Node &node : tree.shown(program)) {
+            if (node.role == QStringLiteral("list item") && node.isSelected == isSelected)
+                names += node.name;
+        }
+        return names;
+    };
+    // The program joins the tree after somebody has asked for it.
+    EXPECT_TRUE(tembra.waitFor([&tiles](const QJsonObject &) { return tiles(false).size() == 2; }));
+    const QString selected = tembra.status()[u"screenshots"][u"selected"][0].toString();
+    EXPECT_EQ(tiles(true), QStringList{QFileInfo(selected).fileName()});
+
+    const auto tray = tree.find(program, QStringLiteral("File Tray"), QStringLiteral("page tab"));
+    ASSERT_TRUE(tray);
+    EXPECT_TRUE(tree.act(*tray));
+    EXPECT_TRUE(tembra.waitFor([](const QJsonObject &status) {
+        return status[u"shelf"][u"tab"].toString() == QStringLiteral("tray");
+    }));
+    EXPECT_TRUE(
+        tree.find(program, QStringLiteral("Drop files here or Ctrl+V to paste"), QStringLiteral("filler")));
 }
 
 TEST_F(ShelfHands, aBandSelectsAndSpaceShowsTheSelectionLarge) {

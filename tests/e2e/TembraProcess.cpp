@@ -24,6 +24,7 @@ TembraProcess::TembraProcess() : m_environment(QProcessEnvironment::systemEnviro
     m_environment.insert(QStringLiteral("XDG_DATA_HOME"), home() + QStringLiteral("/.local/share"));
     m_environment.insert(QStringLiteral("XDG_CACHE_HOME"), home() + QStringLiteral("/.cache"));
     m_environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
+    m_environment.insert(QStringLiteral("QT_LINUX_ACCESSIBILITY_ALWAYS_ON"), QStringLiteral("1"));
     m_environment.remove(QStringLiteral("XDG_CURRENT_DESKTOP"));
     QDir().mkpath(screenshots());
     m_process.setProcessEnvironment(m_environment);

@@ -28,6 +28,8 @@ public:
     // Where the screenshot tool of this desktop saves.
     [[nodiscard]] QString screenshots() const;
     [[nodiscard]] QString settingsFile() const;
+    // With the same home, for other programs.
+    [[nodiscard]] const QProcessEnvironment &environment() const { return m_environment; }
 
     // Starts the program and waits until it answers.
     void start();

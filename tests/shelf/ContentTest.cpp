@@ -11,10 +11,13 @@
 #include "support/FakeDesktop.h"
 #include "support/FakeFileFacts.h"
 #include "support/FakeInputMonitor.h"
+#include "support/FakePasteboard.h"
 #include "support/FakeThumbnails.h"
 #include "support/FakeWorkspace.h"
 #include "support/ManualQueue.h"
 #include "support/ManualScheduler.h"
+#include "support/TrayServices.h"
+#include "tray/ClipboardStore.h"
 
 #include <QAccessible>
 #include <QLabel>
@@ -75,9 +78,13 @@ protected:
     FakeThumbnails thumbnails;
     FakeFileFacts files;
     NoPictures pictures;
+    FakePasteboard pasteboard;
+    TrayServices tray{scheduler, files, workspace};
+    ClipboardStore store{tray.services()};
     ManualQueue queue;
     ShelfContent content{{scheduler, scheduler.uptimeClock(), scheduler.wallClock({}), displays, workspace,
-                          input, panels, zones, thumbnails, files, pictures, queue}};
+                          input, panels, zones, pasteboard, thumbnails, files, pictures, queue},
+                         store};
     ShelfContent::State state;
 };
 
@@ -118,7 +125,7 @@ TEST_F(ContentTest, theButtonOfAMessageAnswersIt) {
 }
 
 TEST_F(ContentTest, aNotificationTakesThePlaceOfEverythingAndGivesItBack) {
-    state.sections = gridState({2, 1}).sections;
+    state.screenshots = gridState({2, 1});
     content.apply(state);
     EXPECT_TRUE(showsGrid());
     content.findChild<NativeScreenshotGrid *>()->selectAll();

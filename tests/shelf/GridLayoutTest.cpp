@@ -1,13 +1,13 @@
-#include "shelf/ScreenshotGridLayout.h"
+#include "shelf/FileGridLayout.h"
 #include "shelf/ShelfLayout.h"
 
 #include <gtest/gtest.h>
 
 using namespace tembra;
 using Grid = ShelfLayout::Grid;
-using Section = ScreenshotGridLayout::Section;
-using Range = ScreenshotGridLayout::Range;
-using enum ScreenshotGridLayout::Direction;
+using Section = FileGridLayout::Section;
+using Range = FileGridLayout::Range;
+using enum FileGridLayout::Direction;
 
 namespace {
 
@@ -16,8 +16,8 @@ constexpr int widthOf(int columns) {
     return 24 + columns * 104 + (columns - 1) * 8 + 32;
 }
 
-ScreenshotGridLayout layoutOf(const std::vector<Section> &sections, bool showFileNames = true,
-                              int width = widthOf(3)) {
+FileGridLayout layoutOf(const std::vector<Section> &sections, bool showFileNames = true,
+                        int width = widthOf(3)) {
     return {width, sections, showFileNames};
 }
 
@@ -73,7 +73,7 @@ TEST(ShelfGrid, documentHoldsAllRowsAndAtLeastTheViewport) {
     }
 }
 
-TEST(ScreenshotGridLayout, aRunWithoutTitlesIsAsHighAsTheDocumentIsToBe) {
+TEST(FileGridLayout, aRunWithoutTitlesIsAsHighAsTheDocumentIsToBe) {
     for (const bool showFileNames : {true, false}) {
         for (const int count : {1, 3, 4, 100'000}) {
             const auto layout = layoutOf({{count, false}}, showFileNames);
@@ -85,7 +85,7 @@ TEST(ScreenshotGridLayout, aRunWithoutTitlesIsAsHighAsTheDocumentIsToBe) {
     EXPECT_EQ(layoutOf({{0, true}}).height(), 0);
 }
 
-TEST(ScreenshotGridLayout, titlesAndTilesFollowEachOtherDownThePageWithoutMeeting) {
+TEST(FileGridLayout, titlesAndTilesFollowEachOtherDownThePageWithoutMeeting) {
     for (const bool showFileNames : {true, false}) {
         const auto layout = layoutOf({{0, true}, {4, true}, {0, true}, {1, true}, {2, false}}, showFileNames);
         EXPECT_EQ(layout.count(), 7);
@@ -105,7 +105,7 @@ TEST(ScreenshotGridLayout, titlesAndTilesFollowEachOtherDownThePageWithoutMeetin
     }
 }
 
-TEST(ScreenshotGridLayout, findsTheTileUnderAPointAndNoneBetweenTiles) {
+TEST(FileGridLayout, findsTheTileUnderAPointAndNoneBetweenTiles) {
     const auto layout = layoutOf({{4, true}, {2, true}});
     for (int index = 0; index < layout.count(); ++index) {
         const QRect tile = layout.itemRect(index);
@@ -119,10 +119,10 @@ TEST(ScreenshotGridLayout, findsTheTileUnderAPointAndNoneBetweenTiles) {
     EXPECT_FALSE(layout.itemAt(layout.itemRect(3).center() + QPoint(112, 0))) << "the row ends before";
     EXPECT_FALSE(layout.itemAt({50, -10}));
     EXPECT_FALSE(layout.itemAt({50, layout.height() + 10}));
-    EXPECT_FALSE(ScreenshotGridLayout().itemAt({0, 0}));
+    EXPECT_FALSE(FileGridLayout().itemAt({0, 0}));
 }
 
-TEST(ScreenshotGridLayout, whatLiesWithinASpanAreTheWholeRowsThatTouchIt) {
+TEST(FileGridLayout, whatLiesWithinASpanAreTheWholeRowsThatTouchIt) {
     const auto layout = layoutOf({{4, true}, {0, true}, {2, true}});
     const auto top = [&](int index) { return layout.itemRect(index).top(); };
     struct Row {
@@ -149,12 +149,12 @@ TEST(ScreenshotGridLayout, whatLiesWithinASpanAreTheWholeRowsThatTouchIt) {
     }
 }
 
-TEST(ScreenshotGridLayout, arrowsLeadToTheNearestTileAndStopAtTheEnds) {
+TEST(FileGridLayout, arrowsLeadToTheNearestTileAndStopAtTheEnds) {
     // 0 1 2 | 3   then   4 5 6 | 7 8
     const auto layout = layoutOf({{0, true}, {4, true}, {0, true}, {5, true}, {0, true}});
     struct Row {
         int from;
-        ScreenshotGridLayout::Direction direction;
+        FileGridLayout::Direction direction;
         int to;
     };
     const std::vector<Row> table{

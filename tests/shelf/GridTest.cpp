@@ -1,10 +1,10 @@
 #include "GridShots.h"
 #include "controls/ShelfScroller.h"
 #include "shelf/EdgeFades.h"
+#include "shelf/FileCollectionView.h"
 #include "shelf/FileThumbnailCache.h"
 #include "shelf/NativeScreenshotCell.h"
 #include "shelf/NativeScreenshotGrid.h"
-#include "shelf/ScreenshotCollectionView.h"
 #include "shelf/ScreenshotScrollView.h"
 #include "support/FakeFileFacts.h"
 #include "support/FakeThumbnails.h"
@@ -30,16 +30,16 @@ class GridTest : public testing::Test {
 protected:
     GridTest() {
         grid.resize(gridSize);
-        QObject::connect(&grid, &NativeScreenshotGrid::selectionChanged, [this] { ++selectionChanges; });
-        QObject::connect(&grid, &NativeScreenshotGrid::dragRequested, [this] { ++drags; });
-        QObject::connect(&grid, &NativeScreenshotGrid::activated,
-                         [this](const Shot &shot) { activated = gridNumbers({shot}); });
-        QObject::connect(&grid, &NativeScreenshotGrid::contextMenuRequested,
-                         [this](const Shot &shot) { menuOf = gridNumbers({shot}); });
-        QObject::connect(&grid, &NativeScreenshotGrid::backgroundMenuRequested, [this] { menuOf = {-1}; });
+        QObject::connect(&grid, &FileGrid::selectionChanged, [this] { ++selectionChanges; });
+        QObject::connect(&grid, &FileGrid::dragRequested, [this] { ++drags; });
+        QObject::connect(&grid, &FileGrid::activated,
+                         [this](const FileTile &shot) { activated = gridNumbers({shot}); });
+        QObject::connect(&grid, &FileGrid::contextMenuRequested,
+                         [this](const FileTile &shot) { menuOf = gridNumbers({shot}); });
+        QObject::connect(&grid, &FileGrid::backgroundMenuRequested, [this] { menuOf = {-1}; });
     }
 
-    void open(ScreenshotGridState state) {
+    void open(FileGridState state) {
         grid.render(std::move(state));
         grid.show();
         grid.activateWindow();
@@ -47,11 +47,11 @@ protected:
         grid.takeFocus();
     }
 
-    [[nodiscard]] const ScreenshotCollectionView &view() { return grid.collectionView(); }
+    [[nodiscard]] const FileCollectionView &view() { return grid.collectionView(); }
     [[nodiscard]] QScrollBar &bar() { return *grid.scrollView().verticalScrollBar(); }
     [[nodiscard]] QPoint inWindow(QPoint point) { return view().mapTo(&grid, point); }
     [[nodiscard]] QPoint middle(int index) { return inWindow(view().gridLayout().itemRect(index).center()); }
-    [[nodiscard]] Numbers selected() const { return gridNumbers(grid.selectedShots()); }
+    [[nodiscard]] Numbers selected() const { return gridNumbers(grid.selectedTiles()); }
 
     void click(int index, Qt::KeyboardModifiers modifiers = {}) {
         QTest::mouseClick(grid.windowHandle(), Qt::LeftButton, modifiers, middle(index));
@@ -216,7 +216,7 @@ TEST_F(GridTest, keysMoveAndExtendTheSelectionAndKeepItInSight) {
 }
 
 TEST_F(GridTest, aPageIsAsManyRowsAsCanBeSeen) {
-    ScreenshotGridState state = gridState({60});
+    FileGridState state = gridState({60});
     state.showFileNames = false;
     open(state);
     press(Qt::Key_Home);
@@ -241,10 +241,10 @@ TEST_F(GridTest, theSelectionFollowsItsShotsThroughNewStates) {
     open(gridState({8}));
     click(2);
     click(4, Qt::ControlModifier);
-    ScreenshotGridState state = gridState({8});
-    auto &shots = state.sections.front().shots;
+    FileGridState state = gridState({8});
+    auto &shots = state.sections.front().tiles;
     shots.insert(shots.begin(), gridShot(50));
-    shots[3].location = QStringLiteral("/shots/renamed.png");
+    shots[3].path = QStringLiteral("/shots/renamed.png");
     selectionChanges = 0;
     grid.render(state);
     EXPECT_EQ(selected(), (Numbers{2, 4}));
@@ -271,7 +271,7 @@ TEST_F(GridTest, oneHundredThousandShotsNeedOnlyTheCellsThatCanBeSeen) {
         ASSERT_EQ(thumbnails.waiting().size(), static_cast<qsizetype>(shown.size())) << "only what is seen";
         for (const auto &[index, cell] : shown) {
             ASSERT_TRUE(cell->isVisible());
-            ASSERT_EQ(cell->path(), gridShot(index).location);
+            ASSERT_EQ(cell->path(), gridShot(index).path);
             ASSERT_TRUE(cell->geometry().contains(view().gridLayout().itemRect(index)));
         }
     }
@@ -302,27 +302,30 @@ TEST_F(GridTest, fadesOutTheEdgesBehindWhichThereIsMore) {
 }
 
 TEST_F(GridTest, aShotThatStaysInSightKeepsItsCellAndPicture) {
-    files.set(gridShot(7).location, {.kind = FileKind::regular});
+    files.set(gridShot(7).path, {.kind = FileKind::regular});
     open(gridState({30}));
     const auto before = view().cells().shown();
-    ASSERT_TRUE(thumbnails.answer(gridShot(7).location));
+    ASSERT_TRUE(thumbnails.answer(gridShot(7).path));
     bar().setValue(60);
     EXPECT_EQ(view().cells().shown().at(7), before.at(7));
     EXPECT_TRUE(before.at(7)->isShowingThumbnail());
 
-    ScreenshotGridState state = gridState({30});
-    state.sections.front().shots[7].stamp = QStringLiteral("2");
-    state.pinnedPaths.insert(gridShot(8).location);
+    const auto isPinned = [&before](int index) {
+        return dynamic_cast<const NativeScreenshotCell &>(*before.at(index)).isPinned();
+    };
+    FileGridState state = gridState({30});
+    state.sections.front().tiles[7].revision = QStringLiteral("2");
+    state.sections.front().tiles[8].isPinned = true;
     grid.render(state);
     EXPECT_FALSE(before.at(7)->image().isNull()) << "the old picture stays until the new one is there";
     EXPECT_FALSE(before.at(7)->isShowingThumbnail());
-    EXPECT_TRUE(before.at(8)->isPinned());
-    EXPECT_FALSE(before.at(9)->isPinned());
+    EXPECT_TRUE(isPinned(8));
+    EXPECT_FALSE(isPinned(9));
 }
 
 TEST_F(GridTest, aFileThatIsListedTwiceLosesNoCell) {
-    ScreenshotGridState state = gridState({3});
-    state.sections.front().shots[1].location = gridShot(0).location;
+    FileGridState state = gridState({3});
+    state.sections.front().tiles[1].path = gridShot(0).path;
     open(state);
     for (int round = 0; round < 3; ++round) {
         state.showFileNames = !state.showFileNames;

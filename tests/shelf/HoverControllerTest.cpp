@@ -174,6 +174,7 @@ TEST_F(HoverControllerTest, checksAfterADesktopChangeEndAfterTwoSeconds) {
 TEST_F(HoverControllerTest, aPressOnSelectedFilesKeepsTheShelfForThem) {
     movePointer(inNotch);
     hover.hasFileSelection = [] { return true; };
+    input.isDragOffered = true;
     input.send(InputMonitor::Kind::leftDown, farAway);
     input.send(InputMonitor::Kind::leftDragged, {farAway.x + 50, farAway.y});
     scheduler.advance(1s);
@@ -190,6 +191,29 @@ TEST_F(HoverControllerTest, aPressOnSelectedFilesKeepsTheShelfForThem) {
     movePointer(inPanel);
     movePointer(farAway);
     EXPECT_FALSE(state.expanded);
+}
+
+TEST_F(HoverControllerTest, whatIsDraggedTowardsTheNotchOpensTheShelfInEveryMode) {
+    constexpr ScreenPoint nearNotch{150, 30};
+    struct Row {
+        ActivationMode mode;
+        bool isOffered;
+        bool opens;
+    };
+    for (const Row &row :
+         {Row{ActivationMode::hover, true, true}, Row{ActivationMode::click, true, true},
+          Row{ActivationMode::hover, false, false}, Row{ActivationMode::click, false, false}}) {
+        state = {};
+        state.activationMode = row.mode;
+        input.isDragOffered = row.isOffered;
+        input.send(InputMonitor::Kind::leftDown, farAway);
+        input.send(InputMonitor::Kind::leftDragged, {farAway.x + 50, farAway.y});
+        EXPECT_FALSE(state.expanded);
+        input.send(InputMonitor::Kind::leftDragged, nearNotch);
+        EXPECT_EQ(state.expanded, row.opens) << "a drag of a window or of a selection is no drag of files";
+        input.send(InputMonitor::Kind::leftUp, farAway);
+        hover.didCollapse();
+    }
 }
 
 TEST_F(HoverControllerTest, nothingHappensOnceItIsStopped) {

@@ -1,24 +1,24 @@
 #include "GridShots.h"
-#include "shelf/ScreenshotSelection.h"
+#include "shelf/FileSelection.h"
 
 #include <gtest/gtest.h>
 
 using namespace tembra;
-using enum ScreenshotSelection::Mode;
+using enum FileSelection::Mode;
 
 class SelectionTest : public testing::Test {
 protected:
-    bool choose(int index, ScreenshotSelection::Mode mode) { return selection.choose(state, index, mode); }
-    [[nodiscard]] std::vector<int> selected() const { return gridNumbers(selection.shots(state)); }
-    Shot takeOut(int index) {
-        auto &shots = state.sections.front().shots;
-        Shot shot = shots[static_cast<std::size_t>(index)];
+    bool choose(int index, FileSelection::Mode mode) { return selection.choose(state, index, mode); }
+    [[nodiscard]] std::vector<int> selected() const { return gridNumbers(selection.tiles(state)); }
+    FileTile takeOut(int index) {
+        auto &shots = state.sections.front().tiles;
+        FileTile shot = shots[static_cast<std::size_t>(index)];
         shots.erase(shots.begin() + index);
         return shot;
     }
 
-    ScreenshotGridState state = gridState({4, 3});
-    ScreenshotSelection selection;
+    FileGridState state = gridState({4, 3});
+    FileSelection selection;
 };
 
 using Numbers = std::vector<int>;
@@ -26,7 +26,7 @@ using Numbers = std::vector<int>;
 TEST_F(SelectionTest, followsClicksOfEveryKind) {
     struct Row {
         int index;
-        ScreenshotSelection::Mode mode;
+        FileSelection::Mode mode;
         bool changes;
         Numbers expected;
     };
@@ -49,10 +49,10 @@ TEST_F(SelectionTest, followsClicksOfEveryKind) {
 TEST_F(SelectionTest, staysWithAFileThatIsRenamedAndMovesToAnotherSection) {
     choose(1, replace);
     choose(3, toggle);
-    Shot moved = takeOut(1);
-    moved.location = QStringLiteral("/shots/renamed.png");
-    moved.stamp = QStringLiteral("2");
-    state.sections.back().shots.push_back(moved);
+    FileTile moved = takeOut(1);
+    moved.path = QStringLiteral("/shots/renamed.png");
+    moved.revision = QStringLiteral("2");
+    state.sections.back().tiles.push_back(moved);
     EXPECT_FALSE(selection.retain(state));
     EXPECT_EQ(selected(), (Numbers{3, 1})) << "in display order";
     EXPECT_EQ(selection.current(state), 2);

@@ -64,7 +64,7 @@ protected:
             std::make_unique<ScreenshotLocationMonitor>([this] { return destination; }, queue, scheduler,
                                                         workspace),
             ShelfServices{scheduler, scheduler.uptimeClock(), clock, displays, workspace, input, panelWindows,
-                          hotZones, thumbnails, files, parts.pictures, previewQueue,
+                          hotZones, parts.pasteboard, thumbnails, files, parts.pictures, previewQueue,
                           [this](const QString &path) { return detector.isCapture(path); }});
         controller->onError = [this](const QString &title, const QString &) { errors += title; };
         controller->askForClearing = [this](int count, int pinned, std::function<void()> clear) {
@@ -374,6 +374,14 @@ TEST_F(ShelfControllerTest, withoutADisplayNothingOpensAndHoveringWorksOnceThere
     controller->collapse();
     movePointer(atTopEdge);
     EXPECT_TRUE(status().expanded);
+}
+
+TEST_F(ShelfControllerTest, whereThingsMoveTheFirstFrameOfOpeningShowsAPartOfThePanel) {
+    start();
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    controller->openManually();
+    EXPECT_GT(status().frame.height, 20);
+    EXPECT_LT(status().frame.height, 100);
 }
 
 TEST_F(ShelfControllerTest, nothingIsLeftOnceItIsStopped) {

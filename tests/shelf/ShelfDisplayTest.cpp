@@ -39,6 +39,7 @@ TEST(ShelfDisplaySelection, opensWhereThePreferenceAndThePointerSay) {
              Case{"all, on the second", all, {2500, 900}, 2},
              Case{"all, on the first", all, {10, 10}, 1},
              Case{"all, a device pixel above the second's notch", all, {2000, 99.5}, 2},
+             Case{"all, on the edge that both share", all, {1000, 500}, 2},
              Case{"all, nowhere", all, {-500, -500}, 1},
              Case{"all, between the screens' heights", all, {2000, 50}, 1},
          }) {

@@ -14,7 +14,7 @@ public:
         return std::make_unique<Handle>(*this);
     }
     [[nodiscard]] std::unique_ptr<Observation> observeMotion(std::function<void()>) override { return {}; }
-    [[nodiscard]] bool isForeignDragOffered() const override { return false; }
+    [[nodiscard]] bool isForeignDragOffered() const override { return isDragOffered; }
     [[nodiscard]] ScreenPoint pointer() const override { return pointerPoint; }
 
     [[nodiscard]] bool isObserved() const { return m_onEvent != nullptr; }
@@ -25,6 +25,7 @@ public:
     }
 
     ScreenPoint pointerPoint;
+    bool isDragOffered = false;
 
 private:
     class Handle final : public Observation {

@@ -47,6 +47,10 @@ std::int64_t QtPasteboard::changeCount() {
     return m_watch ? m_watch->changeCount() : m_changeCount;
 }
 
+const QMimeData *QtPasteboard::content() {
+    return QGuiApplication::clipboard()->mimeData();
+}
+
 Result<void> QtPasteboard::writeObjects(const std::vector<Item> &items) {
     QGuiApplication::clipboard()->setMimeData(new OfferedMimeData(ClipboardContent(items)));
     if (isOwner())

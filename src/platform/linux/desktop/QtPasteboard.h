@@ -19,6 +19,7 @@ public:
     explicit QtPasteboard(std::shared_ptr<X11Connection> connection);
 
     [[nodiscard]] std::int64_t changeCount() override;
+    [[nodiscard]] const QMimeData *content() override;
     [[nodiscard]] Result<void> writeObjects(const std::vector<Item> &items) override;
 
 private:

@@ -4,7 +4,10 @@
 #include "platform/linux/desktop/ClipboardContent.h"
 #include "platform/linux/desktop/PipeWriter.h"
 
+#include <QClipboard>
 #include <QCoreApplication>
+#include <QGuiApplication>
+#include <QMimeData>
 
 #include <algorithm>
 #include <wayland-client-protocol.h>
@@ -87,6 +90,11 @@ WaylandDataControlPasteboard::~WaylandDataControlPasteboard() = default;
 std::int64_t WaylandDataControlPasteboard::changeCount() {
     static_cast<void>(watch() && m_connection->roundtrip());
     return m_changeCount;
+}
+
+// Pasting follows a key that the shelf got, so it has the focus and may read as every program does.
+const QMimeData *WaylandDataControlPasteboard::content() {
+    return QGuiApplication::clipboard()->mimeData();
 }
 
 Result<void> WaylandDataControlPasteboard::writeObjects(const std::vector<Item> &items) {

@@ -24,6 +24,7 @@ public:
     WaylandDataControlPasteboard &operator=(const WaylandDataControlPasteboard &) = delete;
 
     [[nodiscard]] std::int64_t changeCount() override;
+    [[nodiscard]] const QMimeData *content() override;
     [[nodiscard]] Result<void> writeObjects(const std::vector<Item> &items) override;
 
 private:

@@ -11,7 +11,7 @@ namespace tembra {
 
 // Where the grid's tiles and titles lie, in the document's points. A value: it knows counts, not shots, and
 // costs the same for any number of them.
-class ScreenshotGridLayout {
+class FileGridLayout {
 public:
     struct Section {
         int count = 0;
@@ -25,8 +25,8 @@ public:
     };
     enum class Direction { left, right, up, down };
 
-    ScreenshotGridLayout() = default;
-    ScreenshotGridLayout(int width, std::span<const Section> sections, bool showFileNames);
+    FileGridLayout() = default;
+    FileGridLayout(int width, std::span<const Section> sections, bool showFileNames);
 
     [[nodiscard]] int height() const { return m_height; }
     [[nodiscard]] int columns() const { return m_columns; }

@@ -1,4 +1,4 @@
-#include "shelf/ScreenshotGridLayout.h"
+#include "shelf/FileGridLayout.h"
 
 #include "shelf/ShelfLayout.h"
 
@@ -17,7 +17,7 @@ constexpr int headerLeft = 28;
 
 } // namespace
 
-ScreenshotGridLayout::ScreenshotGridLayout(int width, std::span<const Section> sections, bool showFileNames)
+FileGridLayout::FileGridLayout(int width, std::span<const Section> sections, bool showFileNames)
     : m_width(width), m_columns(Grid::columns(width)), m_itemHeight(Grid::heightOfItem(showFileNames)) {
     int first = 0;
     for (const Section &section : sections) {
@@ -35,46 +35,46 @@ ScreenshotGridLayout::ScreenshotGridLayout(int width, std::span<const Section> s
     }
 }
 
-int ScreenshotGridLayout::pitch() const {
+int FileGridLayout::pitch() const {
     return m_itemHeight + Grid::lineSpacing;
 }
 
-int ScreenshotGridLayout::count() const {
+int FileGridLayout::count() const {
     return m_blocks.empty() ? 0 : m_blocks.back().first + m_blocks.back().count;
 }
 
-const ScreenshotGridLayout::Block &ScreenshotGridLayout::blockOf(int index) const {
+const FileGridLayout::Block &FileGridLayout::blockOf(int index) const {
     const auto block = std::ranges::find_if(
         m_blocks, [=](const Block &candidate) { return index < candidate.first + candidate.count; });
     Q_ASSERT(block != m_blocks.end());
     return *block;
 }
 
-QRect ScreenshotGridLayout::itemRect(int index) const {
+QRect FileGridLayout::itemRect(int index) const {
     const Block &block = blockOf(index);
     const int place = index - block.first;
     const int x = Grid::sectionInset.left() + place % m_columns * (Grid::itemWidth + Grid::interItemSpacing);
     return {x, block.itemsTop + place / m_columns * pitch(), Grid::itemWidth, m_itemHeight};
 }
 
-QRect ScreenshotGridLayout::itemRectWithTitle(int index) const {
+QRect FileGridLayout::itemRectWithTitle(int index) const {
     const Block &block = blockOf(index);
     const QRect item = itemRect(index);
     return index - block.first < m_columns ? item.united(headerRect(block)) : item;
 }
 
-QRect ScreenshotGridLayout::headerRect(int section) const {
+QRect FileGridLayout::headerRect(int section) const {
     return headerRect(m_blocks[static_cast<std::size_t>(section)]);
 }
 
-QRect ScreenshotGridLayout::headerRect(const Block &block) const {
+QRect FileGridLayout::headerRect(const Block &block) const {
     if (!block.hasHeader)
         return {};
     const int top = block.itemsTop - headerToItems - headerHeight;
     return {headerLeft, top, std::max(0, m_width - headerLeft - Grid::sectionInset.right()), headerHeight};
 }
 
-ScreenshotGridLayout::Range ScreenshotGridLayout::itemsWithin(int top, int bottom) const {
+FileGridLayout::Range FileGridLayout::itemsWithin(int top, int bottom) const {
     std::optional<Range> range;
     for (const Block &block : m_blocks) {
         const int firstRow = std::max(0, (top - block.itemsTop) / pitch());
@@ -87,7 +87,7 @@ ScreenshotGridLayout::Range ScreenshotGridLayout::itemsWithin(int top, int botto
     return range.value_or(Range{});
 }
 
-std::optional<int> ScreenshotGridLayout::itemAt(QPoint point) const {
+std::optional<int> FileGridLayout::itemAt(QPoint point) const {
     const Range row = itemsWithin(point.y(), point.y() + 1);
     for (int index = row.first; index < row.last; ++index) {
         if (itemRect(index).contains(point))
@@ -96,12 +96,12 @@ std::optional<int> ScreenshotGridLayout::itemAt(QPoint point) const {
     return std::nullopt;
 }
 
-int ScreenshotGridLayout::item(const Block &block, int row, int column) const {
+int FileGridLayout::item(const Block &block, int row, int column) const {
     const int fromStart = row < 0 ? rows(block) + row : row;
     return block.first + std::min(fromStart * m_columns + column, block.count - 1);
 }
 
-int ScreenshotGridLayout::neighbour(int index, Direction direction) const {
+int FileGridLayout::neighbour(int index, Direction direction) const {
     const Block &block = blockOf(index);
     const int row = (index - block.first) / m_columns;
     const int column = (index - block.first) % m_columns;

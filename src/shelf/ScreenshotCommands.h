@@ -1,0 +1,62 @@
+#pragma once
+
+#include "platform/Workspace.h"
+#include "screenshots/ScreenshotSection.h"
+#include "screenshots/Shot.h"
+
+#include <QStringList>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+QT_BEGIN_NAMESPACE
+class QMenu;
+QT_END_NAMESPACE
+
+namespace tembra {
+
+class AppSettings;
+class ShelfSession;
+
+// What the user does to the selected screenshots, by keys and menus. Main thread; owned by ShelfController.
+class ScreenshotCommands {
+public:
+    // All must outlive this.
+    ScreenshotCommands(AppSettings &settings, ShelfSession &session, Workspace &workspace, WallClock now);
+
+    // Shows a failure as title and message.
+    std::function<void(const QString &title, const QString &message)> onError;
+
+    // As the shelf shows them now.
+    [[nodiscard]] std::vector<ScreenshotSection> sections() const;
+    // In display order.
+    [[nodiscard]] std::vector<Shot> selectedShots() const;
+    [[nodiscard]] QStringList selectedPaths() const;
+    // Those of all screenshots that are not pinned.
+    [[nodiscard]] std::vector<Shot> removableShots() const;
+    [[nodiscard]] std::vector<Shot> removableSelectedShots() const;
+
+    void copySelectedScreenshots();
+    // Pins them all unless all of them are pinned.
+    void toggleSelectedScreenshotPins();
+    void revealSelectedScreenshots();
+    void openScreenshotsWith(const QString &applicationIdentifier);
+    // In the default application when the identifier is empty.
+    void openFiles(const QStringList &paths, const QString &applicationIdentifier);
+    // Those that are not pinned.
+    void trashSelected();
+    void openFolder(const QString &folder);
+    // The menu of the selected screenshots. It must not outlive this.
+    [[nodiscard]] std::unique_ptr<QMenu> menu();
+
+private:
+    [[nodiscard]] std::vector<Shot> removable(const std::vector<Shot> &shots) const;
+
+    AppSettings &m_settings;
+    ShelfSession &m_session;
+    Workspace &m_workspace;
+    const WallClock m_now;
+};
+
+} // namespace tembra

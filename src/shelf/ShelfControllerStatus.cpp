@@ -1,0 +1,48 @@
+// What the shelf tells scripts of itself.
+
+#include "session/ShelfSession.h"
+#include "settings/AppSettings.h"
+#include "shelf/ScreenshotCommands.h"
+#include "shelf/ShelfContent.h"
+#include "shelf/ShelfController.h"
+#include "shelf/ShelfSurfaces.h"
+
+namespace tembra {
+
+ShelfStatus ShelfController::status() const {
+    ShelfStatus status;
+    const FolderShelf &shelf = m_session->folderShelf();
+    status.expanded = m_expanded;
+    status.tab = m_activeTab;
+    if (!m_surfaces)
+        return status;
+    if (const ShelfDisplayWindow *active = m_surfaces->active()) {
+        status.display = m_expanded ? active->display().name : QString();
+        status.frame = active->visiblePanel();
+    }
+    status.folder = m_settings.state().screenshotsFolder;
+    status.folderState = m_folderState.value_or(ScreenshotFolderState::none);
+    status.screenshotCount = static_cast<int>(shelf.shots.size());
+    for (const ScreenshotSection &section : m_commands->sections()) {
+        status.sections.push_back({title(section.kind), static_cast<int>(section.shots.size())});
+        if (section.kind == ScreenshotSectionKind::pinned)
+            status.pinnedCount = static_cast<int>(section.shots.size());
+    }
+    status.selected = m_content ? m_content->selectedPaths() : QStringList();
+    if (const auto &showing = m_announcer.showing()) {
+        status.showingNotification = true;
+        status.notificationText = showing->text;
+        status.notificationDetail = showing->detail();
+        status.notificationCount = showing->captureCount;
+    }
+    status.lastCapture = m_lastCapture;
+    status.autoCleanDays = static_cast<int>(m_settings.state().screenshotAutoClean);
+    status.autoCleanReview = static_cast<int>(m_session->autoCleanReview());
+    status.nextAutoCleanCheck = m_session->timeToAutoCleanCheck();
+    status.undo = m_session->screenshotUndoManager.undoNames();
+    status.redo = m_session->screenshotUndoManager.redoNames();
+    status.trayCount = static_cast<int>(m_session->clipboard.entries().size());
+    return status;
+}
+
+} // namespace tembra

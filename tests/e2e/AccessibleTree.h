@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QDBusObjectPath>
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+namespace tembra {
+
+// What programs tell assistive ones of themselves, as a screen reader asks for it (AT-SPI 2, over its own
+// bus).
+class AccessibleTree {
+public:
+    struct Node {
+        QString service;
+        QDBusObjectPath path;
+        QString name;
+        QString role;
+        bool isSelected = false;
+        bool isShowing = false;
+    };
+
+    AccessibleTree();
+    ~AccessibleTree();
+    AccessibleTree(const AccessibleTree &) = delete;
+    AccessibleTree &operator=(const AccessibleTree &) = delete;
+
+    // Everything the program shows now.
+    [[nodiscard]] std::vector<Node> shown(const QString &program) const;
+    [[nodiscard]] std::optional<Node> find(const QString &program, const QString &name,
+                                           const QString &role) const;
+    // Does the first thing that can be done to it, such as pressing a button.
+    bool act(const Node &node) const;
+
+private:
+    [[nodiscard]] std::vector<Node> children(const Node &node) const;
+    void collect(const Node &node, std::vector<Node> &found) const;
+
+    QDBusConnection m_bus;
+};
+
+} // namespace tembra
