@@ -115,7 +115,8 @@ void raiseEvents(const QByteArray &file, std::atomic<bool> &isDone) {
     const auto start = Clock::now();
     for (int i = 0; i < eventCount / 2; ++i) {
         const bool isBack = i % 2 == 1;
-        static_cast<void>(std::rename((isBack ? moved : file).constData(), (isBack ? file : moved).constData()));
+        static_cast<void>(
+            std::rename((isBack ? moved : file).constData(), (isBack ? file : moved).constData()));
         std::this_thread::sleep_until(start + i * 2s / eventCount);
     }
     isDone = true;
