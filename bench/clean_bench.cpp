@@ -82,10 +82,26 @@ public:
         m_session = std::make_unique<ShelfSession>(
             m_settings,
             ShelfSessionServices{
-                scheduler, systemUptime, systemNow, *platform.defaults, *platform.fileFacts,
-                *platform.fileReferences, *platform.trash, *platform.pasteboard, *platform.pictureDecoder,
-                *platform.sounds, m_cleanQueue, m_copyQueue,
-                [&detector](const QString &path) { return detector.isCapture(path); }, traversal,
+                scheduler,
+                systemUptime,
+                systemNow,
+                *platform.defaults,
+                *platform.fileFacts,
+                *platform.fileReferences,
+                *platform.volumes,
+                *platform.folderEvents,
+                *platform.workspace,
+                *platform.filePromises,
+                *platform.trash,
+                *platform.pasteboard,
+                *platform.pictureDecoder,
+                *platform.sounds,
+                platform.folders,
+                m_cleanQueue,
+                m_copyQueue,
+                m_trayQueue,
+                [&detector](const QString &path) { return detector.isCapture(path); },
+                traversal,
                 std::make_shared<ScreenshotAutoCleanScan>(*platform.folderFiles, detector, noPrefix)},
             std::make_unique<FileWatcherService>(
                 FileWatcherService::Services{*platform.folderEvents, scheduler, systemUptime, systemNow,
@@ -144,6 +160,7 @@ private:
     ThreadQueue m_scanQueue{QStringLiteral("scan")};
     ThreadQueue m_cleanQueue{QStringLiteral("clean")};
     ThreadQueue m_copyQueue{QStringLiteral("copy")};
+    ThreadQueue m_trayQueue{QStringLiteral("tray")};
     AppSettings m_settings;
     std::unique_ptr<ShelfSession> m_session;
 };

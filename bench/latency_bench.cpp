@@ -101,7 +101,16 @@ int main(int argc, char **argv) {
                                  *platform.fileFacts,
                                  *platform.pictureDecoder,
                                  queue};
-    ClipboardStore store(*platform.fileFacts);
+    ClipboardStore store({.scheduler = scheduler,
+                          .uptime = systemUptime,
+                          .files = *platform.fileFacts,
+                          .references = *platform.fileReferences,
+                          .volumes = *platform.volumes,
+                          .folderEvents = *platform.folderEvents,
+                          .workspace = *platform.workspace,
+                          .promises = *platform.filePromises,
+                          .queue = queue,
+                          .folders = {.temporary = folder.path()}});
     ShelfContent content(services, store);
     PaintWatch paintWatch;
     content.installEventFilter(&paintWatch);

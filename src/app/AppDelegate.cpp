@@ -28,6 +28,7 @@ AppDelegate::AppDelegate(Platform &platform, Scheduler &scheduler)
       m_locationQueue(QStringLiteral("app.tembra.screenshot-location")),
       m_autoCleanQueue(QStringLiteral("Tembra.AutoClean")),
       m_screenshotCopyQueue(QStringLiteral("local.dova.Tembra.screenshot-copy")),
+      m_clipboardQueue(QStringLiteral("Tembra.Clipboard.IO")),
       m_previewQueue(QStringLiteral("Tembra.Preview")) {}
 
 AppDelegate::~AppDelegate() = default;
@@ -110,12 +111,18 @@ std::unique_ptr<ShelfSession> AppDelegate::makeSession() {
         .defaults = *m_platform.defaults,
         .files = *m_platform.fileFacts,
         .references = *m_platform.fileReferences,
+        .volumes = *m_platform.volumes,
+        .folderEvents = *m_platform.folderEvents,
+        .workspace = *m_platform.workspace,
+        .promises = *m_platform.filePromises,
         .trash = *m_platform.trash,
         .pasteboard = *m_platform.pasteboard,
         .pictures = *m_platform.pictureDecoder,
         .sounds = *m_platform.sounds,
+        .folders = m_platform.folders,
         .autoCleanQueue = m_autoCleanQueue,
         .copyQueue = m_screenshotCopyQueue,
+        .clipboardQueue = m_clipboardQueue,
         .isCapture = [this](const QString &path) { return isCapture(path); },
         .folderTraversal =
             [this](const QString &folder) { return m_folderTraversal.includesSubfolders(folder); },

@@ -59,6 +59,7 @@ private:
     ThreadQueue m_locationQueue;
     ThreadQueue m_autoCleanQueue;
     ThreadQueue m_screenshotCopyQueue;
+    ThreadQueue m_clipboardQueue;
     ThreadQueue m_previewQueue;
     std::unique_ptr<AppSettings> m_settings;
     std::unique_ptr<AppFlowCoordinator> m_coordinator;

@@ -2,6 +2,7 @@
 
 #include "base/Result.h"
 
+#include <QSet>
 #include <QString>
 
 #include <chrono>
@@ -66,6 +67,10 @@ public:
     // DirectoryEvent bits). Error: "POSIX" with the errno when the folder cannot be opened or watched.
     [[nodiscard]] virtual Result<std::unique_ptr<Handle>>
     watchDirectory(const QString &folder, std::function<void(std::uint32_t)> onEvents) = 0;
+    // As above, but of the entries only those with these names count.
+    [[nodiscard]] virtual Result<std::unique_ptr<Handle>>
+    watchEntries(const QString &folder, const QSet<QString> &names,
+                 std::function<void(std::uint32_t)> onEvents) = 0;
     // The folder and, when `recursive`, everything below it; events of one `latency` arrive together, in
     // order, with rising ids. Where no more watches are to be had the stream reports mustScanSubdirectories |
     // userDropped once and goes on with those it has.

@@ -5,6 +5,7 @@
 #include "platform/CaptureMarkers.h"
 #include "platform/Displays.h"
 #include "platform/FileFacts.h"
+#include "platform/FilePromises.h"
 #include "platform/FileReferences.h"
 #include "platform/FolderEvents.h"
 #include "platform/FolderFiles.h"
@@ -20,6 +21,7 @@
 #include "platform/Thumbnails.h"
 #include "platform/Trash.h"
 #include "platform/UserDefaults.h"
+#include "platform/Volumes.h"
 #include "platform/Workspace.h"
 
 #include <functional>
@@ -37,6 +39,7 @@ struct Platform {
     std::unique_ptr<FileFactsReader> fileFacts;
     std::unique_ptr<FolderFiles> folderFiles;
     std::unique_ptr<FileReferences> fileReferences;
+    std::unique_ptr<Volumes> volumes;
     std::unique_ptr<Bookmarks> bookmarks;
     std::unique_ptr<FolderEvents> folderEvents;
     std::unique_ptr<CaptureMarkers> captureMarkers;
@@ -50,6 +53,7 @@ struct Platform {
     std::unique_ptr<HotZones> hotZones;
     std::unique_ptr<Thumbnails> thumbnails;
     std::unique_ptr<Pasteboard> pasteboard;
+    std::unique_ptr<FilePromises> filePromises;
     std::unique_ptr<Sounds> sounds;
 };
 

@@ -31,6 +31,8 @@ struct StandardFolders {
     QString data;
     QString cache;
     QString runtime;
+    // Where files may lie that nobody needs after the program ended.
+    QString temporary;
 };
 
 } // namespace tembra

@@ -21,11 +21,24 @@ ScreenshotAutoCopy::Services autoCopyServices(const ShelfSessionServices &servic
             .isCapture = services.isCapture};
 }
 
+ClipboardStoreServices clipboardServices(const ShelfSessionServices &services) {
+    return {.scheduler = services.scheduler,
+            .uptime = services.uptime,
+            .files = services.files,
+            .references = services.references,
+            .volumes = services.volumes,
+            .folderEvents = services.folderEvents,
+            .workspace = services.workspace,
+            .promises = services.promises,
+            .queue = services.clipboardQueue,
+            .folders = services.folders};
+}
+
 } // namespace
 
 ShelfSession::ShelfSession(AppSettings &settings, ShelfSessionServices services,
                            std::unique_ptr<FileWatcherService> fileWatcher)
-    : clipboard(services.files),
+    : clipboard(clipboardServices(services)),
       screenshotAutoCopy(autoCopyServices(services)),
       m_settings(settings),
       m_services(std::move(services)),
@@ -60,6 +73,8 @@ void ShelfSession::wire() {
             onNewFiles(shots);
     };
     clipboard.canReceive = [this] { return m_settings.state().fileTrayEnabled; };
+    // Files on their way to the Trash and back are not gone.
+    clipboard.shouldDeferReconciliation = [this] { return m_batches.isRunning(); };
 }
 
 void ShelfSession::folderChanged(FolderShelf &shelf, bool flag, int count) {
@@ -110,8 +125,9 @@ void ShelfSession::refreshWatcher() {
     // A folder that is lost is waited for where it was.
     const auto &granted = m_settings.state().screenshotsFolder;
     const std::optional<QString> folder = granted ? granted : m_settings.lostScreenshotsFolder();
+    clipboard.startMonitoring();
     if (folder != folderShelf().url) {
-        stopWatcher();
+        m_fileWatcher->stop();
         folderShelf() = FolderShelf();
         folderShelf().url = folder;
         selected.clear();
@@ -123,6 +139,7 @@ void ShelfSession::refreshWatcher() {
 
 void ShelfSession::stopWatcher() {
     m_fileWatcher->stop();
+    clipboard.stopMonitoring();
 }
 
 void ShelfSession::applySettings() {
@@ -166,6 +183,7 @@ void ShelfSession::runBatch(std::function<bool()> step, std::function<void()> do
     m_batches.start(std::move(step), [this, done = std::move(done)] {
         done();
         m_fileWatcher->resume();
+        clipboard.scheduleReconciliation();
     });
 }
 

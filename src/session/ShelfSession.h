@@ -84,7 +84,8 @@ public:
     [[nodiscard]] FileWatcherService &fileWatcher() { return *m_fileWatcher; }
     [[nodiscard]] AppSettings &settings() { return m_settings; }
 
-    // Watches the folder of the settings: from the beginning when it is another one than before.
+    // Watches the files of the tray and the folder of the settings: that from the beginning when it is
+    // another one than before.
     void refreshWatcher();
     void stopWatcher();
     // Brings auto-copy and auto-clean in step with the settings.

@@ -4,12 +4,17 @@
 #include "base/Scheduler.h"
 #include "base/SerialQueue.h"
 #include "platform/FileFacts.h"
+#include "platform/FilePromises.h"
 #include "platform/FileReferences.h"
+#include "platform/FolderEvents.h"
 #include "platform/Pasteboard.h"
 #include "platform/PictureDecoder.h"
 #include "platform/Sounds.h"
+#include "platform/StandardFolders.h"
 #include "platform/Trash.h"
 #include "platform/UserDefaults.h"
+#include "platform/Volumes.h"
+#include "platform/Workspace.h"
 
 #include <functional>
 #include <memory>
@@ -26,13 +31,19 @@ struct ShelfSessionServices {
     UserDefaults &defaults;
     const FileFactsReader &files;
     const FileReferences &references;
+    const Volumes &volumes;
+    FolderEvents &folderEvents;
+    Workspace &workspace;
+    FilePromises &promises;
     Trash &trash;
     Pasteboard &pasteboard;
     const PictureDecoder &pictures;
     Sounds &sounds;
-    // The queues "Tembra.AutoClean" and "local.dova.Tembra.screenshot-copy".
+    StandardFolders folders;
+    // The queues "Tembra.AutoClean", "local.dova.Tembra.screenshot-copy" and "Tembra.Clipboard.IO".
     SerialQueue &autoCleanQueue;
     SerialQueue &copyQueue;
+    SerialQueue &clipboardQueue;
     // Whether a file is a capture, asked on the main thread.
     std::function<bool(const QString &path)> isCapture;
     // Whether the subfolders of a folder belong to it.

@@ -4,15 +4,23 @@
 #include "base/RestoredOrder.h"
 
 #include <QDir>
-#include <QMimeData>
-#include <QUrl>
 
 #include <algorithm>
 #include <iterator>
 
 namespace tembra {
 
-ClipboardStore::ClipboardStore(const FileFactsReader &files) : m_files(files) {}
+ClipboardStore::ClipboardStore(ClipboardStoreServices services)
+    : m_services(std::move(services)),
+      m_inspector(m_services.files, m_services.references, m_services.volumes, m_services.folders),
+      m_scratch({m_services.folders.temporary, m_services.folders.cache}),
+      m_fileWatches(m_services.folderEvents, [this] { scheduleReconciliation(); }),
+      m_pass(m_services.scheduler, m_services.uptime) {
+    inspectEntry = [this](const ClipboardEntry &entry) { return m_inspector.state(entry); };
+    m_services.queue.post([scratch = m_scratch] { scratch.empty(); });
+}
+
+ClipboardStore::~ClipboardStore() = default;
 
 QList<QUuid> ClipboardStore::order() const {
     QList<QUuid> ids;
@@ -31,25 +39,33 @@ std::vector<ClipboardEntry> ClipboardStore::references(const QString &path,
     return found;
 }
 
-void ClipboardStore::add(int generation, const QStringList &paths) {
+void ClipboardStore::setStatus(std::optional<QString> status) {
     requireMainThread();
-    if (generation != m_importGeneration)
+    if (m_status == status)
         return;
-    for (const QString &path : paths) {
-        const QString clean = QDir::cleanPath(path);
-        if (const auto facts = m_files.facts(clean))
-            m_entries.push_back({.id = QUuid::createUuid(),
-                                 .originalPath = clean,
-                                 .identity = ScreenshotFileIdentity::of(clean, *facts),
-                                 .lastKnownPath = clean,
-                                 .isFolder = facts->kind == FileKind::directory});
-    }
+    m_status = std::move(status);
     changed();
 }
 
 void ClipboardStore::select(const QSet<QUuid> &ids) {
     requireMainThread();
+    if (m_selectedIDs == ids)
+        return;
     m_selectedIDs = ids;
+    changed();
+}
+
+void ClipboardStore::removeSelected() {
+    removeReferences(m_selectedIDs);
+}
+
+void ClipboardStore::clear() {
+    requireMainThread();
+    // What is still being written was to go as well.
+    ++m_importGeneration;
+    m_status.reset();
+    const QList<QUuid> all = order();
+    removeEntries({all.cbegin(), all.cend()});
     changed();
 }
 
@@ -57,9 +73,14 @@ void ClipboardStore::removeReferences(const QSet<QUuid> &ids) {
     requireMainThread();
     if (ids.isEmpty())
         return;
+    removeEntries(ids);
+    changed();
+}
+
+void ClipboardStore::removeEntries(const QSet<QUuid> &ids) {
     std::erase_if(m_entries, [&ids](const ClipboardEntry &entry) { return ids.contains(entry.id); });
     m_selectedIDs.subtract(ids);
-    changed();
+    updateFileWatches();
 }
 
 void ClipboardStore::restoreReferences(const std::vector<ClipboardEntry> &entries, const QList<QUuid> &order,
@@ -71,56 +92,25 @@ void ClipboardStore::restoreReferences(const std::vector<ClipboardEntry> &entrie
     const QList<QUuid> present = this->order();
     m_selectedIDs = QSet<QUuid>(selection).intersect(QSet<QUuid>(present.cbegin(), present.cend()));
     m_importGeneration = generation;
+    updateFileWatches();
     changed();
 }
 
 void ClipboardStore::rebindEditedReferences(const QSet<QUuid> &ids, const QString &path) {
     requireMainThread();
-    const auto facts = m_files.facts(path);
+    const QString clean = QDir::cleanPath(path);
+    const auto facts = m_services.files.facts(clean);
     if (ids.isEmpty() || !facts)
         return;
+    const ClipboardEntry written = m_inspector.entryFor(clean, *facts);
     for (ClipboardEntry &entry : m_entries) {
         if (!ids.contains(entry.id))
             continue;
-        entry.lastKnownPath = QDir::cleanPath(path);
-        entry.identity = ScreenshotFileIdentity::of(path, *facts);
-        entry.available = true;
+        const ClipboardEntry before = std::exchange(entry, written);
+        entry.id = before.id;
+        entry.originalPath = before.originalPath;
     }
-    changed();
-}
-
-bool ClipboardStore::canRead(const QMimeData &pasteboard) {
-    return !files(pasteboard).isEmpty();
-}
-
-QStringList ClipboardStore::files(const QMimeData &pasteboard) {
-    QStringList paths;
-    for (const QUrl &url : pasteboard.urls()) {
-        if (url.isLocalFile())
-            paths += url.toLocalFile();
-    }
-    return paths;
-}
-
-bool ClipboardStore::receive(const QMimeData &pasteboard) {
-    if (canReceive && !canReceive())
-        return false;
-    const QStringList paths = files(pasteboard);
-    add(m_importGeneration, paths);
-    return !paths.isEmpty();
-}
-
-void ClipboardStore::removeSelected() {
-    removeReferences(QSet<QUuid>(m_selectedIDs));
-}
-
-void ClipboardStore::clear() {
-    const QList<QUuid> all = order();
-    removeReferences({all.cbegin(), all.cend()});
-}
-
-void ClipboardStore::setStatus(std::optional<QString> status) {
-    m_status = std::move(status);
+    updateFileWatches();
     changed();
 }
 

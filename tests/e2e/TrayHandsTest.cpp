@@ -20,6 +20,7 @@ protected:
     static constexpr QPoint aside{60, 700};
 
     TrayHands() {
+        QDir().mkpath(leftover);
         tembra.tool(QStringLiteral("scrot"), {tembra.screenshots() + QStringLiteral("/Screenshot from "
                                                                                     "2026-11-21 "
                                                                                     "10-15-01.png")});
@@ -35,6 +36,8 @@ protected:
 
     TembraProcess tembra;
     FileManagerWindow files{tembra};
+    // In the scratch folder.
+    const QString leftover = tembra.home() + QStringLiteral("/tembra/temporary/Pavrell-Clipboard/old");
 };
 
 } // namespace
@@ -50,6 +53,13 @@ TEST_F(TrayHands, aFileDraggedToTheNotchIsKeptInTheTrayAndStaysWhereItIs) {
     files.release();
     EXPECT_TRUE(tembra.waitFor([](const QJsonObject &status) { return trayCount(status) == 1; }));
     EXPECT_TRUE(QFile::exists(files.folder() + QStringLiteral("/kept.txt")));
+
+    // It is followed until it is deleted.
+    const QString moved = tembra.home() + QStringLiteral("/moved.txt");
+    ASSERT_TRUE(QFile::rename(files.folder() + QStringLiteral("/kept.txt"), moved));
+    ASSERT_TRUE(QFile::remove(moved));
+    EXPECT_TRUE(tembra.waitFor([](const QJsonObject &status) { return trayCount(status) == 0; }));
+    EXPECT_FALSE(QFile::exists(leftover)) << "what an earlier run left was deleted at the start";
 }
 
 TEST_F(TrayHands, aDragThatGoesElsewhereLeavesTheShelfAsItWas) {

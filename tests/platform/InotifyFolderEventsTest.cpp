@@ -1,5 +1,6 @@
 #include "platform/linux/InotifyFolderEvents.h"
 
+#include "base/FilePath.h"
 #include "base/QtScheduler.h"
 #include "support/Files.h"
 #include "support/ScratchMount.h"
@@ -12,6 +13,7 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace std::chrono_literals;
@@ -78,6 +80,29 @@ protected:
 };
 
 } // namespace
+
+TEST_F(InotifyFolderEventsTest, tellsOfNamedEntriesAndOfTheFolderAlone) {
+    const QString file = path(pathFromBytes("not \n \xff text"));
+    const QString moved = path(QStringLiteral("moved"));
+    const auto handle = m_events.watchEntries(m_folder, {file.section(u'/', -1)},
+                                              [this](std::uint32_t bits) { m_bits |= bits; });
+    ASSERT_TRUE(handle);
+    const QByteArray bytes = pathBytes(file);
+    for (const auto &act : std::initializer_list<std::function<bool()>>{
+             [&] { return ::mknod(bytes.constData(), S_IFREG | 0600, 0) == 0; },
+             [&] { return ::rename(bytes.constData(), qPrintable(moved)) == 0; },
+             [&] { return ::rename(qPrintable(moved), bytes.constData()) == 0; },
+             [&] { return ::unlink(bytes.constData()) == 0; }}) {
+        forget();
+        ASSERT_TRUE(act());
+        EXPECT_TRUE(receivesBits(FolderEvents::write));
+    }
+    forget();
+    writeFile(path(QStringLiteral("stranger")));
+    ASSERT_TRUE(QDir().rename(m_folder, m_home.filePath(QStringLiteral("renamed"))));
+    EXPECT_TRUE(receivesBits(FolderEvents::rename));
+    EXPECT_EQ(m_bits, FolderEvents::rename) << "nothing of the other entry";
+}
 
 TEST_F(InotifyFolderEventsTest, tellsWhatHappenedToAFileWithRisingIds) {
     const QString a = path(QStringLiteral("a.png"));

@@ -142,7 +142,7 @@ TEST(LinuxFileFactsOnFat, tellsNoIdentityBecauseFilesAreNumberedAnew) {
 
 TEST(MountTable, readsAWellFormedLineAndNoOther) {
     EXPECT_EQ(parseMountLine("36 35 98:0 /mnt1 /mnt/two\\040words rw,noatime master:1 - ext3 /dev/root rw\n"),
-              (MountEntry{36, "/mnt/two words", "ext3", "/dev/root"}));
+              (MountEntry{36, "/mnt/two words", "ext3", "/dev/root", "/mnt1"}));
     for (const char *line :
          {"", "36 35 98:0 / /mnt rw -", "x 35 98:0 / /mnt rw - ext3 /dev/root rw", "36 - a b c d e f"})
         EXPECT_EQ(parseMountLine(line), std::nullopt) << line;

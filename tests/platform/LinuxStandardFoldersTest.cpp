@@ -43,6 +43,7 @@ TEST_F(LinuxFolders, areWhereTheUserPutThemAndAlwaysAbsolute) {
     EXPECT_EQ(folders.data, inHome(".local/share/tembra"));
     EXPECT_EQ(folders.cache, inHome(".cache/tembra"));
     EXPECT_TRUE(folders.runtime.startsWith(u'/'));
+    EXPECT_EQ(folders.temporary, QDir::tempPath());
 }
 
 TEST_F(LinuxFolders, theProgramsOwnAreTogetherWhenAskedForAndTheUsersStay) {
@@ -51,6 +52,7 @@ TEST_F(LinuxFolders, theProgramsOwnAreTogetherWhenAskedForAndTheUsersStay) {
     const StandardFolders folders = linuxStandardFolders();
     EXPECT_EQ(folders.configuration, QStringLiteral("/srv/own/config"));
     EXPECT_EQ(folders.runtime, QStringLiteral("/srv/own/runtime"));
+    EXPECT_EQ(folders.temporary, QStringLiteral("/srv/own/temporary"));
     EXPECT_EQ(folders.trash, QStringList{QStringLiteral("/srv/data/Trash")});
     EXPECT_EQ(folders.desktop, inHome("Desktop"));
 }

@@ -16,6 +16,7 @@
 #include "support/FakeWorkspace.h"
 #include "support/ManualQueue.h"
 #include "support/ManualScheduler.h"
+#include "support/TrayServices.h"
 #include "tray/ClipboardStore.h"
 
 #include <QAccessible>
@@ -78,7 +79,8 @@ protected:
     FakeFileFacts files;
     NoPictures pictures;
     FakePasteboard pasteboard;
-    ClipboardStore store{files};
+    TrayServices tray{scheduler, files, workspace};
+    ClipboardStore store{tray.services()};
     ManualQueue queue;
     ShelfContent content{{scheduler, scheduler.uptimeClock(), scheduler.wallClock({}), displays, workspace,
                           input, panels, zones, pasteboard, thumbnails, files, pictures, queue},

@@ -27,6 +27,11 @@ public:
         return keep(m_directories, std::move(onEvents));
     }
 
+    Result<std::unique_ptr<Handle>> watchEntries(const QString &folder, const QSet<QString> &,
+                                                 std::function<void(std::uint32_t)> onEvents) override {
+        return watchDirectory(folder, std::move(onEvents));
+    }
+
     Result<std::unique_ptr<Handle>> watchTree(const QString &, bool recursive, std::chrono::nanoseconds,
                                               std::function<void(std::vector<TreeEvent>)> onEvents) override {
         isLastTreeRecursive = recursive;

@@ -3,13 +3,17 @@
 #include "platform/linux/LinuxCaptureMarkers.h"
 #include "platform/linux/LinuxFileReferences.h"
 #include "platform/linux/LinuxFolderFiles.h"
+#include "platform/linux/LinuxMountedVolumes.h"
 #include "platform/linux/LinuxPictureDecoder.h"
 #include "platform/linux/LinuxTrash.h"
 #include "screenshots/ScreenshotAutoCleanScan.h"
 #include "screenshots/ScreenshotCaptureDetector.h"
 #include "session/ShelfSessionServices.h"
+#include "support/FakeFilePromises.h"
+#include "support/FakeFolderEvents.h"
 #include "support/FakePasteboard.h"
 #include "support/FakeSounds.h"
+#include "support/FakeWorkspace.h"
 #include "support/ManualQueue.h"
 #include "support/ManualScheduler.h"
 #include "support/MemoryUserDefaults.h"
@@ -26,12 +30,17 @@ struct SessionServices {
     ManualScheduler scheduler;
     ManualQueue autoCleanQueue;
     ManualQueue copyQueue;
+    ManualQueue clipboardQueue;
     WallClock now = scheduler.wallClock(systemNow());
     MemoryUserDefaults defaults;
     FakePasteboard pasteboard;
     FakeSounds sounds;
     LinuxFileFactsReader files;
     LinuxFileReferences references{files};
+    LinuxMountedVolumes volumes{files};
+    FakeFolderEvents trayEvents;
+    FakeWorkspace workspace;
+    FakeFilePromises promises;
     LinuxFolderFiles folderFiles{files};
     LinuxCaptureMarkers markers;
     LinuxPictureDecoder pictures;
@@ -52,12 +61,18 @@ struct SessionServices {
                 .defaults = stored,
                 .files = files,
                 .references = references,
+                .volumes = volumes,
+                .folderEvents = trayEvents,
+                .workspace = workspace,
+                .promises = promises,
                 .trash = trash,
                 .pasteboard = pasteboard,
                 .pictures = pictures,
                 .sounds = sounds,
+                .folders = {.trash = {trashFolder}, .temporary = home.filePath(QStringLiteral("temporary"))},
                 .autoCleanQueue = autoCleanQueue,
                 .copyQueue = copyQueue,
+                .clipboardQueue = clipboardQueue,
                 .isCapture = [this](const QString &path) { return detector.isCapture(path); },
                 .folderTraversal = [this](const QString &) { return includesSubfolders; },
                 .autoCleanScan = std::make_shared<ScreenshotAutoCleanScan>(folderFiles, detector,

@@ -1,11 +1,14 @@
 #include "platform/linux/FileFinder.h"
 
+#include "base/FilePath.h"
+
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
+#include <deque>
 #include <dirent.h>
 #include <memory>
+#include <string_view>
 
 namespace tembra {
 
@@ -13,6 +16,8 @@ namespace {
 
 // Folders that are looked into at each step of the search.
 constexpr qsizetype mostFolders = 64;
+// In the search of a whole volume: about half a second when nothing of it is in memory.
+constexpr int mostFoldersBeneath = 5'000;
 
 QStringList subfolders(const QString &folder) {
     const QDir directory(folder);
@@ -47,6 +52,24 @@ std::optional<QString> FileFinder::find(const FileResource &resource, const QStr
     return std::nullopt;
 }
 
+std::optional<QString> FileFinder::findBeneath(const QString &folder, const FileResource &resource) const {
+    std::deque<QString> places{folder};
+    for (int looked = 0; !places.empty() && looked < mostFoldersBeneath; ++looked) {
+        const QString place = std::move(places.front());
+        places.pop_front();
+        if (!isOnVolume(place, resource.volume))
+            continue;
+        const auto queue = [&](const char *name) {
+            const std::string_view view(name);
+            if (view != "." && view != ".." && !view.starts_with(".Trash"))
+                places.push_back(QDir(place).filePath(pathFromBytes(name)));
+        };
+        if (auto found = findIn(place, resource, queue))
+            return found;
+    }
+    return std::nullopt;
+}
+
 bool FileFinder::isAt(const QString &path, const FileResource &resource) const {
     const auto facts = m_reader.facts(path);
     return facts && facts->resource == resource;
@@ -59,15 +82,17 @@ bool FileFinder::isOnVolume(const QString &folder, std::uint64_t volume) const {
 }
 
 // The names of a folder come with their inodes, so that only those that can be the file are asked further.
-std::optional<QString> FileFinder::findIn(const QString &folder, const FileResource &resource) const {
-    const std::unique_ptr<DIR, int (*)(DIR *)> entries(::opendir(QFile::encodeName(folder).constData()),
-                                                       ::closedir);
+std::optional<QString> FileFinder::findIn(const QString &folder, const FileResource &resource,
+                                          const std::function<void(const char *)> &onSubfolder) const {
+    const std::unique_ptr<DIR, int (*)(DIR *)> entries(::opendir(pathBytes(folder).constData()), ::closedir);
     if (!entries)
         return std::nullopt;
     while (const dirent *entry = ::readdir(entries.get())) {
+        if (entry->d_type == DT_DIR && onSubfolder)
+            onSubfolder(entry->d_name);
         if (entry->d_ino != resource.inode)
             continue;
-        const QString path = QDir(folder).filePath(QFile::decodeName(entry->d_name));
+        const QString path = QDir(folder).filePath(pathFromBytes(entry->d_name));
         if (isAt(path, resource))
             return path;
     }

@@ -1,9 +1,9 @@
 #include "platform/linux/FreedesktopThumbnails.h"
 
+#include "base/FilePath.h"
 #include "base/MainThread.h"
 #include "platform/linux/ThumbnailDecoder.h"
 
-#include <QFile>
 #include <QImageReader>
 #include <QMimeDatabase>
 #include <QStandardPaths>
@@ -31,14 +31,14 @@ std::size_t mostThreads() {
 // Only regular files are opened: a named pipe would hold the thread for ever.
 std::optional<ThumbnailCacheFolder::Source> sourceOf(const QString &path) {
     struct stat status {};
-    if (::stat(QFile::encodeName(path).constData(), &status) != 0 || !S_ISREG(status.st_mode))
+    if (::stat(pathBytes(path).constData(), &status) != 0 || !S_ISREG(status.st_mode))
         return std::nullopt;
     return ThumbnailCacheFolder::Source{path, status.st_mtim.tv_sec, status.st_size};
 }
 
 bool exists(const QString &path) {
     struct stat status {};
-    return ::stat(QFile::encodeName(path).constData(), &status) == 0;
+    return ::stat(pathBytes(path).constData(), &status) == 0;
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "platform/linux/InotifyFolderEvents.h"
 
+#include "base/FilePath.h"
 #include "platform/linux/PollingWatch.h"
 #include "platform/linux/TreeWatch.h"
 
@@ -15,7 +16,9 @@ constexpr std::uint32_t directoryMask = entryMask | IN_ATTRIB | IN_DELETE_SELF |
 
 class DirectoryWatch final : public FolderEvents::Handle {
 public:
-    explicit DirectoryWatch(std::function<void(std::uint32_t)> onEvents) : m_onEvents(std::move(onEvents)) {}
+    // Without names every entry counts.
+    DirectoryWatch(std::optional<QSet<QByteArray>> names, std::function<void(std::uint32_t)> onEvents)
+        : m_names(std::move(names)), m_onEvents(std::move(onEvents)) {}
 
     Result<void> start(InotifyInstance &instance, const QString &folder) {
         auto subscription = instance.watch(folder, directoryMask,
@@ -32,6 +35,8 @@ public:
 
 private:
     void receive(const InotifyInstance::Event &event) {
+        if (m_names && !event.name.isEmpty() && !m_names->contains(event.name))
+            return;
         const std::uint32_t bits = directoryEvents(event);
         if (bits == 0)
             return;
@@ -55,6 +60,7 @@ private:
         return bits;
     }
 
+    const std::optional<QSet<QByteArray>> m_names;
     const std::function<void(std::uint32_t)> m_onEvents;
     std::unique_ptr<InotifyInstance::Subscription> m_subscription;
     std::unique_ptr<PollingWatch> m_polling;
@@ -71,10 +77,25 @@ InotifyFolderEvents::InotifyFolderEvents(const LinuxFileFactsReader &reader, Sch
 
 Result<std::unique_ptr<FolderEvents::Handle>>
 InotifyFolderEvents::watchDirectory(const QString &folder, std::function<void(std::uint32_t)> onEvents) {
+    return watch(folder, std::nullopt, std::move(onEvents));
+}
+
+Result<std::unique_ptr<FolderEvents::Handle>>
+InotifyFolderEvents::watchEntries(const QString &folder, const QSet<QString> &names,
+                                  std::function<void(std::uint32_t)> onEvents) {
+    QSet<QByteArray> entries;
+    for (const QString &name : names)
+        entries.insert(pathBytes(name));
+    return watch(folder, std::move(entries), std::move(onEvents));
+}
+
+Result<std::unique_ptr<FolderEvents::Handle>>
+InotifyFolderEvents::watch(const QString &folder, std::optional<QSet<QByteArray>> names,
+                           std::function<void(std::uint32_t)> onEvents) {
     const auto volume = m_reader.volumeOf(folder);
     if (!volume)
         return failure(volume.error());
-    auto watch = std::make_unique<DirectoryWatch>(std::move(onEvents));
+    auto watch = std::make_unique<DirectoryWatch>(std::move(names), std::move(onEvents));
     const auto started = watch->start(m_instance, folder);
     if (!started && !isExhausted(started.error()))
         return failure(started.error());

@@ -5,6 +5,8 @@
 #include "platform/linux/InotifyInstance.h"
 #include "platform/linux/LinuxFileFacts.h"
 
+#include <optional>
+
 namespace tembra {
 
 // FolderEvents over inotify. Folders on other machines are looked at every few seconds besides, and so are
@@ -17,10 +19,17 @@ public:
     [[nodiscard]] Result<std::unique_ptr<Handle>>
     watchDirectory(const QString &folder, std::function<void(std::uint32_t)> onEvents) override;
     [[nodiscard]] Result<std::unique_ptr<Handle>>
+    watchEntries(const QString &folder, const QSet<QString> &names,
+                 std::function<void(std::uint32_t)> onEvents) override;
+    [[nodiscard]] Result<std::unique_ptr<Handle>>
     watchTree(const QString &folder, bool recursive, std::chrono::nanoseconds latency,
               std::function<void(std::vector<TreeEvent>)> onEvents) override;
 
 private:
+    [[nodiscard]] Result<std::unique_ptr<Handle>> watch(const QString &folder,
+                                                        std::optional<QSet<QByteArray>> names,
+                                                        std::function<void(std::uint32_t)> onEvents);
+
     const LinuxFileFactsReader &m_reader;
     Scheduler &m_scheduler;
     InotifyInstance m_instance;

@@ -1,8 +1,7 @@
 #include "platform/linux/InotifyInstance.h"
 
+#include "base/FilePath.h"
 #include "platform/linux/PosixError.h"
-
-#include <QFile>
 
 #include <algorithm>
 #include <array>
@@ -40,7 +39,7 @@ Result<std::unique_ptr<InotifyInstance::Subscription>>
 InotifyInstance::watch(const QString &folder, std::uint32_t mask, Receiver receiver) {
     if (!m_descriptor.isOpen())
         return failure(posixError(m_openError));
-    const int number = ::inotify_add_watch(m_descriptor.number(), QFile::encodeName(folder).constData(),
+    const int number = ::inotify_add_watch(m_descriptor.number(), pathBytes(folder).constData(),
                                            mask | IN_ONLYDIR | IN_MASK_ADD);
     if (number < 0)
         return failure(posixError());
@@ -61,20 +60,18 @@ void InotifyInstance::drop(int watch) {
 }
 
 void InotifyInstance::read() {
+    // What does not fit comes with the next turn of the event loop, so that a flood of events does not hold
+    // the thread.
     alignas(inotify_event) std::array<char, 64 * 1024> buffer;
-    for (;;) {
-        const ssize_t length = ::read(m_descriptor.number(), buffer.data(), buffer.size());
-        if (length <= 0)
-            return;
-        for (std::size_t at = 0; at < static_cast<std::size_t>(length);) {
-            const auto *event = reinterpret_cast<const inotify_event *>(buffer.data() + at);
-            at += sizeof(inotify_event) + event->len;
-            const Event told{event->mask, event->len > 0 ? QByteArray(event->name) : QByteArray()};
-            if (event->mask & IN_Q_OVERFLOW)
-                dispatchToAll(told);
-            else
-                dispatch(event->wd, told);
-        }
+    const ssize_t length = ::read(m_descriptor.number(), buffer.data(), buffer.size());
+    for (std::size_t at = 0; length > 0 && at < static_cast<std::size_t>(length);) {
+        const auto *event = reinterpret_cast<const inotify_event *>(buffer.data() + at);
+        at += sizeof(inotify_event) + event->len;
+        const Event told{event->mask, event->len > 0 ? QByteArray(event->name) : QByteArray()};
+        if (event->mask & IN_Q_OVERFLOW)
+            dispatchToAll(told);
+        else
+            dispatch(event->wd, told);
     }
 }
 

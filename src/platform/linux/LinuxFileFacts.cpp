@@ -1,9 +1,8 @@
 #include "platform/linux/LinuxFileFacts.h"
 
+#include "base/FilePath.h"
 #include "platform/linux/PosixError.h"
 #include "platform/linux/StableHash.h"
-
-#include <QFile>
 
 #include <algorithm>
 #include <array>
@@ -120,7 +119,7 @@ Result<FileFacts> LinuxFileFactsReader::targetFacts(const QString &path) const {
 }
 
 Result<FileFacts> LinuxFileFactsReader::read(const QString &path, bool followsLinks) const {
-    const Place place{.path = QFile::encodeName(path), .followsLinks = followsLinks};
+    const Place place{.path = pathBytes(path), .followsLinks = followsLinks};
     return status(place).map([&](const struct statx &found) {
         const LinuxVolume volume =
             m_volumes.of(deviceNumber(found), found.stx_mnt_id, place.path, followsLinks);
@@ -143,8 +142,7 @@ FileFacts LinuxFileFactsReader::factsOfOpen(int descriptor, const struct statx &
 }
 
 Result<void> LinuxFileFactsReader::canReadFolder(const QString &path, bool enumerateContents) const {
-    const std::unique_ptr<DIR, int (*)(DIR *)> folder(::opendir(QFile::encodeName(path).constData()),
-                                                      ::closedir);
+    const std::unique_ptr<DIR, int (*)(DIR *)> folder(::opendir(pathBytes(path).constData()), ::closedir);
     if (!folder)
         return failure(posixError());
     errno = 0;
@@ -157,14 +155,22 @@ Result<void> LinuxFileFactsReader::canReadFolder(const QString &path, bool enume
 Result<void> LinuxFileFactsReader::recordCreationDate(const QString &path, Instant createdAt) const {
     const QByteArray digits =
         QByteArray::number(static_cast<qlonglong>(createdAt.time_since_epoch().count()));
-    if (::setxattr(QFile::encodeName(path).constData(), creationAttribute, digits.constData(),
+    if (::setxattr(pathBytes(path).constData(), creationAttribute, digits.constData(),
                    static_cast<std::size_t>(digits.size()), 0) != 0)
         return failure(posixError());
     return {};
 }
 
+Result<struct statx> LinuxFileFactsReader::statusOf(const QString &path) {
+    return status({.path = pathBytes(path)});
+}
+
+LinuxVolume LinuxFileFactsReader::volumeOf(const struct statx &status, const QString &path) const {
+    return m_volumes.of(deviceNumber(status), status.stx_mnt_id, pathBytes(path), false);
+}
+
 Result<LinuxVolume> LinuxFileFactsReader::volumeOf(const QString &path) const {
-    const QByteArray encoded = QFile::encodeName(path);
+    const QByteArray encoded = pathBytes(path);
     return status({.path = encoded, .followsLinks = true}).map([&](const struct statx &found) {
         return m_volumes.of(deviceNumber(found), found.stx_mnt_id, encoded, true);
     });

@@ -26,6 +26,9 @@ public:
     [[nodiscard]] Result<std::uint64_t> volumeIdOf(const QString &path) const;
     // Whether a file system with this id is mounted anywhere.
     [[nodiscard]] bool isVolumeMounted(std::uint64_t volume) const;
+    // What statx tells of a file, of a link itself, and the volume that this means.
+    [[nodiscard]] static Result<struct statx> statusOf(const QString &path);
+    [[nodiscard]] LinuxVolume volumeOf(const struct statx &status, const QString &path) const;
     // Everything about the volume of a file or folder there.
     [[nodiscard]] Result<LinuxVolume> volumeOf(const QString &path) const;
 

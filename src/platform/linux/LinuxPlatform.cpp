@@ -8,6 +8,7 @@
 #include "platform/linux/LinuxFileFacts.h"
 #include "platform/linux/LinuxFileReferences.h"
 #include "platform/linux/LinuxFolderFiles.h"
+#include "platform/linux/LinuxMountedVolumes.h"
 #include "platform/linux/LinuxPictureDecoder.h"
 #include "platform/linux/LinuxStandardFolders.h"
 #include "platform/linux/LinuxTrash.h"
@@ -27,6 +28,7 @@ Platform makeHeadlessPlatform(Scheduler &scheduler) {
     auto facts = std::make_unique<LinuxFileFactsReader>();
     platform.folderFiles = std::make_unique<LinuxFolderFiles>(*facts);
     platform.fileReferences = std::make_unique<LinuxFileReferences>(*facts);
+    platform.volumes = std::make_unique<LinuxMountedVolumes>(*facts);
     platform.bookmarks = std::make_unique<LinuxBookmarks>(*facts, platform.folders);
     platform.folderEvents = std::make_unique<InotifyFolderEvents>(*facts, scheduler);
     platform.captureMarkers = std::make_unique<LinuxCaptureMarkers>();
@@ -45,6 +47,7 @@ Platform makePlatform(Scheduler &scheduler) {
     platform.panelWindows = std::move(desktop.panelWindows);
     platform.hotZones = std::move(desktop.hotZones);
     platform.pasteboard = std::move(desktop.pasteboard);
+    platform.filePromises = std::move(desktop.filePromises);
     platform.sounds = std::move(desktop.sounds);
     platform.thumbnails =
         std::make_unique<FreedesktopThumbnails>(scheduler, FreedesktopThumbnails::userLocations());

@@ -29,6 +29,7 @@ void setOwnFolders(StandardFolders &folders) {
         folders.data = root + QStringLiteral("/data");
         folders.cache = root + QStringLiteral("/cache");
         folders.runtime = root + QStringLiteral("/runtime");
+        folders.temporary = root + QStringLiteral("/temporary");
         return;
     }
     const QString user = QDir::homePath();
@@ -36,6 +37,7 @@ void setOwnFolders(StandardFolders &folders) {
     folders.data = dataFolder() + name;
     folders.cache = baseFolder("XDG_CACHE_HOME", user + QStringLiteral("/.cache")) + name;
     folders.runtime = baseFolder("XDG_RUNTIME_DIR", QDir::tempPath()) + name;
+    folders.temporary = QDir::cleanPath(QDir::tempPath());
 }
 
 } // namespace

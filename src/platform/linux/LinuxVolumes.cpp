@@ -11,7 +11,6 @@
 #include <cstring>
 #include <fcntl.h>
 #include <linux/magic.h>
-#include <poll.h>
 #include <string_view>
 #include <sys/stat.h>
 #include <sys/vfs.h>
@@ -33,12 +32,6 @@ bool isOneOf(const QByteArray &type, std::initializer_list<std::string_view> nam
 // A file system in user space ("fuse.sshfs") may be anything; one on a block device ("fuseblk") is a disk.
 bool isUserSpace(const QByteArray &type) {
     return type == "fuse" || type.startsWith("fuse.");
-}
-
-bool isRemote(const QByteArray &type) {
-    return isUserSpace(type) ||
-           isOneOf(type, {"nfs"sv, "nfs4"sv, "cifs"sv, "smb3"sv, "smbfs"sv, "9p"sv, "afs"sv, "ceph"sv,
-                          "virtiofs"sv, "glusterfs"sv, "ncpfs"sv, "vboxsf"sv});
 }
 
 // The FAT family numbers its files anew whenever it reads them.
@@ -76,7 +69,7 @@ std::uint64_t hashOfName(const MountEntry &mount) {
 // Each subvolume of btrfs numbers its files by itself, and its number is in the file-system id (as an
 // exclusive or); the UUID is that of all of them together. Of other systems the id may be a device number.
 std::uint64_t volumeId(const MountEntry &mount, const struct statfs *facts) {
-    if (isRemote(mount.type))
+    if (isRemoteFileSystem(mount.type))
         return hashOfName(mount);
     if (mount.type != "btrfs") {
         if (const QByteArray uuid = fileSystemUuid(mount.source); !uuid.isEmpty())
@@ -113,20 +106,17 @@ bool isRootMount(const MountEntry &mount) {
 
 } // namespace
 
-LinuxVolumes::LinuxVolumes() : m_mountTable(::open("/proc/self/mountinfo", O_RDONLY | O_CLOEXEC)) {}
-
-void LinuxVolumes::forgetAfterMountChange() {
-    // The kernel raises both for a change since the last call, see proc(5).
-    pollfd request{m_mountTable.number(), POLLPRI, 0};
-    const bool isUnchanged = m_mountTable.isOpen() && ::poll(&request, 1, 0) == 0;
-    if (!isUnchanged)
-        m_known.clear();
+bool isRemoteFileSystem(const QByteArray &type) {
+    return isUserSpace(type) ||
+           isOneOf(type, {"nfs"sv, "nfs4"sv, "cifs"sv, "smb3"sv, "smbfs"sv, "9p"sv, "afs"sv, "ceph"sv,
+                          "virtiofs"sv, "glusterfs"sv, "ncpfs"sv, "vboxsf"sv});
 }
 
 LinuxVolume LinuxVolumes::of(std::uint64_t device, std::uint64_t mountId, const QByteArray &path,
                              bool followsLinks) {
     const std::lock_guard lock(m_mutex);
-    forgetAfterMountChange();
+    if (m_changes.haveHappened())
+        m_known.clear();
     if (const auto known = m_known.constFind(device); known != m_known.constEnd())
         return *known;
 
@@ -142,7 +132,7 @@ LinuxVolume LinuxVolumes::of(std::uint64_t device, std::uint64_t mountId, const 
     }
     const MountEntry entry = mount == table.end() ? unlistedMount(facts) : *mount;
     volume.id = volumeId(entry, hasFacts ? &facts : nullptr);
-    volume.isRemote = isRemote(entry.type);
+    volume.isRemote = isRemoteFileSystem(entry.type);
     volume.hasLastingInodes = !numbersFilesAnew(entry.type);
     volume.hasLastingHandles = volume.hasLastingInodes && !volume.isRemote && entry.type != "fuseblk";
     m_known.insert(device, volume);
@@ -159,7 +149,8 @@ bool LinuxVolumes::isMounted(std::uint64_t id) {
         if (mount.type == "autofs")
             return false;
         struct statfs facts {};
-        const bool hasFacts = !isRemote(mount.type) && ::statfs(mount.mountPoint.constData(), &facts) == 0;
+        const bool hasFacts =
+            !isRemoteFileSystem(mount.type) && ::statfs(mount.mountPoint.constData(), &facts) == 0;
         const std::uint64_t mounted = volumeId(mount, hasFacts ? &facts : nullptr);
         // A subvolume inside the mounted one differs in its number alone.
         const bool isSubvolume = mount.type == "btrfs" && (mounted ^ id) >> 32 == 0;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/linux/Descriptor.h"
+#include "platform/linux/MountTableChanges.h"
 
 #include <QByteArray>
 #include <QHash>
@@ -24,12 +24,13 @@ struct LinuxVolume {
     bool isRemote = false;
 };
 
+// Whether a file system of that type is another machine's, or a program's that may ask one.
+[[nodiscard]] bool isRemoteFileSystem(const QByteArray &type);
+
 // The mounted file systems by device number. What was read once is kept until the mount table changes: a
 // device number may then stand for another file system. Any thread.
 class LinuxVolumes {
 public:
-    LinuxVolumes();
-
     // The volume of the file at `path`, or of what a link there leads to. Device and mount are those that
     // statx told of it.
     [[nodiscard]] LinuxVolume of(std::uint64_t device, std::uint64_t mountId, const QByteArray &path,
@@ -38,10 +39,8 @@ public:
     [[nodiscard]] bool isMounted(std::uint64_t id);
 
 private:
-    void forgetAfterMountChange();
-
     std::mutex m_mutex;
-    Descriptor m_mountTable;
+    MountTableChanges m_changes;
     QHash<std::uint64_t, LinuxVolume> m_known;
 };
 

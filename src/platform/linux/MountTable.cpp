@@ -24,6 +24,7 @@ QByteArray unescaped(const QByteArray &field) {
 
 std::optional<MountEntry> parseMountLine(const QByteArray &line) {
     // id parent major:minor root mount-point options [optional fields] - type source super-options
+    constexpr int rootField = 3;
     constexpr int mountPointField = 4;
     const QList<QByteArray> fields = line.trimmed().split(' ');
     const qsizetype separator = fields.indexOf(QByteArrayLiteral("-"));
@@ -33,8 +34,11 @@ std::optional<MountEntry> parseMountLine(const QByteArray &line) {
     const std::uint64_t id = fields.at(0).toULongLong(&isNumber);
     if (!isNumber)
         return std::nullopt;
-    return MountEntry{id, unescaped(fields.at(mountPointField)), unescaped(fields.at(separator + 1)),
-                      unescaped(fields.at(separator + 2))};
+    return MountEntry{.id = id,
+                      .mountPoint = unescaped(fields.at(mountPointField)),
+                      .type = unescaped(fields.at(separator + 1)),
+                      .source = unescaped(fields.at(separator + 2)),
+                      .root = unescaped(fields.at(rootField))};
 }
 
 std::vector<MountEntry> readMountTable() {

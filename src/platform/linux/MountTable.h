@@ -14,6 +14,8 @@ struct MountEntry {
     QByteArray mountPoint;
     QByteArray type;
     QByteArray source;
+    // The folder of the file system that is seen at the mount point.
+    QByteArray root;
 
     bool operator==(const MountEntry &) const = default;
 };

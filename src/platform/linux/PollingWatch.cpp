@@ -1,6 +1,6 @@
 #include "platform/linux/PollingWatch.h"
 
-#include <QFile>
+#include "base/FilePath.h"
 
 #include <sys/stat.h>
 
@@ -26,7 +26,7 @@ std::int64_t changeTime(const QByteArray &folder) {
 PollingWatch::PollingWatch(Scheduler &scheduler, const QString &folder,
                            std::function<void(std::uint32_t)> onEvents)
     : m_scheduler(scheduler),
-      m_folder(QFile::encodeName(folder)),
+      m_folder(pathBytes(folder)),
       m_onEvents(std::move(onEvents)),
       m_lastChange(changeTime(m_folder)) {
     wait();

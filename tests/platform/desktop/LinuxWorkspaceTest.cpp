@@ -1,5 +1,6 @@
 #include "platform/linux/desktop/LinuxWorkspace.h"
 
+#include "BusService.h"
 #include "ForeignProgram.h"
 #include "support/EventLoop.h"
 #include "support/Files.h"
@@ -7,7 +8,6 @@
 
 #include <QDBusConnection>
 #include <QDBusMessage>
-#include <QDBusVirtualObject>
 #include <QDir>
 #include <QTemporaryDir>
 #include <QUrl>
@@ -21,35 +21,6 @@ using testing::ElementsAre;
 namespace {
 
 using Event = Workspace::Event;
-
-// A program on the message bus of its own accord.
-class BusService final : public QDBusVirtualObject {
-public:
-    BusService(const QString &name, const QString &path)
-        : m_name(name), m_bus(QDBusConnection::connectToBus(QDBusConnection::SessionBus, name)) {
-        m_bus.registerVirtualObject(path, this);
-        m_bus.registerService(name);
-    }
-    ~BusService() override { QDBusConnection::disconnectFromBus(m_name); }
-
-    [[nodiscard]] QDBusConnection &bus() { return m_bus; }
-    [[nodiscard]] const QList<QDBusMessage> &calls() const { return m_calls; }
-    void failFromNowOn() { m_isFailing = true; }
-
-    QString introspect(const QString &) const override { return {}; }
-    bool handleMessage(const QDBusMessage &message, const QDBusConnection &bus) override {
-        m_calls.append(message);
-        bus.send(m_isFailing ? message.createErrorReply(QDBusError::Failed, QStringLiteral("no"))
-                             : message.createReply());
-        return true;
-    }
-
-private:
-    const QString m_name;
-    QDBusConnection m_bus;
-    QList<QDBusMessage> m_calls;
-    bool m_isFailing = false;
-};
 
 class LinuxWorkspaceTest : public testing::Test {
 protected:

@@ -1,7 +1,8 @@
 #include "platform/linux/desktop/DesktopApplications.h"
 
+#include "base/FilePath.h"
+
 #include <QCoreApplication>
-#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -33,7 +34,7 @@ using Infos = std::unique_ptr<GList, FreeInfos>;
 using Text = std::unique_ptr<char, Free>;
 
 File fileAt(const QString &path) {
-    return File(g_file_new_for_path(QFile::encodeName(path).constData()));
+    return File(g_file_new_for_path(pathBytes(path).constData()));
 }
 
 Text contentType(const QString &path) {

@@ -1,6 +1,7 @@
 #include "platform/linux/desktop/DesktopServices.h"
 
 #include "platform/linux/desktop/CanberraSounds.h"
+#include "platform/linux/desktop/DesktopFilePromises.h"
 #include "platform/linux/desktop/LinuxWorkspace.h"
 #include "platform/linux/desktop/QtDisplays.h"
 #include "platform/linux/desktop/QtHotZones.h"
@@ -33,6 +34,7 @@ DesktopServices makeDesktopServices(Scheduler &scheduler, std::optional<CameraHo
     services.workspace = std::make_unique<LinuxWorkspace>(connection);
     services.sounds = std::make_unique<CanberraSounds>(EventSoundSetting::ofDesktop(connection));
     services.pasteboard = makePasteboard(scheduler, connection);
+    services.filePromises = std::make_unique<DesktopFilePromises>(connection);
     if (!connection) {
         services.inputMonitor = std::make_unique<QtInputMonitor>(scheduler);
         services.panelWindows = std::make_unique<QtPanelWindows>();

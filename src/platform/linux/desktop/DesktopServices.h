@@ -2,6 +2,7 @@
 
 #include "base/Scheduler.h"
 #include "platform/Displays.h"
+#include "platform/FilePromises.h"
 #include "platform/HotZones.h"
 #include "platform/InputMonitor.h"
 #include "platform/PanelWindows.h"
@@ -24,6 +25,7 @@ struct DesktopServices {
     std::unique_ptr<HotZones> hotZones;
     std::unique_ptr<Sounds> sounds;
     std::unique_ptr<Pasteboard> pasteboard;
+    std::unique_ptr<FilePromises> filePromises;
 };
 
 // The services for the windowing system that Qt runs on. The application object and the scheduler must

@@ -1,5 +1,7 @@
 #include "platform/linux/desktop/FileManager.h"
 
+#include "platform/linux/FileUri.h"
+
 #include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
@@ -40,7 +42,7 @@ bool isAvailable(const QDBusConnection &bus) {
 QDBusMessage showItemsCall(const QStringList &paths) {
     QStringList urls;
     for (const QString &path : paths)
-        urls.append(QString::fromLatin1(QUrl::fromLocalFile(path).toEncoded()));
+        urls.append(QString::fromLatin1(fileUri(path)));
     QDBusMessage call =
         QDBusMessage::createMethodCall(serviceName(), QStringLiteral("/org/freedesktop/FileManager1"),
                                        serviceName(), QStringLiteral("ShowItems"));
