@@ -22,11 +22,12 @@ tl::unexpected<Error> wrongUsage(const QString &message) {
 std::optional<CommandLine::Verb> verbNamed(const QString &word) {
     using Verb = CommandLine::Verb;
     static const QHash<QString, Verb> verbs{
-        {QStringLiteral("open"), Verb::open},     {QStringLiteral("close"), Verb::close},
-        {QStringLiteral("toggle"), Verb::toggle}, {QStringLiteral("status"), Verb::status},
-        {QStringLiteral("scan"), Verb::scan},     {QStringLiteral("quit"), Verb::quit},
-        {QStringLiteral("help"), Verb::help},     {QStringLiteral("--help"), Verb::help},
-        {QStringLiteral("-h"), Verb::help},       {QStringLiteral("--version"), Verb::version}};
+        {QStringLiteral("open"), Verb::open},        {QStringLiteral("close"), Verb::close},
+        {QStringLiteral("toggle"), Verb::toggle},    {QStringLiteral("status"), Verb::status},
+        {QStringLiteral("add"), Verb::add},          {QStringLiteral("scan"), Verb::scan},
+        {QStringLiteral("quit"), Verb::quit},        {QStringLiteral("help"), Verb::help},
+        {QStringLiteral("--help"), Verb::help},      {QStringLiteral("-h"), Verb::help},
+        {QStringLiteral("--version"), Verb::version}};
     const auto found = verbs.constFind(word);
     return found == verbs.cend() ? std::nullopt : std::optional(*found);
 }
@@ -43,6 +44,10 @@ Result<void> takeWord(CommandLine &line, QStringList &words) {
         if (words.isEmpty() || !shelfTabNamed(words.constFirst()))
             return wrongUsage(translated("--tab takes tray, screenshots or text."));
         line.tab = words.takeFirst();
+        return {};
+    }
+    if (line.verb == Verb::add) {
+        line.files += word;
         return {};
     }
     if (line.verb == Verb::scan && line.path.isEmpty() && !word.startsWith(u'-')) {
@@ -69,6 +74,8 @@ Result<CommandLine> CommandLine::parse(const QStringList &words) {
     }
     if (line.verb == Verb::scan && line.path.isEmpty())
         return wrongUsage(translated("scan takes the folder to look at."));
+    if (line.verb == Verb::add && line.files.isEmpty())
+        return wrongUsage(translated("add takes the files to put into the file tray."));
     return line;
 }
 
@@ -79,6 +86,7 @@ QString CommandLine::usage() {
                       "  tembra open [--tab TAB]      open the shelf (TAB: tray, screenshots or text)\n"
                       "  tembra close                 close the shelf\n"
                       "  tembra toggle                open or close the shelf\n"
+                      "  tembra add FILE...           put files into the file tray\n"
                       "  tembra status [--json]       tell the state of the running one\n"
                       "  tembra scan FOLDER [--json]  tell what is recognised as a capture, and why\n"
                       "  tembra quit                  end the running one\n"

@@ -24,6 +24,8 @@ Result<QString> CommandService::perform(const QString &command, const QStringLis
         return open(arguments);
     if (command == u"status")
         return status(arguments);
+    if (command == u"add")
+        return add(arguments);
     if (command == u"reopen")
         m_reopen();
     else if (command == u"close")
@@ -45,6 +47,12 @@ Result<QString> CommandService::open(const QStringList &arguments) {
             return refused(QCoreApplication::translate("CommandService", "This tab is not shown."));
     }
     m_shelf.openManually();
+    return QString();
+}
+
+Result<QString> CommandService::add(const QStringList &paths) {
+    if (const auto added = m_shelf.addToTray(paths); !added)
+        return refused(added.error().message);
     return QString();
 }
 

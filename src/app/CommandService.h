@@ -23,6 +23,7 @@ public:
 
 private:
     Result<QString> open(const QStringList &arguments);
+    Result<QString> add(const QStringList &paths);
     Result<QString> status(const QStringList &arguments) const;
 
     ShelfController &m_shelf;

@@ -31,6 +31,18 @@ QJsonObject screenshotsObject(const ShelfStatus &status) {
             {QStringLiteral("sections"), sections}};
 }
 
+QJsonObject trayObject(const ShelfStatus &status) {
+    QJsonArray entries;
+    for (const ShelfStatus::TrayEntry &entry : status.tray)
+        entries.append(
+            QJsonObject{{QStringLiteral("path"), entry.path},
+                        {QStringLiteral("state"),
+                         entry.isAvailable ? QStringLiteral("available") : QStringLiteral("unavailable")}});
+    return {{QStringLiteral("count"), entries.size()},
+            {QStringLiteral("status"), status.trayStatus},
+            {QStringLiteral("entries"), entries}};
+}
+
 QJsonValue lastCaptureValue(const ShelfStatus &status) {
     if (!status.lastCapture)
         return QJsonValue::Null;
@@ -63,7 +75,7 @@ QByteArray statusJson(const ShelfStatus &status, const QString &version) {
                                                      {QStringLiteral("text"), status.notificationText},
                                                      {QStringLiteral("detail"), status.notificationDetail},
                                                      {QStringLiteral("count"), status.notificationCount}}},
-        {QStringLiteral("tray"), QJsonObject{{QStringLiteral("count"), status.trayCount}}},
+        {QStringLiteral("tray"), trayObject(status)},
         {QStringLiteral("lastCapture"), lastCaptureValue(status)},
         {QStringLiteral("autoClean"), autoCleanObject(status)},
         {QStringLiteral("undo"), QJsonArray::fromStringList(status.undo)},

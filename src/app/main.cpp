@@ -7,6 +7,7 @@
 #include "platform/SingleInstance.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QTranslator>
 
 #include <cstdio>
@@ -46,6 +47,14 @@ void loadWording(QTranslator &wording) {
         QCoreApplication::installTranslator(&wording);
 }
 
+// The running program has another current folder.
+QStringList absolutePaths(const QStringList &files) {
+    QStringList paths;
+    for (const QString &file : files)
+        paths += QDir::cleanPath(QDir::current().absoluteFilePath(file));
+    return paths;
+}
+
 Result<QString> sendToRunning(const CommandLine &line) {
     using Verb = CommandLine::Verb;
     const auto instance = makeSingleInstance();
@@ -57,6 +66,8 @@ Result<QString> sendToRunning(const CommandLine &line) {
         return instance->send(QStringLiteral("toggle"), {}, true);
     case Verb::close:
         return instance->send(QStringLiteral("close"), {}, false);
+    case Verb::add:
+        return instance->send(QStringLiteral("add"), absolutePaths(line.files), true);
     case Verb::status:
         return instance->send(QStringLiteral("status"),
                               line.json ? QStringList{QStringLiteral("--json")} : QStringList(), false);

@@ -32,8 +32,12 @@ constexpr Pose alone{{74, 42}, -3};
 
 } // namespace
 
-CaptureNotificationView::CaptureNotificationView(Thumbnails &thumbnails, QWidget *parent)
-    : QWidget(parent), m_thumbnails(thumbnails), m_undo(new TembraButton(TembraButton::Kind::plain, this)) {
+CaptureNotificationView::CaptureNotificationView(Thumbnails &thumbnails, const FileFactsReader &files,
+                                                 QWidget *parent)
+    : QWidget(parent),
+      m_thumbnails(thumbnails),
+      m_files(files),
+      m_undo(new TembraButton(TembraButton::Kind::plain, this)) {
     m_undo->setText(tr("Undo"));
     m_undo->resize(m_undo->sizeHint());
     m_undo->hide();
@@ -84,7 +88,7 @@ void CaptureNotificationView::mouseMoveEvent(QMouseEvent *event) {
             pictures.append(m_images.value(path));
     }
     Q_EMIT dragBegan();
-    dragFiles(*this, m_notification.previews, pictures);
+    dragFiles(*this, m_notification.previews, m_files, pictures);
     Q_EMIT dragEnded();
 }
 

@@ -13,6 +13,7 @@
 
 namespace tembra {
 
+class FileFactsReader;
 class TembraButton;
 
 // The notification: the newest captures as a small stack of pictures, beside a line of text and one of
@@ -21,7 +22,7 @@ class CaptureNotificationView final : public QWidget {
     Q_OBJECT
 
 public:
-    CaptureNotificationView(Thumbnails &thumbnails, QWidget *parent);
+    CaptureNotificationView(Thumbnails &thumbnails, const FileFactsReader &files, QWidget *parent);
 
     void apply(const CaptureNotification &notification);
 
@@ -49,6 +50,7 @@ private:
     void paintText(QPainter &painter) const;
 
     Thumbnails &m_thumbnails;
+    const FileFactsReader &m_files;
     CaptureNotification m_notification;
     TembraButton *m_undo;
     // Where the button went down; nothing when it is up, or once a drag began.

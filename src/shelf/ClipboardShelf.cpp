@@ -38,6 +38,7 @@ QLabel *makeHint(QWidget *parent) {
 FileTile tile(const ClipboardEntry &entry) {
     return {.id = entry.id,
             .path = entry.lastKnownPath,
+            .revision = QString::number(entry.modifiedAt.time_since_epoch().count()),
             .isAvailable = entry.available,
             .isFolder = entry.isFolder};
 }
@@ -174,7 +175,7 @@ void ClipboardShelf::paste() {
 }
 
 void ClipboardShelf::dragSelected() {
-    dragFiles(*m_grid, reachableSelection(), m_grid->selectedPictures());
+    dragFiles(*m_grid, reachableSelection(), m_services.files, m_grid->selectedPictures());
 }
 
 void ClipboardShelf::takeFocus() {

@@ -1,28 +1,33 @@
 #include "shelf/FileDrag.h"
 
+#include "base/FileUri.h"
+#include "platform/FileFacts.h"
 #include "shelf/DragPreview.h"
 
 #include <QDrag>
-#include <QFileInfo>
 #include <QMimeData>
-#include <QUrl>
 #include <QWidget>
 
 namespace tembra {
 
-void dragFiles(QWidget &source, const QStringList &paths, const QList<QImage> &pictures) {
-    QList<QUrl> urls;
+void dragFiles(QWidget &source, const QStringList &paths, const FileFactsReader &files,
+               const QList<QImage> &pictures) {
+    // By bytes: a name need not be text.
+    QByteArray uris;
+    int count = 0;
     for (const QString &path : paths) {
-        if (QFileInfo::exists(path))
-            urls.append(QUrl::fromLocalFile(path));
+        if (!files.facts(path))
+            continue;
+        uris += fileUri(path) + "\r\n";
+        ++count;
     }
-    if (urls.isEmpty())
+    if (count == 0)
         return;
     auto *content = new QMimeData;
-    content->setUrls(urls);
+    content->setData(QStringLiteral("text/uri-list"), uris);
     auto *drag = new QDrag(&source);
     drag->setMimeData(content);
-    const QPixmap preview = dragPreview(pictures, static_cast<int>(urls.size()), source.devicePixelRatioF());
+    const QPixmap preview = dragPreview(pictures, count, source.devicePixelRatioF());
     drag->setPixmap(preview);
     drag->setHotSpot({static_cast<int>(preview.deviceIndependentSize().width() / 2),
                       static_cast<int>(preview.deviceIndependentSize().height() / 2)});

@@ -10,8 +10,11 @@ QT_END_NAMESPACE
 
 namespace tembra {
 
+class FileFactsReader;
+
 // Drags files out of the shelf, always as copies; those that are not there any more are left out. Returns
 // when the drag has ended. `pictures` are those of the first files.
-void dragFiles(QWidget &source, const QStringList &paths, const QList<QImage> &pictures);
+void dragFiles(QWidget &source, const QStringList &paths, const FileFactsReader &files,
+               const QList<QImage> &pictures);
 
 } // namespace tembra

@@ -17,7 +17,7 @@
 
 namespace tembra {
 
-ShelfContent::ShelfContent(const ShelfServices &services, ClipboardStore &store) {
+ShelfContent::ShelfContent(const ShelfServices &services, ClipboardStore &store) : m_files(services.files) {
     installAccessibleShelf();
     build(services, store);
     connectTray();
@@ -52,7 +52,7 @@ void ShelfContent::build(const ShelfServices &services, ClipboardStore &store) {
     m_grid = new NativeScreenshotGrid(presentation, this);
     m_tray = new ClipboardShelf(store, services, presentation, this);
     m_message = new ScreenshotMessageView(this);
-    m_notification = new CaptureNotificationView(services.thumbnails, this);
+    m_notification = new CaptureNotificationView(services.thumbnails, services.files, this);
 }
 
 void ShelfContent::connectTray() {
@@ -145,7 +145,7 @@ void ShelfContent::revealSelection() {
 void ShelfContent::dragSelected() {
     if (m_activeTab == ShelfTab::fileTray)
         return m_tray->dragSelected();
-    dragFiles(*m_grid, m_grid->selectedPaths(), m_grid->selectedPictures());
+    dragFiles(*m_grid, m_grid->selectedPaths(), m_files, m_grid->selectedPictures());
 }
 
 QSet<ScreenshotFileIdentity> ShelfContent::selection() const {

@@ -101,6 +101,7 @@ private:
     void rememberTabResponder(ShelfTab tab);
     void restoreTabResponder(ShelfTab tab);
 
+    const FileFactsReader &m_files;
     std::vector<ShelfTab> m_tabs;
     ShelfTab m_activeTab = ShelfTab::screenshots;
     FileThumbnailCache m_thumbnailCache;

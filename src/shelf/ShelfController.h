@@ -84,6 +84,8 @@ public:
     // shelf closes.
     bool activateTab(ShelfTab tab, bool duringDrag = false);
 
+    // Puts files into the file tray. Error: what could not be taken, and why.
+    Result<void> addToTray(const QStringList &paths);
     void chooseFolder();
     // Makes the folder the one that is shown; `adopting` leaves the screenshot tool's own setting as it is,
     // since the folder came from there.

@@ -87,6 +87,19 @@ void ShelfController::pasteIntoTray() {
         content().tray().paste();
 }
 
+Result<void> ShelfController::addToTray(const QStringList &paths) {
+    ClipboardStore &tray = m_session->clipboard;
+    const auto refused = [](const QString &why) {
+        return failure({QStringLiteral("Tembra.FileTray"), 1, why, {}});
+    };
+    if (!tray.canReceive())
+        return refused(tr("The file tray is switched off."));
+    tray.add(tray.importGeneration(), paths);
+    if (tray.status())
+        return refused(*tray.status());
+    return {};
+}
+
 void ShelfController::trayChanged() {
     if (!m_expanded || m_activeTab != ShelfTab::fileTray || !m_content)
         return;

@@ -6,6 +6,7 @@
 #include "shelf/ShelfContent.h"
 #include "shelf/ShelfController.h"
 #include "shelf/ShelfSurfaces.h"
+#include "tray/ClipboardStore.h"
 
 namespace tembra {
 
@@ -41,7 +42,9 @@ ShelfStatus ShelfController::status() const {
     status.nextAutoCleanCheck = m_session->timeToAutoCleanCheck();
     status.undo = m_session->screenshotUndoManager.undoNames();
     status.redo = m_session->screenshotUndoManager.redoNames();
-    status.trayCount = static_cast<int>(m_session->clipboard.entries().size());
+    for (const ClipboardEntry &entry : m_session->clipboard.entries())
+        status.tray.push_back({entry.lastKnownPath, entry.available});
+    status.trayStatus = m_session->clipboard.status().value_or(QString());
     return status;
 }
 

@@ -46,7 +46,12 @@ struct ShelfStatus {
 
     std::optional<Capture> lastCapture;
 
-    int trayCount = 0;
+    struct TrayEntry {
+        QString path;
+        bool isAvailable = true;
+    };
+    std::vector<TrayEntry> tray;
+    QString trayStatus;
     // 0 is never.
     int autoCleanDays = 0;
     int autoCleanReview = 0;

@@ -27,6 +27,8 @@ struct ClipboardEntry {
     // The file can be reached now.
     bool available = true;
     bool isFolder = false;
+    // Of the file's content, as last seen.
+    Instant modifiedAt{};
 
     bool operator==(const ClipboardEntry &) const = default;
 };

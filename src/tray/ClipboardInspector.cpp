@@ -47,7 +47,8 @@ ClipboardEntry ClipboardInspector::entryFor(const QString &path, const FileFacts
                          .reference = m_references.hold(path),
                          .identity = ScreenshotFileIdentity::of(path, facts),
                          .lastKnownPath = path,
-                         .isFolder = facts.kind == FileKind::directory};
+                         .isFolder = facts.kind == FileKind::directory,
+                         .modifiedAt = facts.modifiedAt};
     if (neighbour && isBeside(path, facts, *neighbour))
         entry.volume = neighbour->volume;
     else if (const auto volume = m_volumes.volumeOf(path))
@@ -103,13 +104,17 @@ bool ClipboardInspector::isLost(const ClipboardEntry &entry) const {
 
 ClipboardEntry ClipboardInspector::refreshed(ClipboardEntry entry) const {
     if (entry.reference) {
-        if (const auto path = entry.reference->path())
-            return *path == entry.lastKnownPath ? entry : rebound(std::move(entry), *path);
+        if (const auto path = entry.reference->path(); path && *path != entry.lastKnownPath)
+            return rebound(std::move(entry), *path);
     }
     const QString path = entry.lastKnownPath;
     const auto facts = m_files.facts(path);
-    if (!facts || (!entry.reference && ScreenshotFileIdentity::of(path, *facts) == entry.identity))
+    if (!facts)
         return entry;
+    if (ScreenshotFileIdentity::of(path, *facts) == entry.identity) {
+        entry.modifiedAt = facts->modifiedAt;
+        return entry;
+    }
     entry.reference = m_references.hold(path);
     return rebound(std::move(entry), path);
 }
@@ -119,6 +124,7 @@ ClipboardEntry ClipboardInspector::rebound(ClipboardEntry entry, const QString &
     if (const auto facts = m_files.facts(path)) {
         entry.identity = ScreenshotFileIdentity::of(path, *facts);
         entry.isFolder = facts->kind == FileKind::directory;
+        entry.modifiedAt = facts->modifiedAt;
     }
     if (const auto volume = m_volumes.volumeOf(path))
         entry.volume = *volume;

@@ -61,6 +61,8 @@ void ClipboardStore::stopMonitoring() {
 
 void ClipboardStore::scheduleReconciliation() {
     requireMainThread();
+    if (m_entries.empty())
+        return;
     m_reconciliation = m_services.scheduler.schedule(debounce, [this] { reconcileFiles(); });
 }
 

@@ -21,6 +21,7 @@ TEST(CommandLine, understandsEveryCommand) {
         {"status --json", {.verb = Verb::status, .json = true}},
         {"scan --json /a", {.verb = Verb::scan, .path = QStringLiteral("/a"), .json = true}},
         {"scan /a --json", {.verb = Verb::scan, .path = QStringLiteral("/a"), .json = true}},
+        {"add a -b", {.verb = Verb::add, .files = {QStringLiteral("a"), QStringLiteral("-b")}}},
         {"quit", {.verb = Verb::quit}},
     };
     for (const auto &[line, expected] : table) {
@@ -32,6 +33,6 @@ TEST(CommandLine, understandsEveryCommand) {
 
 TEST(CommandLine, refusesWhatItDoesNotUnderstand) {
     for (const char *line : {"fly", "open --tab", "open --tab sky", "close now", "scan", "scan --json",
-                             "scan a b", "toggle --json", "-x"})
+                             "scan a b", "add", "toggle --json", "-x"})
         EXPECT_FALSE(CommandLine::parse(words(line))) << line;
 }

@@ -54,7 +54,8 @@ TEST(ScanReport, saysOfEachFileWhatItIsAndWhy) {
         EXPECT_EQ(capture[u"because"].toString(), QString::fromUtf8(c.because)) << c.name;
         EXPECT_EQ(capture[u"complete"].toBool(), c.complete) << c.name;
         EXPECT_EQ(capture[u"section"].toString(), QStringLiteral("Today")) << c.name;
-        EXPECT_TRUE(QDateTime::fromString(capture[u"createdAt"].toString(), Qt::ISODateWithMs).isValid()) << c.name;
+        EXPECT_TRUE(QDateTime::fromString(capture[u"createdAt"].toString(), Qt::ISODateWithMs).isValid())
+            << c.name;
     }
     ASSERT_EQ(report->skipped.size(), 2U);
     EXPECT_EQ(report->skipped[0].path, path("holiday.jpg"));
@@ -73,7 +74,8 @@ TEST(StatusReport, givesScriptsEveryKeyAlsoOfAShelfThatKnowsNothing) {
     status.folder = QStringLiteral("/shots");
     status.frame = {268, 0, 744, 256};
     status.sections = {{QStringLiteral("Today"), 3}};
-    status.lastCapture = ShelfStatus::Capture{QStringLiteral("/shots/a.png"), Instant(std::chrono::seconds(1))};
+    status.lastCapture =
+        ShelfStatus::Capture{QStringLiteral("/shots/a.png"), Instant(std::chrono::seconds(1))};
     const QJsonObject full = QJsonDocument::fromJson(statusJson(status, {})).object();
     EXPECT_EQ(full[u"shelf"][u"frame"].toArray(), QJsonArray({268, 0, 744, 256}));
     EXPECT_EQ(full[u"screenshots"][u"sections"][0][u"count"].toInt(), 3);

@@ -80,6 +80,10 @@ void FileManagerWindow::dragTo(QPoint point) {
     m_pointer = point;
 }
 
+void FileManagerWindow::press(const QStringList &keys) {
+    xdotool(QStringList{QStringLiteral("key")} + keys);
+}
+
 void FileManagerWindow::release() {
     xdotool({QStringLiteral("mouseup"), QStringLiteral("1")});
 }

@@ -28,6 +28,7 @@ public:
     // By motion at the speed of a hand: programs that drag answer each other on the way.
     void dragTo(QPoint point);
     void release();
+    void press(const QStringList &keys);
     // Where it asks what to do with what was dropped: to copy it. Whether it asked.
     [[nodiscard]] bool agreeToCopy();
 

@@ -21,9 +21,7 @@ protected:
 
     TrayHands() {
         QDir().mkpath(leftover);
-        tembra.tool(QStringLiteral("scrot"), {tembra.screenshots() + QStringLiteral("/Screenshot from "
-                                                                                    "2026-11-21 "
-                                                                                    "10-15-01.png")});
+        tembra.tool(QStringLiteral("scrot"), {screenshot});
         tembra.start();
         EXPECT_TRUE(tembra.waitFor([](const QJsonObject &status) {
             return status[u"screenshots"][u"count"].toInt() == 1;
@@ -36,6 +34,8 @@ protected:
 
     TembraProcess tembra;
     FileManagerWindow files{tembra};
+    const QString screenshot =
+        tembra.screenshots() + QStringLiteral("/Screenshot from 2026-11-21 10-15-01.png");
     // In the scratch folder.
     const QString leftover = tembra.home() + QStringLiteral("/tembra/temporary/Pavrell-Clipboard/old");
 };
@@ -72,6 +72,35 @@ TEST_F(TrayHands, aDragThatGoesElsewhereLeavesTheShelfAsItWas) {
     EXPECT_TRUE(tembra.waitFor([](const QJsonObject &status) {
         return !isOpen(status) && tab(status) == QStringLiteral("screenshots") && trayCount(status) == 0;
     })) << QJsonDocument(tembra.status()).toJson().toStdString();
+}
+
+TEST_F(TrayHands, whatIsPastedIsKeptAndCopiedAgainAsFiles) {
+    const QString named = tembra.home() + QStringLiteral("/named file.txt");
+    EXPECT_TRUE(QFile(named).open(QIODevice::WriteOnly));
+    EXPECT_EQ(tembra.command({QStringLiteral("add"), named}).exitStatus, 0);
+    EXPECT_EQ(tembra.command({QStringLiteral("add"), QStringLiteral("missing")}).exitStatus, 1);
+    tembra.command({QStringLiteral("open"), QStringLiteral("--tab"), QStringLiteral("tray")});
+    ASSERT_TRUE(
+        tembra.waitFor([](const QJsonObject &status) { return isOpen(status) && trayCount(status) == 1; }));
+
+    // An image that is no file yet, as a browser or an editor offers it.
+    tembra.tool(QStringLiteral("xclip"), {QStringLiteral("-selection"), QStringLiteral("clipboard"),
+                                          QStringLiteral("-t"), QStringLiteral("image/png"), screenshot});
+    files.press({QStringLiteral("ctrl+v")});
+    EXPECT_TRUE(tembra.waitFor([](const QJsonObject &status) {
+        const QJsonArray entries = status[u"tray"][u"entries"].toArray();
+        return entries.size() == 2 &&
+               entries[1][u"path"].toString().endsWith(QStringLiteral("/File Tray Image.png"));
+    })) << QJsonDocument(tembra.status()).toJson().toStdString();
+
+    files.press({QStringLiteral("ctrl+a"), QStringLiteral("ctrl+c")});
+    const QStringList read{QStringLiteral("-o"), QStringLiteral("-selection"), QStringLiteral("clipboard"),
+                           QStringLiteral("-t"), QStringLiteral("text/uri-list")};
+    EXPECT_TRUE(tembra.waitFor([this, &read](const QJsonObject &) {
+        const QString copied = tembra.tool(QStringLiteral("xclip"), read).output;
+        return copied.contains(QStringLiteral("/named%20file.txt")) &&
+               copied.contains(QStringLiteral("/File%20Tray%20Image.png"));
+    }));
 }
 
 TEST_F(TrayHands, aScreenshotDraggedIntoAFolderArrivesThereAsACopy) {

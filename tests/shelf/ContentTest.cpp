@@ -156,7 +156,8 @@ protected:
     [[nodiscard]] QImage look() { return view.grab().toImage(); }
 
     FakeThumbnails thumbnails;
-    CaptureNotificationView view{thumbnails, nullptr};
+    FakeFileFacts files;
+    CaptureNotificationView view{thumbnails, files, nullptr};
 };
 
 TEST_F(NotificationViewTest, countsWhatIsNotSeen) {

@@ -17,7 +17,7 @@ public:
     [[nodiscard]] bool isComposited() const override { return true; }
     Result<void> reveal(const QStringList &paths) override {
         revealed = paths;
-        return {};
+        return openRefusal;
     }
     Result<void> openFolder(const QString &path) override {
         openedFolder = path;

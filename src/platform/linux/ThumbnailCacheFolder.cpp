@@ -1,6 +1,6 @@
 #include "platform/linux/ThumbnailCacheFolder.h"
 
-#include "platform/linux/FileUri.h"
+#include "base/FileUri.h"
 
 #include <QCryptographicHash>
 #include <QDir>

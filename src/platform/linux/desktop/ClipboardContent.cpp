@@ -1,6 +1,6 @@
 #include "platform/linux/desktop/ClipboardContent.h"
 
-#include "platform/linux/FileUri.h"
+#include "base/FileUri.h"
 
 #include <QBuffer>
 #include <QImageReader>

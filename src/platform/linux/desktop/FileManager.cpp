@@ -1,6 +1,6 @@
 #include "platform/linux/desktop/FileManager.h"
 
-#include "platform/linux/FileUri.h"
+#include "base/FileUri.h"
 
 #include <QCoreApplication>
 #include <QDBusConnection>

@@ -1,7 +1,7 @@
 #include "platform/linux/desktop/X11DirectSave.h"
 
 #include "base/FilePath.h"
-#include "platform/linux/FileUri.h"
+#include "base/FileUri.h"
 #include "platform/linux/desktop/X11Connection.h"
 
 #include <QCoreApplication>
