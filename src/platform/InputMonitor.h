@@ -30,9 +30,6 @@ public:
     // Motion is reported only while the left button is down. Dropping the handle ends it.
     [[nodiscard]] virtual std::unique_ptr<Observation>
     observe(std::function<void(const Event &)> onEvent) = 0;
-    // Called while the pointer moves, at most sixty times a second, for as long as the handle lives: only for
-    // short waits, every move wakes the process.
-    [[nodiscard]] virtual std::unique_ptr<Observation> observeMotion(std::function<void()> onMove) = 0;
     // Another program is offering something by drag and drop, as far as the platform tells.
     [[nodiscard]] virtual bool isForeignDragOffered() const = 0;
     [[nodiscard]] virtual ScreenPoint pointer() const = 0;

@@ -13,7 +13,6 @@ public:
         m_onEvent = std::move(onEvent);
         return std::make_unique<Handle>(*this);
     }
-    [[nodiscard]] std::unique_ptr<Observation> observeMotion(std::function<void()>) override { return {}; }
     [[nodiscard]] bool isForeignDragOffered() const override { return isDragOffered; }
     [[nodiscard]] ScreenPoint pointer() const override { return pointerPoint; }
 

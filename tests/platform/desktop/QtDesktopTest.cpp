@@ -65,10 +65,8 @@ TEST_F(QtDesktopTest, theProgramsOwnClicksAndDragsAreReportedWhileObserved) {
     window.show();
     QWindow *const handle = window.windowHandle();
     std::vector<InputMonitor::Event> events;
-    int moves = 0;
     auto clicks =
         m_services.inputMonitor->observe([&](const InputMonitor::Event &event) { events.push_back(event); });
-    auto motion = m_services.inputMonitor->observeMotion([&] { ++moves; });
     send(handle, QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
     send(handle, QEvent::MouseMove, Qt::NoButton, Qt::LeftButton);
     send(handle, QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton);
@@ -79,16 +77,11 @@ TEST_F(QtDesktopTest, theProgramsOwnClicksAndDragsAreReportedWhileObserved) {
     EXPECT_EQ(kinds, (std::vector{Kind::leftDown, Kind::leftDragged, Kind::leftUp, Kind::rightDown}));
     EXPECT_EQ(events[0].point, (ScreenPoint{55, 62}));
     EXPECT_TRUE(events[0].local);
-    EXPECT_EQ(moves, 1);
-    m_scheduler.advance(17ms);
-    EXPECT_EQ(moves, 2);
 
     clicks.reset();
-    motion.reset();
     send(handle, QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
     send(handle, QEvent::MouseMove, Qt::NoButton, Qt::LeftButton);
     EXPECT_EQ(events.size(), 4U);
-    EXPECT_EQ(moves, 2);
     EXPECT_EQ(m_scheduler.pendingCount(), 0);
 }
 

@@ -36,7 +36,7 @@ DesktopServices makeDesktopServices(Scheduler &scheduler, std::optional<CameraHo
     services.pasteboard = makePasteboard(scheduler, connection);
     services.filePromises = std::make_unique<DesktopFilePromises>(connection);
     if (!connection) {
-        services.inputMonitor = std::make_unique<QtInputMonitor>(scheduler);
+        services.inputMonitor = std::make_unique<QtInputMonitor>();
         services.panelWindows = std::make_unique<QtPanelWindows>();
         services.hotZones = std::make_unique<QtHotZones>();
         return services;

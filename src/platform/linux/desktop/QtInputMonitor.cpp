@@ -6,18 +6,11 @@
 
 namespace tembra {
 
-QtInputMonitor::QtInputMonitor(Scheduler &scheduler)
-    : m_throttle(scheduler, [this] { m_motionObservers.notify(); }),
-      m_observers([this] { updateFilter(); }),
-      m_motionObservers([this] { updateFilter(); }) {}
+QtInputMonitor::QtInputMonitor() : m_observers([this] { updateFilter(); }) {}
 
 std::unique_ptr<InputMonitor::Observation>
 QtInputMonitor::observe(std::function<void(const Event &)> onEvent) {
     return m_observers.add(std::move(onEvent));
-}
-
-std::unique_ptr<InputMonitor::Observation> QtInputMonitor::observeMotion(std::function<void()> onMove) {
-    return m_motionObservers.add(std::move(onMove));
 }
 
 bool QtInputMonitor::isForeignDragOffered() const {
@@ -42,9 +35,7 @@ bool QtInputMonitor::eventFilter(QObject *receiver, QEvent *event) {
 
 void QtInputMonitor::updateFilter() {
     qGuiApp->removeEventFilter(this);
-    if (m_observers.isEmpty() && m_motionObservers.isEmpty())
-        m_throttle.cancel();
-    else
+    if (!m_observers.isEmpty())
         qGuiApp->installEventFilter(this);
 }
 
@@ -52,8 +43,6 @@ void QtInputMonitor::receive(const QMouseEvent &event) {
     if (event.type() == QEvent::MouseMove) {
         if (event.buttons().testFlag(Qt::LeftButton))
             report(Kind::leftDragged, event);
-        if (!m_motionObservers.isEmpty())
-            m_throttle.move();
         return;
     }
     const bool isDown = event.type() == QEvent::MouseButtonPress;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "platform/InputMonitor.h"
-#include "platform/linux/desktop/MotionThrottle.h"
 #include "platform/linux/desktop/Observers.h"
 
 #include <QObject>
@@ -16,10 +15,9 @@ namespace tembra {
 // windows.
 class QtInputMonitor final : public QObject, public InputMonitor {
 public:
-    explicit QtInputMonitor(Scheduler &scheduler);
+    QtInputMonitor();
 
     [[nodiscard]] std::unique_ptr<Observation> observe(std::function<void(const Event &)> onEvent) override;
-    [[nodiscard]] std::unique_ptr<Observation> observeMotion(std::function<void()> onMove) override;
     [[nodiscard]] bool isForeignDragOffered() const override;
     [[nodiscard]] ScreenPoint pointer() const override;
 
@@ -30,9 +28,7 @@ private:
     void receive(const QMouseEvent &event);
     void report(Kind kind, const QMouseEvent &event);
 
-    MotionThrottle m_throttle;
     Observers<Observation, const Event &> m_observers;
-    Observers<Observation> m_motionObservers;
 };
 
 } // namespace tembra

@@ -57,8 +57,7 @@ X11InputMonitor::X11InputMonitor(std::shared_ptr<X11Connection> connection, Sche
       m_dragSelection(m_connection->atom(QByteArrayLiteral("XdndSelection"))),
       m_inputOpcode(inputOpcode(m_connection->xcb())),
       m_throttle(scheduler, [this] { receiveMotion(); }),
-      m_observers([this] { updateSelection(); }),
-      m_motionObservers([this] { updateSelection(); }) {}
+      m_observers([this] { updateSelection(); }) {}
 
 X11InputMonitor::~X11InputMonitor() {
     select(0);
@@ -67,10 +66,6 @@ X11InputMonitor::~X11InputMonitor() {
 std::unique_ptr<InputMonitor::Observation>
 X11InputMonitor::observe(std::function<void(const Event &)> onEvent) {
     return m_observers.add(std::move(onEvent));
-}
-
-std::unique_ptr<InputMonitor::Observation> X11InputMonitor::observeMotion(std::function<void()> onMove) {
-    return m_motionObservers.add(std::move(onMove));
 }
 
 // A program keeps the selection long after its drag has ended: taking it since the press is what tells.
@@ -88,7 +83,7 @@ ScreenPoint X11InputMonitor::pointer() const {
 
 void X11InputMonitor::updateSelection() {
     const bool wantsButtons = !m_observers.isEmpty();
-    const bool wantsMotion = !m_motionObservers.isEmpty() || (wantsButtons && m_isLeftDown);
+    const bool wantsMotion = wantsButtons && m_isLeftDown;
     select((wantsButtons ? buttonMask : 0) | (wantsMotion ? motionMask : 0));
 }
 
@@ -164,7 +159,6 @@ void X11InputMonitor::receiveButton(std::uint32_t physicalButton, bool isDown) {
 }
 
 void X11InputMonitor::receiveMotion() {
-    m_motionObservers.notify();
     if (m_isLeftDown && !m_observers.isEmpty())
         report(Kind::leftDragged);
 }

@@ -18,7 +18,6 @@ public:
     X11InputMonitor &operator=(const X11InputMonitor &) = delete;
 
     [[nodiscard]] std::unique_ptr<Observation> observe(std::function<void(const Event &)> onEvent) override;
-    [[nodiscard]] std::unique_ptr<Observation> observeMotion(std::function<void()> onMove) override;
     [[nodiscard]] bool isForeignDragOffered() const override;
     [[nodiscard]] ScreenPoint pointer() const override;
 
@@ -45,7 +44,6 @@ private:
     std::unique_ptr<X11Connection::Subscription> m_events;
     std::unique_ptr<X11Connection::Subscription> m_dragWatch;
     Observers<Observation, const Event &> m_observers;
-    Observers<Observation> m_motionObservers;
 };
 
 } // namespace tembra
