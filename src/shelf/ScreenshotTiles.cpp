@@ -1,19 +1,23 @@
 #include "shelf/ScreenshotTiles.h"
 
+#include <utility>
+
 namespace tembra {
 
-std::vector<FileGridState::Section> screenshotTiles(const std::vector<ScreenshotSection> &sections,
+std::vector<FileGridState::Section> screenshotTiles(std::vector<ScreenshotSection> sections,
                                                     const QSet<QString> &pinnedPaths) {
     std::vector<FileGridState::Section> result;
     result.reserve(sections.size());
-    for (const ScreenshotSection &section : sections) {
+    for (ScreenshotSection &section : sections) {
         FileGridState::Section &tiles = result.emplace_back(title(section.kind));
         tiles.tiles.reserve(section.shots.size());
-        for (const Shot &shot : section.shots)
-            tiles.tiles.push_back({.id = shot.identity,
-                                   .path = shot.location,
-                                   .revision = shot.stamp,
-                                   .isPinned = pinnedPaths.contains(shot.location)});
+        for (Shot &shot : section.shots) {
+            const bool isPinned = pinnedPaths.contains(shot.location);
+            tiles.tiles.push_back({.id = std::move(shot.identity),
+                                   .path = std::move(shot.location),
+                                   .revision = std::move(shot.stamp),
+                                   .isPinned = isPinned});
+        }
     }
     return result;
 }

@@ -239,7 +239,8 @@ void ShelfController::showExpanded() {
         activateTab(ShelfTab::fileTray, true);
     // The tool's setting may have been changed since: nobody tells, so it is asked when somebody looks.
     m_locationMonitor->check();
-    render();
+    if (m_isStale)
+        render();
     m_surfaces->present(ShelfPresentation::expanded(QSize(panelSize.width(), targetPanelHeight())));
     m_session->screenshotAutoCopy.writePostponed();
 }
@@ -258,7 +259,10 @@ void ShelfController::hideSurface() {
     m_expanded = false;
     m_preview.close();
     m_tabHover.cancelTabHover();
-    m_activeTab = std::exchange(m_tabBeforeDrag, std::nullopt).value_or(m_activeTab);
+    if (const auto before = std::exchange(m_tabBeforeDrag, std::nullopt)) {
+        m_activeTab = *before;
+        m_isStale = true;
+    }
     m_surfaces->present(ShelfPresentation::collapsed());
     m_hover.didCollapse();
     m_announcer.flushFolderNotification();
@@ -331,10 +335,12 @@ void ShelfController::configureAutoOpen() {
     m_screenshotAutoOpen.configure(state.automaticallyOpenEditor, state.screenshotsFolder, m_services.now());
 }
 
-// Nothing is drawn for a shelf that nobody sees: opening renders it.
+// Nothing is drawn for a shelf that nobody sees: opening renders it, if anything has changed since.
 void ShelfController::render() {
+    m_isStale = true;
     if (!m_started || !m_expanded)
         return;
+    m_isStale = false;
     ShelfContent::State state{.tabs = tabs(), .activeTab = m_activeTab};
     const QStringList undoable = m_session->screenshotUndoManager.undoNames();
     if (m_undoOffer.isPending() && !undoable.isEmpty())

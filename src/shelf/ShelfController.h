@@ -178,6 +178,8 @@ private:
 
     bool m_started = false;
     bool m_expanded = false;
+    // What the content shows is not what there is now.
+    bool m_isStale = true;
     bool m_choosingFolder = false;
     bool m_dragging = false;
     // Keeps the shelf open while it is up.

@@ -93,6 +93,7 @@ void ShelfController::showNotification(const std::optional<CaptureNotification> 
     if (!activateSurface())
         return;
     content().apply({.notification = notification});
+    m_isStale = true;
     m_surfaces->present(ShelfPresentation::notification(notificationSize));
 }
 

@@ -101,7 +101,8 @@ Result<void> ShelfController::addToTray(const QStringList &paths) {
 }
 
 void ShelfController::trayChanged() {
-    if (!m_expanded || m_activeTab != ShelfTab::fileTray || !m_content)
+    m_isStale = true;
+    if (!m_expanded || m_activeTab != ShelfTab::fileTray)
         return;
     content().tray().refresh();
     updatePreview();
