@@ -52,6 +52,7 @@ std::vector<AccessibleTree::Node> AccessibleTree::children(const Node &node) con
         list.endStructure();
         found.push_back(child);
     }
+    list.endArray();
     return found;
 }
 
