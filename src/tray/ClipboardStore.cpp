@@ -87,7 +87,7 @@ ClipboardRemoval ClipboardStore::takeOut(const ClipboardRemoval &removal) {
     QSet<QUuid> ids;
     for (const ClipboardEntry &entry : removal.entries)
         ids.insert(entry.id);
-    const ClipboardRemoval taken = this->removal(ids, removal.isClearing);
+    ClipboardRemoval taken = this->removal(ids, removal.isClearing);
     removeReferences(ids);
     return taken;
 }
