@@ -6,6 +6,7 @@
 #include <QHash>
 
 #include <optional>
+#include <utility>
 
 namespace tembra {
 
@@ -47,7 +48,8 @@ Result<void> takeWord(CommandLine &line, QStringList &words) {
         return {};
     }
     if (line.verb == Verb::add) {
-        line.files += word;
+        // Whatever follows is a file's name, as with other programs.
+        line.files += word == u"--" ? std::exchange(words, {}) : QStringList{word};
         return {};
     }
     if (line.verb == Verb::scan && line.path.isEmpty() && !word.startsWith(u'-')) {

@@ -1,6 +1,7 @@
 #include "app/CommandService.h"
 
 #include "app/StatusReport.h"
+#include "base/FileUri.h"
 #include "shelf/ShelfController.h"
 
 #include <QCoreApplication>
@@ -50,7 +51,10 @@ Result<QString> CommandService::open(const QStringList &arguments) {
     return QString();
 }
 
-Result<QString> CommandService::add(const QStringList &paths) {
+Result<QString> CommandService::add(const QStringList &files) {
+    QStringList paths;
+    for (const QString &file : files)
+        paths += pathOfFileUri(file.toUtf8()).value_or(file);
     if (const auto added = m_shelf.addToTray(paths); !added)
         return refused(added.error().message);
     return QString();

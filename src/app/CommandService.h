@@ -23,7 +23,8 @@ public:
 
 private:
     Result<QString> open(const QStringList &arguments);
-    Result<QString> add(const QStringList &paths);
+    // Paths or file URIs.
+    Result<QString> add(const QStringList &files);
     Result<QString> status(const QStringList &arguments) const;
 
     ShelfController &m_shelf;

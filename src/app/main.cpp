@@ -2,6 +2,7 @@
 #include "app/CommandLine.h"
 #include "app/ScanCommand.h"
 #include "app/Version.h"
+#include "base/FileUri.h"
 #include "base/QtScheduler.h"
 #include "platform/Platform.h"
 #include "platform/SingleInstance.h"
@@ -33,7 +34,7 @@ int finish(const Result<QString> &answer) {
 QStringList wordsOf(int argc, char **argv) {
     QStringList words;
     for (int i = 1; i < argc; ++i)
-        words.append(QString::fromLocal8Bit(argv[i]));
+        words.append(pathFromBytes(argv[i]));
     return words;
 }
 
@@ -47,12 +48,12 @@ void loadWording(QTranslator &wording) {
         QCoreApplication::installTranslator(&wording);
 }
 
-// The running program has another current folder.
-QStringList absolutePaths(const QStringList &files) {
-    QStringList paths;
+// The running program has another current folder, and a message carries nothing but text.
+QStringList uris(const QStringList &files) {
+    QStringList uris;
     for (const QString &file : files)
-        paths += QDir::cleanPath(QDir::current().absoluteFilePath(file));
-    return paths;
+        uris += QString::fromLatin1(fileUri(QDir::cleanPath(QDir::current().absoluteFilePath(file))));
+    return uris;
 }
 
 Result<QString> sendToRunning(const CommandLine &line) {
@@ -67,7 +68,7 @@ Result<QString> sendToRunning(const CommandLine &line) {
     case Verb::close:
         return instance->send(QStringLiteral("close"), {}, false);
     case Verb::add:
-        return instance->send(QStringLiteral("add"), absolutePaths(line.files), true);
+        return instance->send(QStringLiteral("add"), uris(line.files), true);
     case Verb::status:
         return instance->send(QStringLiteral("status"),
                               line.json ? QStringList{QStringLiteral("--json")} : QStringList(), false);

@@ -75,6 +75,9 @@ void ShelfSession::wire() {
     clipboard.canReceive = [this] { return m_settings.state().fileTrayEnabled; };
     // Files on their way to the Trash and back are not gone.
     clipboard.shouldDeferReconciliation = [this] { return m_batches.isRunning(); };
+    clipboard.onTakenOut = [this](const ClipboardRemoval &removal) {
+        registerTakenOut(removal, Phase::doing);
+    };
 }
 
 void ShelfSession::folderChanged(FolderShelf &shelf, bool flag, int count) {
@@ -184,6 +187,18 @@ void ShelfSession::runBatch(std::function<bool()> step, std::function<void()> do
         done();
         m_fileWatcher->resume();
         clipboard.scheduleReconciliation();
+    });
+}
+
+void ShelfSession::registerTakenOut(const ClipboardRemoval &removal, Phase phase) {
+    const QString name = removal.isClearing
+                             ? QCoreApplication::translate("ShelfSession", "Clear File Tray")
+                             : QCoreApplication::translate("ShelfSession", "Remove from File Tray");
+    screenshotUndoManager.registerAction(phase, name, [this, removal, name](Phase reverse) {
+        clipboard.putBack(removal);
+        screenshotUndoManager.registerAction(reverse, name, [this, removal](Phase again) {
+            registerTakenOut(clipboard.takeOut(removal), again);
+        });
     });
 }
 

@@ -154,6 +154,8 @@ private:
     void putBackOnShelf(const std::vector<RemovedScreenshot> &restored,
                         const ScreenshotRemovalContext &context);
     void forgetDismissal(const std::vector<RemovedScreenshot> &restored);
+    // What was taken out of the tray can be put back, and taken out again.
+    void registerTakenOut(const ClipboardRemoval &removal, Phase phase);
     void reportFailures(const QString &title, const QStringList &failures) const;
 
     // Editor.

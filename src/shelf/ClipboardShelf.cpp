@@ -159,10 +159,12 @@ void ClipboardShelf::openSelected() {
 
 void ClipboardShelf::removeSelected() {
     m_store.removeSelected();
+    Q_EMIT filesTakenOut();
 }
 
 void ClipboardShelf::clear() {
     m_store.clear();
+    Q_EMIT filesTakenOut();
 }
 
 void ClipboardShelf::selectAll() {

@@ -64,6 +64,8 @@ Q_SIGNALS:
     void dragRequested();
     // Files were dropped here.
     void filesDropped();
+    // Files were taken out, which can be undone.
+    void filesTakenOut();
     void failed(const QString &title, const QString &message);
 
 protected:

@@ -60,6 +60,7 @@ void ShelfContent::connectTray() {
     connect(m_header, &ShelfHeader::droppedOnTray, this,
             [this](const QMimeData *content) { m_tray->receiveDrop(*content); });
     connect(m_tray, &ClipboardShelf::filesDropped, this, &ShelfContent::filesDropped);
+    connect(m_tray, &ClipboardShelf::filesTakenOut, this, &ShelfContent::filesTakenOut);
     connect(m_tray, &ClipboardShelf::menuRequested, this, &ShelfContent::trayMenuRequested);
     connect(m_tray, &ClipboardShelf::dragRequested, this, &ShelfContent::dragRequested);
     connect(m_tray, &ClipboardShelf::selectionChanged, this, &ShelfContent::selectionChanged);

@@ -69,6 +69,7 @@ Q_SIGNALS:
     // Files from another program are held over a tab that does not take them.
     void filesDraggedOver();
     void filesDropped();
+    void filesTakenOut();
     void tabDraggedOver(tembra::ShelfTab tab);
     void trayMenuRequested(QPoint globalPosition);
     void failed(const QString &title, const QString &message);

@@ -172,6 +172,10 @@ void ShelfController::connectFiles() {
             &ShelfController::showScreenshotBackgroundMenu);
     connect(content, &ShelfContent::trayMenuRequested, this,
             [this](QPoint position) { showMenu(m_content->tray().contextMenu(), position); });
+    connect(content, &ShelfContent::filesTakenOut, this, [this] {
+        offerUndo();
+        render();
+    });
     connect(content, &ShelfContent::undoRequested, this, &ShelfController::undo);
     connect(content, &ShelfContent::dragRequested, this, &ShelfController::dragSelected);
     connect(content, &ShelfContent::failed, this,

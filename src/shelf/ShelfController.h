@@ -130,6 +130,8 @@ private:
     void receiveNewFiles(const std::vector<Shot> &shots);
     void announce(const std::vector<Shot> &shots, bool isFirst);
     void removalBegins();
+    // By a button, for a while.
+    void offerUndo();
     // Opens the shelf on the captures that the notification told of.
     void openAnnounced();
     [[nodiscard]] QString latestCapture() const;

@@ -114,8 +114,12 @@ void ShelfController::undo() {
     m_session->undo();
 }
 
-void ShelfController::removalBegins() {
+void ShelfController::offerUndo() {
     m_undoOffer = m_services.scheduler.schedule(undoOfferDuration, [this] { render(); });
+}
+
+void ShelfController::removalBegins() {
+    offerUndo();
     if (!m_expanded && m_settings.state().screenshotNotifications)
         m_announcer.announceRemoval(tr("Screenshots moved to Trash"));
 }

@@ -56,7 +56,11 @@ void ClipboardStore::select(const QSet<QUuid> &ids) {
 }
 
 void ClipboardStore::removeSelected() {
+    if (m_selectedIDs.isEmpty())
+        return;
+    const ClipboardRemoval taken = removal(m_selectedIDs, false);
     removeReferences(m_selectedIDs);
+    onTakenOut(taken);
 }
 
 void ClipboardStore::clear() {
@@ -65,8 +69,34 @@ void ClipboardStore::clear() {
     ++m_importGeneration;
     m_status.reset();
     const QList<QUuid> all = order();
-    removeEntries({all.cbegin(), all.cend()});
+    const QSet<QUuid> ids(all.cbegin(), all.cend());
+    const ClipboardRemoval taken = removal(ids, true);
+    removeEntries(ids);
     changed();
+    if (!all.isEmpty())
+        onTakenOut(taken);
+}
+
+void ClipboardStore::putBack(const ClipboardRemoval &removal) {
+    restoreReferences(removal.entries, removal.order, removal.selection, m_importGeneration);
+    // Nobody followed the files meanwhile.
+    scheduleReconciliation();
+}
+
+ClipboardRemoval ClipboardStore::takeOut(const ClipboardRemoval &removal) {
+    QSet<QUuid> ids;
+    for (const ClipboardEntry &entry : removal.entries)
+        ids.insert(entry.id);
+    ClipboardRemoval taken = this->removal(ids, removal.isClearing);
+    removeReferences(ids);
+    return taken;
+}
+
+ClipboardRemoval ClipboardStore::removal(const QSet<QUuid> &ids, bool isClearing) const {
+    ClipboardRemoval taken{.order = order(), .selection = m_selectedIDs, .isClearing = isClearing};
+    std::ranges::copy_if(m_entries, std::back_inserter(taken.entries),
+                         [&ids](const ClipboardEntry &entry) { return ids.contains(entry.id); });
+    return taken;
 }
 
 void ClipboardStore::removeReferences(const QSet<QUuid> &ids) {

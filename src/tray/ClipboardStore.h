@@ -6,6 +6,7 @@
 #include "tray/ClipboardFileState.h"
 #include "tray/ClipboardFileWatches.h"
 #include "tray/ClipboardInspector.h"
+#include "tray/ClipboardRemoval.h"
 #include "tray/ClipboardScratchFolder.h"
 #include "tray/ClipboardStoreServices.h"
 #include "tray/PromisedFolder.h"
@@ -42,6 +43,8 @@ public:
     std::function<bool()> shouldDeferReconciliation = [] { return false; };
     // Decides what became of an entry's file.
     std::function<ClipboardFileState(const ClipboardEntry &)> inspectEntry;
+    // The user took files out.
+    std::function<void(const ClipboardRemoval &)> onTakenOut = [](const ClipboardRemoval &) {};
     // After every change of the entries, of their selection or of the status.
     std::function<void()> onChange;
 
@@ -68,6 +71,10 @@ public:
     // The files stay.
     void removeSelected();
     void clear();
+    // Puts back what was taken out, where it was, and selects what was selected.
+    void putBack(const ClipboardRemoval &removal);
+    // Takes out once more, as it is now, what had been put back.
+    [[nodiscard]] ClipboardRemoval takeOut(const ClipboardRemoval &removal);
 
     // Takes entries out whose files went to the Trash.
     void removeReferences(const QSet<QUuid> &ids);
@@ -113,6 +120,7 @@ private:
     void apply(const std::vector<Outcome> &outcomes);
     void updateFileWatches();
 
+    [[nodiscard]] ClipboardRemoval removal(const QSet<QUuid> &ids, bool isClearing) const;
     void removeEntries(const QSet<QUuid> &ids);
     void changed();
 

@@ -126,12 +126,15 @@ void ClipboardStore::promisesDelivered(int generation, const QString &folder,
         QDir(folder).removeRecursively();
         return setStatus(notReceived());
     }
-    if (delivery->name.isEmpty()) {
-        const bool isToCome = std::ranges::any_of(delivery->paths, [&](const QString &path) {
-            return path.startsWith(folder + u'/') && !m_services.files.facts(path);
-        });
-        return isToCome ? awaitPromises(generation, folder) : add(generation, delivery->paths);
-    }
+    const bool isToCome = std::ranges::any_of(delivery->paths, [&](const QString &path) {
+        return path.startsWith(folder + u'/') && !m_services.files.facts(path);
+    });
+    if (isToCome)
+        return awaitPromises(generation, folder);
+    // Goes only when it is empty: the files are elsewhere.
+    QDir().rmdir(folder);
+    if (delivery->name.isEmpty())
+        return add(generation, delivery->paths);
     const auto write = [scratch = m_scratch, delivery = *delivery] {
         return scratch.write(delivery.name, delivery.content);
     };

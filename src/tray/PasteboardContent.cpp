@@ -1,11 +1,9 @@
 #include "tray/PasteboardContent.h"
 
-#include "base/FilePath.h"
+#include "base/FileUri.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QSysInfo>
-#include <QUrl>
 
 #include <algorithm>
 
@@ -21,34 +19,12 @@ const QString plainImage = QStringLiteral("application/x-qt-image");
 
 constexpr qsizetype longestPathList = 1 << 20;
 
-// The bytes of a file URL's path: RFC 8089, with this machine's name or none. Not through QUrl, which loses
-// bytes that are no text.
-std::optional<QString> localPath(const QByteArray &url) {
-    constexpr QByteArrayView scheme = "file:";
-    if (url.first(std::min(scheme.size(), url.size())).toLower() != scheme.toByteArray())
-        return std::nullopt;
-    QByteArray path = url.sliced(scheme.size());
-    if (path.startsWith("//")) {
-        const qsizetype slash = path.indexOf('/', 2);
-        if (slash < 0)
-            return std::nullopt;
-        const QByteArray host = path.sliced(2, slash - 2);
-        if (!host.isEmpty() && host != "localhost" && host != QSysInfo::machineHostName().toUtf8())
-            return std::nullopt;
-        path = path.sliced(slash);
-    }
-    path = QByteArray::fromPercentEncoding(path);
-    if (!path.startsWith('/') || path.contains('\0'))
-        return std::nullopt;
-    return QDir::cleanPath(pathFromBytes(path));
-}
-
 QStringList filesOfUrls(const QMimeData &pasteboard) {
     QStringList paths;
     // One a line; a line that begins with # is a comment (RFC 2483).
     const QList<QByteArray> lines = pasteboard.data(uriList).split('\n');
     for (const QByteArray &line : lines) {
-        if (const auto path = localPath(line.trimmed()))
+        if (const auto path = pathOfFileUri(line.trimmed()))
             paths.append(*path);
     }
     return paths;
@@ -63,7 +39,7 @@ QStringList filesOfText(const QString &text) {
     for (const QStringView line : lines) {
         const QString name = (line.endsWith(u'\r') ? line.chopped(1) : line).toString();
         const auto path =
-            name.startsWith(u'/') ? QDir::cleanPath(name) : localPath(name.toUtf8()).value_or(QString());
+            name.startsWith(u'/') ? QDir::cleanPath(name) : pathOfFileUri(name.toUtf8()).value_or(QString());
         const QFileInfo file(path);
         if (path.isEmpty() || (!file.exists() && !file.isSymLink()))
             return {};

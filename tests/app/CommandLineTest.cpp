@@ -22,6 +22,7 @@ TEST(CommandLine, understandsEveryCommand) {
         {"scan --json /a", {.verb = Verb::scan, .path = QStringLiteral("/a"), .json = true}},
         {"scan /a --json", {.verb = Verb::scan, .path = QStringLiteral("/a"), .json = true}},
         {"add a -b", {.verb = Verb::add, .files = {QStringLiteral("a"), QStringLiteral("-b")}}},
+        {"add -- a --", {.verb = Verb::add, .files = {QStringLiteral("a"), QStringLiteral("--")}}},
         {"quit", {.verb = Verb::quit}},
     };
     for (const auto &[line, expected] : table) {
@@ -33,6 +34,6 @@ TEST(CommandLine, understandsEveryCommand) {
 
 TEST(CommandLine, refusesWhatItDoesNotUnderstand) {
     for (const char *line : {"fly", "open --tab", "open --tab sky", "close now", "scan", "scan --json",
-                             "scan a b", "add", "toggle --json", "-x"})
+                             "scan a b", "add", "add --", "toggle --json", "-x"})
         EXPECT_FALSE(CommandLine::parse(words(line))) << line;
 }

@@ -43,8 +43,12 @@ bool FileManagerWindow::open(const QStringList &names) {
             return false;
     }
     m_process.setProcessEnvironment(m_tembra.environment());
-    m_process.start(QStringLiteral("pcmanfm-qt"), {folder()});
-    const bool isShown = m_tembra.waitFor([this](const QJsonObject &) { return windows().size() == 1; });
+    // One that was just ended may still hold its place on the bus: the new one hands over to it and ends too.
+    const bool isShown = m_tembra.waitFor([this](const QJsonObject &) {
+        if (m_process.state() == QProcess::NotRunning)
+            m_process.start(QStringLiteral("pcmanfm-qt"), {folder()});
+        return m_process.waitForStarted() && windows().size() == 1;
+    });
     xdotool(search + QStringList{QStringLiteral("windowmove"), QStringLiteral("--sync"), number(origin.x()),
                                  number(origin.y()), QStringLiteral("windowsize"), QStringLiteral("--sync"),
                                  number(size.width()), number(size.height())});

@@ -118,3 +118,38 @@ TEST_F(TrayHands, aScreenshotDraggedIntoAFolderArrivesThereAsACopy) {
         tembra.waitFor([&folder](const QJsonObject &) { return folder.entryList(QDir::Files).size() == 1; }));
     EXPECT_EQ(tembra.status()[u"screenshots"][u"count"].toInt(), 1) << "the screenshot stays";
 }
+
+TEST_F(TrayHands, allSelectedFilesArriveByteForByteWhereTheyAreDroppedAndWhereTheyArePasted) {
+    ASSERT_TRUE(files.open({}));
+    const QString kept = tembra.home() + QStringLiteral("/Kept");
+    const QString putIn = QStringLiteral("mkdir \"$1\" && cd \"$1\" && echo 1 >plain && echo 2 >\"$(printf "
+                                         "'\\377 \\n.txt')\" && \"$2\" add -- *");
+    const auto added = tembra.tool(QStringLiteral("sh"), {QStringLiteral("-c"), putIn, QStringLiteral("sh"),
+                                                          kept, QStringLiteral(TEMBRA_PROGRAM)});
+    EXPECT_EQ(added.exitStatus, 0) << added.error.toStdString();
+    tembra.command({QStringLiteral("open"), QStringLiteral("--tab"), QStringLiteral("tray")});
+    ASSERT_TRUE(tembra.waitFor([](const QJsonObject &status) {
+        return trayCount(status) == 2 && status[u"shelf"][u"frame"][3].toInt() == 256;
+    }));
+    const auto haveArrived = [&](const QJsonObject &) {
+        return tembra.tool(QStringLiteral("diff"), {QStringLiteral("-r"), kept, files.folder()}).exitStatus ==
+               0;
+    };
+
+    files.press({QStringLiteral("ctrl+a"), QStringLiteral("ctrl+c")});
+    files.pressAt(firstTile);
+    files.dragTo(files.middle());
+    files.release();
+    EXPECT_TRUE(files.agreeToCopy());
+    EXPECT_TRUE(tembra.waitFor(haveArrived));
+
+    tembra.tool(QStringLiteral("find"),
+                {files.folder(), QStringLiteral("-type"), QStringLiteral("f"), QStringLiteral("-delete")});
+    files.pressAt(files.middle());
+    files.release();
+    files.press({QStringLiteral("ctrl+v")});
+    EXPECT_TRUE(tembra.waitFor(haveArrived));
+    EXPECT_EQ(trayCount(tembra.status()), 2);
+    // Qt cannot delete such a file.
+    tembra.tool(QStringLiteral("rm"), {QStringLiteral("-r"), kept, files.folder()});
+}

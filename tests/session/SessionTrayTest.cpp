@@ -44,3 +44,35 @@ TEST(SessionTrayTest, filesAreTakenOnlyWhileTheTrayIsSwitchedOn) {
         EXPECT_EQ(live.tray().size(), isOn ? 1 : 0);
     }
 }
+
+TEST(SessionTrayTest, whatIsTakenOutOfTheTrayComesBackByUndoAndGoesAgainByRedo) {
+    LiveSession live;
+    const QStringList names = live.writeOld(3);
+    ClipboardStore &tray = live.session.clipboard;
+    tray.add(tray.importGeneration(), {live.path(names[0]), live.path(names[1]), live.path(names[2])});
+    const QSet<QUuid> middle{tray.order()[1]};
+    tray.select(middle);
+    tray.removeSelected();
+    tray.removeSelected();
+    tray.clear();
+    tray.clear();
+    EXPECT_EQ(live.session.screenshotUndoManager.undoNames(),
+              (QStringList{QStringLiteral("Clear File Tray"), QStringLiteral("Remove from File Tray")}))
+        << "where nothing is taken out there is nothing to undo";
+
+    ASSERT_TRUE(live.session.undo());
+    EXPECT_EQ(live.tray(), (QStringList{names[0], names[2]}));
+    ASSERT_TRUE(live.session.undo());
+    EXPECT_EQ(live.tray(), names);
+    EXPECT_EQ(tray.selectedIDs(), middle);
+    ASSERT_TRUE(live.session.redo());
+    ASSERT_TRUE(live.session.redo());
+    EXPECT_EQ(live.tray(), QStringList());
+
+    // What happened meanwhile is seen afterwards, and what came since stays.
+    tray.add(tray.importGeneration(), {live.path(names[1])});
+    ASSERT_TRUE(QFile::remove(live.path(names[0])));
+    ASSERT_TRUE(live.session.undo());
+    live.parts.scheduler.advance(150ms);
+    EXPECT_EQ(live.tray(), (QStringList{names[1], names[2]}));
+}

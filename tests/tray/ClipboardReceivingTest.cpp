@@ -275,6 +275,7 @@ TEST_F(ClipboardReceivingTest, promisedFilesAreAddedWhenTheyAreDelivered) {
     tray.settle();
     EXPECT_EQ(contentOf(tray.shown().constLast()), "bytes");
     EXPECT_EQ(QFileInfo(tray.shown().constLast()).fileName(), QStringLiteral("given"));
+    EXPECT_FALSE(QFileInfo::exists(tray.promises.folder)) << "nothing was written there";
     EXPECT_EQ(tray.status(), QString());
 
     // Said to be there before it is, and under another name.

@@ -37,7 +37,11 @@ void DirectSaveSource::run() {
     m_window = xcb_generate_id(m_xcb);
     xcb_create_window(m_xcb, 0, m_window, screen->root, 0, 0, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY,
                       screen->root_visual, 0, nullptr);
-    xcb_set_selection_owner(m_xcb, m_window, atom("XdndSelection"), XCB_CURRENT_TIME);
+    // Browsers hand over the content by another window.
+    const xcb_window_t owner = xcb_generate_id(m_xcb);
+    xcb_create_window(m_xcb, 0, owner, screen->root, 0, 0, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY,
+                      screen->root_visual, 0, nullptr);
+    xcb_set_selection_owner(m_xcb, owner, atom("XdndSelection"), XCB_CURRENT_TIME);
     xcb_change_property(m_xcb, XCB_PROP_MODE_REPLACE, m_window, atom("XdndDirectSave0"), atom("text/plain"),
                         8, static_cast<std::uint32_t>(m_offer.name.size()), m_offer.name.constData());
     constexpr std::uint32_t version = 5U << 24;

@@ -26,12 +26,27 @@ QDBusMessage retrieveFilesCall(const QString &key) {
 } // namespace
 
 DesktopFilePromises::DesktopFilePromises(std::shared_ptr<X11Connection> connection)
-    : m_connection(std::move(connection)) {}
+    : m_connection(std::move(connection)) {
+    if (m_connection)
+        watchDrags();
+}
+
+void DesktopFilePromises::watchDrags() {
+    const xcb_atom_t enter = m_connection->atom(QByteArrayLiteral("XdndEnter"));
+    m_drags = m_connection->subscribe([this, enter](const xcb_generic_event_t &event) {
+        constexpr std::uint8_t eventNumberMask = 0x7f;
+        if ((event.response_type & eventNumberMask) != XCB_CLIENT_MESSAGE)
+            return;
+        const auto &message = reinterpret_cast<const xcb_client_message_event_t &>(event);
+        if (message.type == enter)
+            m_dragSource = message.data.data32[0];
+    });
+}
 
 void DesktopFilePromises::receive(const QMimeData &pasteboard, const QString &folder,
                                   std::function<void(Result<Delivery>)> onDone) {
     if (m_connection && pasteboard.hasFormat(directSave))
-        return onDone(receiveDirectSave(*m_connection, pasteboard, folder));
+        return onDone(receiveDirectSave(*m_connection, m_dragSource, pasteboard, folder));
     // Some end the key with a zero byte.
     askPortal(QString::fromUtf8(pasteboard.data(portalTransfer).constData()), std::move(onDone));
 }

@@ -2,6 +2,7 @@
 
 #include "platform/linux/desktop/ClipboardContent.h"
 #include "platform/linux/desktop/X11Connection.h"
+#include "platform/linux/desktop/X11DragAnswers.h"
 
 #include <QClipboard>
 #include <QCoreApplication>
@@ -36,12 +37,16 @@ private:
 } // namespace
 
 QtPasteboard::QtPasteboard(std::shared_ptr<X11Connection> connection) : m_connection(std::move(connection)) {
-    if (m_connection)
-        m_watch = std::make_unique<X11ClipboardWatch>();
-    else
+    if (!m_connection) {
         QObject::connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, &m_context,
                          [this] { ++m_changeCount; });
+        return;
+    }
+    m_watch = std::make_unique<X11ClipboardWatch>();
+    m_dragAnswers = std::make_unique<X11DragAnswers>(m_connection);
 }
+
+QtPasteboard::~QtPasteboard() = default;
 
 std::int64_t QtPasteboard::changeCount() {
     return m_watch ? m_watch->changeCount() : m_changeCount;

@@ -10,6 +10,7 @@
 namespace tembra {
 
 class X11Connection;
+class X11DragAnswers;
 
 // The clipboard as Qt shares it. Where a clipboard manager runs, Qt hands it what is there when the program
 // ends.
@@ -17,6 +18,9 @@ class QtPasteboard final : public Pasteboard {
 public:
     // Without a connection to an X server changes are counted as Qt tells of them.
     explicit QtPasteboard(std::shared_ptr<X11Connection> connection);
+    ~QtPasteboard() override;
+    QtPasteboard(const QtPasteboard &) = delete;
+    QtPasteboard &operator=(const QtPasteboard &) = delete;
 
     [[nodiscard]] std::int64_t changeCount() override;
     [[nodiscard]] const QMimeData *content() override;
@@ -27,6 +31,8 @@ private:
 
     const std::shared_ptr<X11Connection> m_connection;
     std::unique_ptr<X11ClipboardWatch> m_watch;
+    // What is dragged is shared as the clipboard is.
+    std::unique_ptr<X11DragAnswers> m_dragAnswers;
     QObject m_context;
     std::int64_t m_changeCount = 0;
 };

@@ -23,10 +23,10 @@ tl::unexpected<Error> notDelivered() {
 // The property of the source's window by which both sides talk.
 class SharedName {
 public:
-    explicit SharedName(const X11Connection &connection)
+    SharedName(const X11Connection &connection, xcb_window_t source)
         : m_connection(connection),
           m_property(connection.atom(FilePromises::directSave.toLatin1())),
-          m_source(connection.selectionOwner(connection.atom(QByteArrayLiteral("XdndSelection")))) {}
+          m_source(source) {}
 
     [[nodiscard]] QByteArray read() const {
         constexpr std::uint32_t longestInWords = 1024;
@@ -68,9 +68,9 @@ QByteArray safeFileName(QByteArray proposed) {
     return isName ? proposed : QByteArrayLiteral("File");
 }
 
-Result<FilePromises::Delivery> receiveDirectSave(const X11Connection &connection, const QMimeData &pasteboard,
-                                                 const QString &folder) {
-    const SharedName shared(connection);
+Result<FilePromises::Delivery> receiveDirectSave(const X11Connection &connection, xcb_window_t source,
+                                                 const QMimeData &pasteboard, const QString &folder) {
+    const SharedName shared(connection, source);
     const QString name = pathFromBytes(safeFileName(shared.read()));
     const QString path = folder + u'/' + name;
     if (!shared.write(fileUri(path)))
