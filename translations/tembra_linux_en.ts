@@ -76,7 +76,7 @@
     </message>
 </context>
 <context>
-    <name>ScreenshotCommands</name>
+    <name>FileOpening</name>
     <message>
         <source>Couldn’t Show in Finder</source>
         <translation>Couldn’t Show in Files</translation>
@@ -108,10 +108,6 @@
     <message>
         <source>Show in Finder</source>
         <translation>Show in Files</translation>
-    </message>
-    <message>
-        <source>Couldn’t Show in Finder</source>
-        <translation>Couldn’t Show in Files</translation>
     </message>
 </context>
 </TS>

@@ -2,11 +2,13 @@
 
 #include "controls/Palette.h"
 #include "controls/ShelfMenu.h"
+#include "controls/TextLabel.h"
 #include "controls/Typography.h"
 #include "shelf/ClipboardCollectionView.h"
 #include "shelf/ClipboardDropArea.h"
 #include "shelf/FileDrag.h"
 #include "shelf/FileGrid.h"
+#include "shelf/FileOpening.h"
 #include "tray/ClipboardStore.h"
 
 #include <QDragEnterEvent>
@@ -14,6 +16,7 @@
 #include <QMimeData>
 
 #include <algorithm>
+#include <functional>
 #include <iterator>
 
 namespace tembra {
@@ -23,17 +26,6 @@ namespace {
 // The strip below the files with the hint or the status.
 constexpr int hintHeight = 42;
 constexpr QMargins dropAreaMargins{24, 10, 24, 40};
-
-QLabel *makeHint(QWidget *parent) {
-    auto *hint = new QLabel(parent);
-    hint->setFont(typography::font(typography::captionSize));
-    QPalette colors = hint->palette();
-    colors.setColor(QPalette::WindowText, palette::secondaryText);
-    hint->setPalette(colors);
-    hint->setAlignment(Qt::AlignCenter);
-    hint->setTextFormat(Qt::PlainText);
-    return hint;
-}
 
 FileTile tile(const ClipboardEntry &entry) {
     return {.id = entry.id,
@@ -52,7 +44,7 @@ ClipboardShelf::ClipboardShelf(ClipboardStore &store, const ShelfServices &servi
       m_services(services),
       m_grid(new FileGrid(std::make_unique<ClipboardCollectionView>(presentation), this)),
       m_dropArea(new ClipboardDropArea(this)),
-      m_hint(makeHint(this)) {
+      m_hint(makeTextLabel(this, typography::captionSize, QFont::Normal, palette::secondaryText)) {
     setAcceptDrops(true);
     setFocusProxy(m_grid);
     connectGrid();
@@ -142,19 +134,12 @@ void ClipboardShelf::copySelected() {
 }
 
 void ClipboardShelf::revealSelected() {
-    const QStringList paths = reachableSelection();
-    if (paths.isEmpty())
-        return;
-    if (const auto revealed = m_services.workspace.reveal(paths); !revealed)
-        Q_EMIT failed(tr("Couldn’t Show in Finder"), revealed.error().message);
+    revealFiles(m_services.workspace, reachableSelection(), std::bind_front(&ClipboardShelf::failed, this));
 }
 
 void ClipboardShelf::openSelected() {
-    const QStringList paths = reachableSelection();
-    if (paths.isEmpty())
-        return;
-    if (const auto opened = m_services.workspace.open(paths, QString()); !opened)
-        Q_EMIT failed(tr("Couldn’t Open Files"), opened.error().message);
+    openFiles(m_services.workspace, reachableSelection(), QString(),
+              std::bind_front(&ClipboardShelf::failed, this));
 }
 
 void ClipboardShelf::removeSelected() {
@@ -178,10 +163,6 @@ void ClipboardShelf::paste() {
 
 void ClipboardShelf::dragSelected() {
     dragFiles(*m_grid, reachableSelection(), m_services.files, m_grid->selectedPictures());
-}
-
-void ClipboardShelf::takeFocus() {
-    m_grid->takeFocus();
 }
 
 std::unique_ptr<QMenu> ClipboardShelf::contextMenu() {

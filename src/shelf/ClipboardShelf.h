@@ -52,7 +52,6 @@ public:
     void openSelected();
     // Drags the selected files out; returns when the drag has ended.
     void dragSelected();
-    void takeFocus();
     // Whether anything of what was dropped was taken.
     bool receiveDrop(const QMimeData &content);
     // The menu of the selected files.

@@ -3,6 +3,7 @@
 #include "screenshots/ScreenshotTimeline.h"
 #include "session/ShelfSession.h"
 #include "settings/AppSettings.h"
+#include "shelf/FileOpening.h"
 #include "shelf/ScreenshotMenu.h"
 
 #include <QCoreApplication>
@@ -80,12 +81,7 @@ void ScreenshotCommands::toggleSelectedScreenshotPins() {
 }
 
 void ScreenshotCommands::revealSelectedScreenshots() {
-    const QStringList paths = selectedPaths();
-    if (paths.isEmpty())
-        return;
-    if (const auto revealed = m_workspace.reveal(paths); !revealed)
-        onError(text(QT_TRANSLATE_NOOP("ScreenshotCommands", "Couldn’t Show in Finder")),
-                revealed.error().message);
+    revealFiles(m_workspace, selectedPaths(), onError);
 }
 
 void ScreenshotCommands::openScreenshotsWith(const QString &applicationIdentifier) {
@@ -93,10 +89,7 @@ void ScreenshotCommands::openScreenshotsWith(const QString &applicationIdentifie
 }
 
 void ScreenshotCommands::openFiles(const QStringList &paths, const QString &applicationIdentifier) {
-    if (paths.isEmpty())
-        return;
-    if (const auto opened = m_workspace.open(paths, applicationIdentifier); !opened)
-        onError(text(QT_TRANSLATE_NOOP("ScreenshotCommands", "Couldn’t Open Files")), opened.error().message);
+    tembra::openFiles(m_workspace, paths, applicationIdentifier, onError);
 }
 
 void ScreenshotCommands::trashSelected() {

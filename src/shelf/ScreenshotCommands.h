@@ -1,12 +1,12 @@
 #pragma once
 
-#include "platform/Workspace.h"
+#include "base/Clocks.h"
 #include "screenshots/ScreenshotSection.h"
 #include "screenshots/Shot.h"
+#include "shelf/FileOpening.h"
 
 #include <QStringList>
 
-#include <functional>
 #include <memory>
 #include <vector>
 
@@ -25,8 +25,7 @@ public:
     // All must outlive this.
     ScreenshotCommands(AppSettings &settings, ShelfSession &session, Workspace &workspace, WallClock now);
 
-    // Shows a failure as title and message.
-    std::function<void(const QString &title, const QString &message)> onError;
+    ShowFailure onError;
 
     // As the shelf shows them now.
     [[nodiscard]] std::vector<ScreenshotSection> sections() const;

@@ -3,27 +3,13 @@
 #include "controls/LoadingIndicator.h"
 #include "controls/Palette.h"
 #include "controls/TembraButton.h"
+#include "controls/TextLabel.h"
 #include "controls/Typography.h"
 
 #include <QLabel>
 #include <QVBoxLayout>
 
 namespace tembra {
-
-namespace {
-
-QLabel *label(QWidget *parent, int size, QFont::Weight weight, const QColor &color) {
-    auto *made = new QLabel(parent);
-    made->setFont(typography::font(size, weight));
-    QPalette colors = made->palette();
-    colors.setColor(QPalette::WindowText, color);
-    made->setPalette(colors);
-    made->setAlignment(Qt::AlignCenter);
-    made->setTextFormat(Qt::PlainText);
-    return made;
-}
-
-} // namespace
 
 ScreenshotMessageView::ScreenshotMessageView(QWidget *parent) : QWidget(parent) {
     build();
@@ -32,8 +18,8 @@ ScreenshotMessageView::ScreenshotMessageView(QWidget *parent) : QWidget(parent) 
 
 void ScreenshotMessageView::build() {
     m_indicator = new LoadingIndicator(this);
-    m_title = label(this, typography::titleSize, QFont::DemiBold, palette::text);
-    m_text = label(this, typography::bodySize, QFont::Normal, palette::secondaryText);
+    m_title = makeTextLabel(this, typography::titleSize, QFont::DemiBold, palette::text);
+    m_text = makeTextLabel(this, typography::bodySize, QFont::Normal, palette::secondaryText);
     m_button = new TembraButton(TembraButton::Kind::primary, this);
     setFocusProxy(m_button);
     auto *column = new QVBoxLayout(this);

@@ -141,7 +141,6 @@ private:
     bool handleShelfKey(const QKeyEvent &event);
     void perform(ShelfCommand command);
     void dragSelected();
-    void performInTray(ShelfCommand command);
     void pasteIntoTray();
     void trayChanged();
     void updatePreview();

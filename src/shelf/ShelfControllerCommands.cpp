@@ -25,41 +25,18 @@ bool ShelfController::handleShelfKey(const QKeyEvent &event) {
     const auto command = shelfCommand(event);
     if (!command || !m_expanded || !m_content)
         return false;
-    if (m_activeTab == ShelfTab::fileTray) {
-        performInTray(*command);
-        return true;
-    }
     // What is not seen is not acted on.
     const bool actsOnSelection =
         *command != ShelfCommand::undo && *command != ShelfCommand::redo && *command != ShelfCommand::paste;
-    if (actsOnSelection && m_folderState != ScreenshotFolderState::ready)
+    if (actsOnSelection && m_activeTab == ShelfTab::screenshots &&
+        m_folderState != ScreenshotFolderState::ready)
         return false;
     perform(*command);
     return true;
 }
 
 void ShelfController::perform(ShelfCommand command) {
-    switch (command) {
-    case ShelfCommand::undo:
-        return undo();
-    case ShelfCommand::redo:
-        return redo();
-    case ShelfCommand::copy:
-        return m_commands->copySelectedScreenshots();
-    case ShelfCommand::paste:
-        return pasteIntoTray();
-    case ShelfCommand::pin:
-        return m_commands->toggleSelectedScreenshotPins();
-    case ShelfCommand::reveal:
-        return m_commands->revealSelectedScreenshots();
-    case ShelfCommand::remove:
-        return m_commands->trashSelected();
-    case ShelfCommand::preview:
-        return togglePreview();
-    }
-}
-
-void ShelfController::performInTray(ShelfCommand command) {
+    const bool isTray = m_activeTab == ShelfTab::fileTray;
     ClipboardShelf &tray = content().tray();
     switch (command) {
     case ShelfCommand::undo:
@@ -67,17 +44,17 @@ void ShelfController::performInTray(ShelfCommand command) {
     case ShelfCommand::redo:
         return redo();
     case ShelfCommand::copy:
-        return tray.copySelected();
+        return isTray ? tray.copySelected() : m_commands->copySelectedScreenshots();
     case ShelfCommand::paste:
         return pasteIntoTray();
+    case ShelfCommand::pin:
+        return isTray ? void() : m_commands->toggleSelectedScreenshotPins();
     case ShelfCommand::reveal:
-        return tray.revealSelected();
+        return isTray ? tray.revealSelected() : m_commands->revealSelectedScreenshots();
     case ShelfCommand::remove:
-        return tray.removeSelected();
+        return isTray ? tray.removeSelected() : m_commands->trashSelected();
     case ShelfCommand::preview:
         return togglePreview();
-    case ShelfCommand::pin:
-        return;
     }
 }
 

@@ -1,0 +1,20 @@
+#include "controls/TextLabel.h"
+
+#include "controls/Typography.h"
+
+#include <QLabel>
+
+namespace tembra {
+
+QLabel *makeTextLabel(QWidget *parent, int size, QFont::Weight weight, const QColor &color) {
+    auto *label = new QLabel(parent);
+    label->setFont(typography::font(size, weight));
+    QPalette colors = label->palette();
+    colors.setColor(QPalette::WindowText, color);
+    label->setPalette(colors);
+    label->setAlignment(Qt::AlignCenter);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+} // namespace tembra
