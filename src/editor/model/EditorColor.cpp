@@ -1,0 +1,30 @@
+#include "editor/model/EditorColor.h"
+
+#include <algorithm>
+#include <array>
+
+namespace tembra {
+
+namespace {
+
+constexpr EditorColor systemRed{1.0, 0x3b / 255.0, 0x30 / 255.0, 1.0};
+
+} // namespace
+
+EditorColor EditorColor::from(const QColor &color) {
+    if (!color.isValid())
+        return systemRed;
+    const QColor rgb = color.toRgb();
+    return {rgb.redF(), rgb.greenF(), rgb.blueF(), rgb.alphaF()};
+}
+
+QColor EditorColor::toColor() const {
+    const auto component = [](double value) { return static_cast<float>(std::clamp(value, 0.0, 1.0)); };
+    return QColor::fromRgbF(component(r), component(g), component(b), component(a));
+}
+
+bool EditorColor::isValid() const {
+    return std::ranges::all_of(std::array{r, g, b, a}, [](double value) { return value >= 0 && value <= 1; });
+}
+
+} // namespace tembra
