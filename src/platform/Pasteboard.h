@@ -15,11 +15,12 @@ namespace tembra {
 // The clipboard that programs share. Main thread.
 class Pasteboard {
 public:
-    // A file to be pasted as a file and, where it is an image, as that image.
+    // A file to be pasted as a file and, where it is an image, as that image; or data of a type of the
+    // program's own.
     struct Item {
-        // Absolute.
+        // Absolute; empty for data alone.
         QString path;
-        // "public.png" or "public.tiff"; empty without data.
+        // "public.png", "public.tiff" or a type of the program's own; empty without data.
         QString type;
         QByteArray data;
 
@@ -40,7 +41,8 @@ public:
     // after the next event; nothing when there is nothing.
     [[nodiscard]] virtual const QMimeData *content() = 0;
     // Puts the items there in place of what was there: all files in their order, and the image of the last
-    // item that has one. Succeeds only when other programs are really offered them.
+    // item that has one, and data of the program's own types. Succeeds only when other programs are really
+    // offered them.
     [[nodiscard]] virtual Result<void> writeObjects(const std::vector<Item> &items) = 0;
 };
 

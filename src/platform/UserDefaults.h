@@ -21,6 +21,7 @@ public:
     [[nodiscard]] virtual std::optional<QByteArray> data(const QString &key) const = 0;
     [[nodiscard]] virtual std::optional<QStringList> stringArray(const QString &key) const = 0;
     [[nodiscard]] virtual std::optional<QList<QByteArray>> dataArray(const QString &key) const = 0;
+    [[nodiscard]] virtual std::optional<QList<double>> numberArray(const QString &key) const = 0;
 
     virtual void setBoolean(const QString &key, bool value) = 0;
     virtual void setInteger(const QString &key, qint64 value) = 0;
@@ -28,6 +29,7 @@ public:
     virtual void setData(const QString &key, const QByteArray &value) = 0;
     virtual void setStringArray(const QString &key, const QStringList &value) = 0;
     virtual void setDataArray(const QString &key, const QList<QByteArray> &value) = 0;
+    virtual void setNumberArray(const QString &key, const QList<double> &value) = 0;
     virtual void remove(const QString &key) = 0;
 };
 

@@ -11,7 +11,8 @@ namespace tembra {
 // User defaults that live as long as the test, compared and changed as one map.
 class MemoryUserDefaults final : public UserDefaults {
 public:
-    using Value = std::variant<bool, qint64, QString, QByteArray, QStringList, QList<QByteArray>>;
+    using Value =
+        std::variant<bool, qint64, QString, QByteArray, QStringList, QList<QByteArray>, QList<double>>;
     using Values = std::map<QString, Value>;
 
     Values values;
@@ -33,6 +34,9 @@ public:
     [[nodiscard]] std::optional<QList<QByteArray>> dataArray(const QString &key) const override {
         return get<QList<QByteArray>>(key);
     }
+    [[nodiscard]] std::optional<QList<double>> numberArray(const QString &key) const override {
+        return get<QList<double>>(key);
+    }
 
     void setBoolean(const QString &key, bool value) override { set(key, value); }
     void setInteger(const QString &key, qint64 value) override { set(key, value); }
@@ -40,6 +44,7 @@ public:
     void setData(const QString &key, const QByteArray &value) override { set(key, value); }
     void setStringArray(const QString &key, const QStringList &value) override { set(key, value); }
     void setDataArray(const QString &key, const QList<QByteArray> &value) override { set(key, value); }
+    void setNumberArray(const QString &key, const QList<double> &value) override { set(key, value); }
     void remove(const QString &key) override {
         ++m_writes;
         values.erase(key);

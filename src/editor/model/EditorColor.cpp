@@ -1,5 +1,7 @@
 #include "editor/model/EditorColor.h"
 
+#include <QRgba64>
+
 #include <algorithm>
 #include <array>
 
@@ -14,8 +16,9 @@ constexpr EditorColor systemRed{1.0, 0x3b / 255.0, 0x30 / 255.0, 1.0};
 EditorColor EditorColor::from(const QColor &color) {
     if (!color.isValid())
         return systemRed;
-    const QColor rgb = color.toRgb();
-    return {rgb.redF(), rgb.greenF(), rgb.blueF(), rgb.alphaF()};
+    const QRgba64 rgb = color.toRgb().rgba64();
+    const auto component = [](quint16 value) { return value / 65'535.0; };
+    return {component(rgb.red()), component(rgb.green()), component(rgb.blue()), component(rgb.alpha())};
 }
 
 QColor EditorColor::toColor() const {

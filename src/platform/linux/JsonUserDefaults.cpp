@@ -29,6 +29,21 @@ std::optional<QByteArray> dataOf(const QJsonValue &value) {
     return decoded ? std::optional(std::move(decoded.decoded)) : std::nullopt;
 }
 
+// Of an array, each understood by `elementOf`; nothing when one is not.
+template <class Element, class ElementOf>
+std::optional<QList<Element>> elements(const QJsonValue &value, ElementOf elementOf) {
+    if (!value.isArray())
+        return std::nullopt;
+    QList<Element> list;
+    for (const QJsonValue element : value.toArray()) {
+        const std::optional<Element> understood = elementOf(element);
+        if (!understood)
+            return std::nullopt;
+        list.append(*understood);
+    }
+    return list;
+}
+
 // The file that links lead to, also when it is not there yet. A ring of links is given up.
 QString behindLinks(QString path) {
     constexpr int mostLinks = 40;
@@ -111,30 +126,19 @@ std::optional<QByteArray> JsonUserDefaults::data(const QString &key) const {
 }
 
 std::optional<QStringList> JsonUserDefaults::stringArray(const QString &key) const {
-    const QJsonValue value = m_values.value(key);
-    if (!value.isArray())
-        return std::nullopt;
-    QStringList strings;
-    for (const QJsonValue element : value.toArray()) {
-        if (!element.isString())
-            return std::nullopt;
-        strings.append(element.toString());
-    }
-    return strings;
+    return elements<QString>(m_values.value(key), [](const QJsonValue &element) {
+        return element.isString() ? std::optional(element.toString()) : std::nullopt;
+    });
 }
 
 std::optional<QList<QByteArray>> JsonUserDefaults::dataArray(const QString &key) const {
-    const QJsonValue value = m_values.value(key);
-    if (!value.isArray())
-        return std::nullopt;
-    QList<QByteArray> list;
-    for (const QJsonValue element : value.toArray()) {
-        const auto data = dataOf(element);
-        if (!data)
-            return std::nullopt;
-        list.append(*data);
-    }
-    return list;
+    return elements<QByteArray>(m_values.value(key), dataOf);
+}
+
+std::optional<QList<double>> JsonUserDefaults::numberArray(const QString &key) const {
+    return elements<double>(m_values.value(key), [](const QJsonValue &element) {
+        return element.isDouble() ? std::optional(element.toDouble()) : std::nullopt;
+    });
 }
 
 void JsonUserDefaults::set(const QString &key, const QJsonValue &value) {
@@ -166,6 +170,13 @@ void JsonUserDefaults::setDataArray(const QString &key, const QList<QByteArray> 
     QJsonArray array;
     for (const QByteArray &data : value)
         array.append(dataValue(data));
+    set(key, array);
+}
+
+void JsonUserDefaults::setNumberArray(const QString &key, const QList<double> &value) {
+    QJsonArray array;
+    for (const double number : value)
+        array.append(number);
     set(key, array);
 }
 

@@ -23,6 +23,7 @@ public:
     [[nodiscard]] std::optional<QByteArray> data(const QString &key) const override;
     [[nodiscard]] std::optional<QStringList> stringArray(const QString &key) const override;
     [[nodiscard]] std::optional<QList<QByteArray>> dataArray(const QString &key) const override;
+    [[nodiscard]] std::optional<QList<double>> numberArray(const QString &key) const override;
 
     void setBoolean(const QString &key, bool value) override;
     void setInteger(const QString &key, qint64 value) override;
@@ -30,6 +31,7 @@ public:
     void setData(const QString &key, const QByteArray &value) override;
     void setStringArray(const QString &key, const QStringList &value) override;
     void setDataArray(const QString &key, const QList<QByteArray> &value) override;
+    void setNumberArray(const QString &key, const QList<double> &value) override;
     void remove(const QString &key) override;
 
 private:

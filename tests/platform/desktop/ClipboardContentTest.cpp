@@ -78,6 +78,13 @@ TEST(ClipboardContent, offersTheLastImageInBothFormats) {
     }
 }
 
+TEST(ClipboardContent, offersDataOfTheProgramsOwnTypesAlone) {
+    const QString own = QStringLiteral("app.example.thing");
+    const ClipboardContent content({{.type = own, .data = "thing"}});
+    EXPECT_EQ(content.formats(), QStringList(own));
+    EXPECT_EQ(content.data(own), "thing");
+}
+
 TEST(ClipboardContent, aBrokenImageHasNoOtherFormat) {
     const ClipboardContent content({item(pngType, "broken")});
     EXPECT_EQ(content.data(png), "broken");

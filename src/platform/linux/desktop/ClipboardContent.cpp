@@ -74,10 +74,15 @@ private:
 };
 
 ClipboardContent::ClipboardContent(const std::vector<Pasteboard::Item> &items) {
-    for (const Pasteboard::Item &item : items)
-        m_files.append(fileUri(item.path));
+    for (const Pasteboard::Item &item : items) {
+        if (!item.path.isEmpty())
+            m_files.append(fileUri(item.path));
+        else if (imageFormat(item).isEmpty() && !item.data.isEmpty())
+            m_others.insert(item.type, item.data);
+    }
+    m_formats = m_others.keys();
     if (!m_files.isEmpty())
-        m_formats = {uriList, copiedFiles};
+        m_formats += QStringList{uriList, copiedFiles};
     const auto last = std::find_if(items.rbegin(), items.rend(),
                                    [](const Pasteboard::Item &item) { return !imageFormat(item).isEmpty(); });
     if (last == items.rend())
@@ -93,7 +98,8 @@ QByteArray ClipboardContent::data(const QString &format) const {
         return m_files.join("\r\n") + QByteArrayLiteral("\r\n");
     if (format == copiedFiles)
         return QByteArrayLiteral("copy\n") + m_files.join('\n');
-    return m_image->data(format);
+    const auto other = m_others.constFind(format);
+    return other == m_others.cend() ? m_image->data(format) : *other;
 }
 
 } // namespace tembra

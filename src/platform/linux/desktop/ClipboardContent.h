@@ -2,6 +2,7 @@
 
 #include "platform/Pasteboard.h"
 
+#include <QHash>
 #include <QStringList>
 
 #include <memory>
@@ -9,8 +10,8 @@
 namespace tembra {
 
 // What the clipboard offers of some items, by MIME type: all files in their order, as any program and as file
-// managers want them, and the image of the last item that has one, as PNG and as TIFF. A value, for any
-// thread; its copies share their bytes.
+// managers want them, the image of the last item that has one, as PNG and as TIFF, and data of other types as
+// it is. A value, for any thread; its copies share their bytes.
 class ClipboardContent {
 public:
     explicit ClipboardContent(const std::vector<Pasteboard::Item> &items = {});
@@ -24,6 +25,8 @@ private:
     class Image;
 
     QStringList m_formats;
+    // Data of other types, by type.
+    QHash<QString, QByteArray> m_others;
     // As they stand in URLs, without what separates them.
     QList<QByteArray> m_files;
     std::shared_ptr<Image> m_image;

@@ -1,0 +1,155 @@
+#include "editor/model/ScreenshotEditDocument.h"
+
+#include "base/MainThread.h"
+
+#include <QCoreApplication>
+#include <QUndoCommand>
+
+#include <algorithm>
+#include <utility>
+
+namespace tembra {
+
+// Replaces annotations and crop together, forth and back.
+class ScreenshotEditDocument::Change final : public QUndoCommand {
+public:
+    Change(ScreenshotEditDocument &document, ScreenshotEdits before, ScreenshotEdits after,
+           const QString &name)
+        : QUndoCommand(name), m_document(document), m_before(std::move(before)), m_after(std::move(after)) {}
+
+    void undo() override { m_document.set(m_before); }
+    void redo() override { m_document.set(m_after); }
+
+private:
+    ScreenshotEditDocument &m_document;
+    const ScreenshotEdits m_before;
+    const ScreenshotEdits m_after;
+};
+
+namespace {
+
+// No badge shows a zero.
+std::int64_t following(std::int64_t number) {
+    return number == -1 ? 1 : number + 1;
+}
+
+QSet<QUuid> idsOf(const std::vector<ScreenshotAnnotation> &annotations) {
+    QSet<QUuid> ids;
+    for (const ScreenshotAnnotation &annotation : annotations)
+        ids.insert(annotation.id);
+    return ids;
+}
+
+} // namespace
+
+ScreenshotEditDocument::ScreenshotEditDocument(const ScreenshotEditLoaded &loaded)
+    : m_savedRecord(loaded.record),
+      m_openingAnnotations(loaded.record.annotations),
+      m_openingCropRect(loaded.record.cropRect),
+      m_savedFingerprint(loaded.expectedHash),
+      m_originalSize(loaded.size),
+      m_annotations(loaded.record.annotations),
+      m_cropRect(loaded.record.cropRect) {}
+
+void ScreenshotEditDocument::setSelectedIDs(const QSet<QUuid> &ids) {
+    requireMainThread();
+    if (m_selectedIDs == ids)
+        return;
+    m_selectedIDs = ids;
+    if (onChange)
+        onChange();
+}
+
+std::vector<ScreenshotAnnotation> ScreenshotEditDocument::selectedAnnotations() const {
+    std::vector<ScreenshotAnnotation> selected;
+    std::ranges::copy_if(m_annotations, std::back_inserter(selected),
+                         [this](const ScreenshotAnnotation &one) { return m_selectedIDs.contains(one.id); });
+    return selected;
+}
+
+bool ScreenshotEditDocument::isDirty() const {
+    return m_annotations != m_savedRecord.annotations || m_cropRect != m_savedRecord.cropRect;
+}
+
+bool ScreenshotEditDocument::matchesSavedImage(const ScreenshotEditLoaded &loaded) const {
+    return loaded.expectedHash == m_savedFingerprint && loaded.record.annotations == m_annotations &&
+           loaded.record.cropRect == m_cropRect;
+}
+
+void ScreenshotEditDocument::refreshBaseline(const ScreenshotEditLoaded &loaded) {
+    requireMainThread();
+    m_savedRecord = loaded.record;
+    m_savedFingerprint = loaded.expectedHash;
+}
+
+std::int64_t ScreenshotEditDocument::nextNumber() const {
+    std::optional<std::int64_t> largest;
+    for (const ScreenshotAnnotation &annotation : m_annotations) {
+        if (annotation.number)
+            largest = std::max(largest.value_or(annotation.number->value), annotation.number->value);
+    }
+    return largest ? following(*largest) : 1;
+}
+
+std::vector<std::int64_t>
+ScreenshotEditDocument::numbersFor(const std::vector<ScreenshotAnnotation> &originals) const {
+    std::vector<std::int64_t> numbers;
+    std::int64_t next = nextNumber();
+    for (const ScreenshotAnnotation &original : originals) {
+        if (original.number)
+            numbers.push_back(std::exchange(next, following(next)));
+    }
+    return numbers;
+}
+
+bool ScreenshotEditDocument::canNumberCopies(const std::vector<ScreenshotAnnotation> &originals) const {
+    const auto numbers = numbersFor(originals);
+    return numbers.empty() || numbers.back() <= EditorNumber::largest;
+}
+
+std::vector<ScreenshotAnnotation>
+ScreenshotEditDocument::numberedCopies(const std::vector<ScreenshotAnnotation> &originals) const {
+    std::vector<ScreenshotAnnotation> copies = originals;
+    const auto numbers = numbersFor(originals);
+    auto number = numbers.begin();
+    for (ScreenshotAnnotation &copy : copies) {
+        copy.id = QUuid::createUuid();
+        if (copy.number)
+            copy.number->value = *number++;
+    }
+    return copies;
+}
+
+void ScreenshotEditDocument::deleteSelection() {
+    std::vector<ScreenshotAnnotation> remaining;
+    std::ranges::copy_if(m_annotations, std::back_inserter(remaining),
+                         [this](const ScreenshotAnnotation &one) { return !m_selectedIDs.contains(one.id); });
+    const std::size_t count = m_annotations.size() - remaining.size();
+    if (count == 0)
+        return;
+    apply(std::move(remaining), m_cropRect,
+          count == 1 ? QCoreApplication::translate("ScreenshotEdit", "Delete annotation")
+                     : QCoreApplication::translate("ScreenshotEdit", "Delete annotations"));
+}
+
+void ScreenshotEditDocument::applyCrop(const std::optional<QRectF> &crop) {
+    apply(m_annotations, crop, QCoreApplication::translate("ScreenshotEdit", "Crop"));
+}
+
+void ScreenshotEditDocument::apply(std::vector<ScreenshotAnnotation> annotations, std::optional<QRectF> crop,
+                                   const QString &name) {
+    requireMainThread();
+    m_editingBegan = true;
+    // Pushing does the change.
+    m_history.push(new Change(*this, {m_annotations, m_cropRect}, {std::move(annotations), crop}, name));
+}
+
+void ScreenshotEditDocument::set(const ScreenshotEdits &edits) {
+    m_annotations = edits.annotations;
+    m_cropRect = edits.cropRect;
+    m_selectedIDs.intersect(idsOf(m_annotations));
+    if (onChange)
+        onChange();
+}
+
+} // namespace tembra
