@@ -1,11 +1,10 @@
 #pragma once
 
-#include "platform/linux/PageBuffer.h"
+#include "imaging/PageBuffer.h"
 
 #include <QImage>
 #include <QString>
 
-#include <memory>
 #include <optional>
 
 namespace tembra {
@@ -15,11 +14,6 @@ namespace tembra {
 // for the next picture. Any one thread at a time.
 class PngThumbnailReader {
 public:
-    PngThumbnailReader();
-    ~PngThumbnailReader();
-    PngThumbnailReader(const PngThumbnailReader &) = delete;
-    PngThumbnailReader &operator=(const PngThumbnailReader &) = delete;
-
     // The picture fitted into a square of the given side, RGB32 or ARGB32. Nothing when it is less than twice
     // as large, large beyond sense, uncommon or damaged: whoever reads every kind is to say what it is.
     [[nodiscard]] std::optional<QImage> read(const QString &path, int side);
@@ -27,9 +21,6 @@ public:
     void release();
 
 private:
-    struct Inflater;
-
-    std::unique_ptr<Inflater> m_inflater;
     PageBuffer m_file;
     PageBuffer m_pixels;
 };

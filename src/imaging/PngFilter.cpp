@@ -1,4 +1,4 @@
-#include "platform/linux/PngFilter.h"
+#include "imaging/PngFilter.h"
 
 #include <algorithm>
 #include <array>

@@ -29,18 +29,22 @@ struct PngFile {
     };
 
     Head head;
-    // Premultiplied; the entries beyond `colours` mean nothing.
+    // The entries beyond `colours` mean nothing.
     std::array<QRgb, 256> palette{};
     std::size_t colours = 0;
     bool hasTransparentColours = false;
-    // The compressed pixels, within the bytes that were read.
-    std::span<const unsigned char> compressed;
+    // The pieces of the compressed pixels, within the bytes that were read.
+    std::vector<std::span<const unsigned char>> pieces;
 
     // Nothing when the file is not of the common kind. `start` holds the file's first `headSize` bytes.
     [[nodiscard]] static std::optional<Head> readHead(std::span<const unsigned char> start);
-    // Nothing when the file is damaged, or anything in it could change how the picture looks. Joins the
-    // pieces of the compressed pixels within `bytes`, which is the whole file.
-    [[nodiscard]] static std::optional<PngFile> read(std::span<unsigned char> bytes);
+    // Nothing when the file is damaged, or anything in it could change how the picture looks.
+    [[nodiscard]] static std::optional<PngFile> read(std::span<const unsigned char> bytes);
+
+    [[nodiscard]] std::size_t compressedBytes() const;
+    // The compressed pixels in one piece, in `room` if they are not so already. The room holds as many bytes;
+    // it may be the memory that was read, and is spoilt then.
+    [[nodiscard]] std::span<const unsigned char> joinedIn(std::span<unsigned char> room) const;
 };
 
 } // namespace tembra

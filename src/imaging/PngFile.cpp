@@ -1,4 +1,6 @@
-#include "platform/linux/PngFile.h"
+#include "imaging/PngFile.h"
+
+#include "imaging/PngColours.h"
 
 #include <QtEndian>
 
@@ -6,6 +8,7 @@
 #include <cstring>
 #include <libdeflate.h>
 #include <string_view>
+#include <utility>
 
 namespace tembra {
 
@@ -24,12 +27,6 @@ constexpr quint32 longestSide = 65'535;
 // They change nothing about how a picture looks.
 constexpr std::array harmless{"tEXt"sv, "zTXt"sv, "iTXt"sv, "tIME"sv, "pHYs"sv, "sBIT"sv, "bKGD"sv};
 
-// What a file in sRGB may say besides so.
-constexpr std::array<unsigned char, 4> srgbGamma{0x00, 0x00, 0xb1, 0x8f};
-constexpr std::array<unsigned char, 32> srgbChromaticities{
-    0x00, 0x00, 0x7a, 0x26, 0x00, 0x00, 0x80, 0x84, 0x00, 0x00, 0xfa, 0x00, 0x00, 0x00, 0x80, 0xe8,
-    0x00, 0x00, 0x75, 0x30, 0x00, 0x00, 0xea, 0x60, 0x00, 0x00, 0x3a, 0x98, 0x00, 0x00, 0x17, 0x70};
-
 quint32 number(Bytes bytes) {
     return qFromBigEndian<quint32>(bytes.data());
 }
@@ -41,7 +38,7 @@ std::string_view text(Bytes bytes) {
 // One look at all the chunks of a file.
 class ChunkReader {
 public:
-    explicit ChunkReader(std::span<unsigned char> bytes) : m_rest(bytes) {}
+    explicit ChunkReader(Bytes bytes) : m_rest(bytes) {}
 
     std::optional<PngFile> read() {
         const auto head = PngFile::readHead(m_rest);
@@ -55,10 +52,9 @@ public:
         }
         const bool hasPalette = m_file.colours > 0;
         const bool needsPalette = head->kind == PngFile::Kind::Palette;
-        if (m_pixels.empty() || (m_describesColours && !m_isSrgb) || (needsPalette && !hasPalette))
+        if (m_file.pieces.empty() || (needsPalette && !hasPalette))
             return std::nullopt;
-        m_file.compressed = m_pixels;
-        return m_file;
+        return std::move(m_file);
     }
 
 private:
@@ -72,42 +68,32 @@ private:
         if (libdeflate_crc32(0, checked.data(), checked.size()) !=
             number(m_rest.subspan(chunkFront + length)))
             return false;
-        const auto chunk = m_rest.subspan(chunkFront, length);
+        const Bytes chunk = m_rest.subspan(chunkFront, length);
         m_rest = m_rest.subspan(chunkOverhead + length);
         return accept(text(checked.first(4)), chunk);
     }
 
-    bool accept(std::string_view type, std::span<unsigned char> data) {
+    bool accept(std::string_view type, Bytes data) {
         const bool followsPixels = m_lastWasPixels;
         m_lastWasPixels = type == "IDAT"sv;
-        if (type == "IDAT"sv)
-            return (m_pixels.empty() || followsPixels) && addPixels(data);
+        if (type == "IDAT"sv) {
+            m_file.pieces.push_back(data);
+            return m_file.pieces.size() == 1 || followsPixels;
+        }
         if (type == "IEND"sv)
             return m_ended = data.empty();
         if (std::ranges::find(harmless, type) != harmless.end())
             return true;
         // What follows belongs before the pixels.
-        if (!m_pixels.empty())
+        if (!m_file.pieces.empty())
             return false;
         if (type == "PLTE"sv)
             return addPalette(data);
         if (type == "tRNS"sv)
             return addTransparency(data);
         if (type == "sRGB"sv)
-            return m_isSrgb = data.size() == 1 && data.front() <= 3;
-        m_describesColours = true;
-        return (type == "gAMA"sv && std::ranges::equal(data, srgbGamma)) ||
-               (type == "cHRM"sv && std::ranges::equal(data, srgbChromaticities));
-    }
-
-    bool addPixels(std::span<unsigned char> data) {
-        if (m_pixels.empty()) {
-            m_pixels = data;
-            return true;
-        }
-        std::memmove(m_pixels.data() + m_pixels.size(), data.data(), data.size());
-        m_pixels = {m_pixels.data(), m_pixels.size() + data.size()};
-        return true;
+            return data.size() == 1 && data.front() <= 3;
+        return (type == "gAMA"sv && isSrgbGamma(data)) || (type == "cHRM"sv && isSrgbChromaticities(data));
     }
 
     bool addPalette(Bytes data) {
@@ -127,18 +113,15 @@ private:
         m_hasTransparency = true;
         for (std::size_t i = 0; i < data.size(); ++i) {
             const QRgb colour = m_file.palette[i];
-            m_file.palette[i] = qPremultiply(qRgba(qRed(colour), qGreen(colour), qBlue(colour), data[i]));
+            m_file.palette[i] = qRgba(qRed(colour), qGreen(colour), qBlue(colour), data[i]);
             m_file.hasTransparentColours = m_file.hasTransparentColours || data[i] != 255;
         }
         return true;
     }
 
-    std::span<unsigned char> m_rest;
+    Bytes m_rest;
     PngFile m_file;
-    std::span<unsigned char> m_pixels;
     bool m_lastWasPixels = false;
-    bool m_isSrgb = false;
-    bool m_describesColours = false;
     bool m_hasTransparency = false;
     bool m_ended = false;
 };
@@ -187,8 +170,26 @@ std::optional<PngFile::Head> PngFile::readHead(std::span<const unsigned char> st
     return Head{QSize(static_cast<int>(width), static_cast<int>(height)), static_cast<Kind>(data[9])};
 }
 
-std::optional<PngFile> PngFile::read(std::span<unsigned char> bytes) {
+std::optional<PngFile> PngFile::read(std::span<const unsigned char> bytes) {
     return ChunkReader(bytes).read();
+}
+
+std::size_t PngFile::compressedBytes() const {
+    std::size_t size = 0;
+    for (const Bytes piece : pieces)
+        size += piece.size();
+    return size;
+}
+
+std::span<const unsigned char> PngFile::joinedIn(std::span<unsigned char> room) const {
+    if (pieces.size() == 1)
+        return pieces.front();
+    std::size_t size = 0;
+    for (const Bytes piece : pieces) {
+        std::memmove(room.data() + size, piece.data(), piece.size());
+        size += piece.size();
+    }
+    return room.first(size);
 }
 
 } // namespace tembra

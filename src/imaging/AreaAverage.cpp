@@ -1,4 +1,4 @@
-#include "platform/linux/AreaAverage.h"
+#include "imaging/AreaAverage.h"
 
 #include <algorithm>
 

@@ -1,0 +1,144 @@
+#include "imaging/PngRowFilter.h"
+
+#include <QtEndian>
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <cstring>
+#include <vector>
+
+namespace tembra {
+
+namespace {
+
+using Byte = unsigned char;
+
+bool isOpaque(const QImage &image) {
+    if (!image.hasAlphaChannel())
+        return true;
+    for (int y = 0; y < image.height(); ++y) {
+        const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
+        QRgb alphas = 0xffff'ffff;
+        for (int x = 0; x < image.width(); ++x)
+            alphas &= line[x];
+        if (qAlpha(alphas) != 255)
+            return false;
+    }
+    return true;
+}
+
+// Whether most pixels of a sample of rows differ from all their neighbours.
+bool isMostlyUneven(const QImage &image) {
+    constexpr int sampledRows = 64;
+    const int step = std::max(1, image.height() / sampledRows);
+    qint64 uneven = 0;
+    qint64 count = 0;
+    for (int y = 1; y < image.height(); y += step) {
+        const auto *above = reinterpret_cast<const QRgb *>(image.constScanLine(y - 1));
+        const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
+        for (int x = 1; x < image.width(); ++x)
+            uneven += line[x] != line[x - 1] && line[x] != above[x] ? 1 : 0;
+        count += image.width() - 1;
+    }
+    return 2 * uneven > count;
+}
+
+void pack(const QRgb *line, int width, int channels, Byte *row) {
+    if (channels == 4) {
+        for (int x = 0; x < width; ++x, row += 4) {
+            const QRgb rgba = (line[x] & 0xff00'ff00) | (line[x] >> 16 & 0xff) | (line[x] & 0xff) << 16;
+            qToLittleEndian(rgba, row);
+        }
+        return;
+    }
+    for (int x = 0; x < width; ++x, row += 3) {
+        row[0] = static_cast<Byte>(qRed(line[x]));
+        row[1] = static_cast<Byte>(qGreen(line[x]));
+        row[2] = static_cast<Byte>(qBlue(line[x]));
+    }
+}
+
+// A byte's neighbours are to its left, above it, and above the left one.
+Byte nearest(int left, int up, int corner) {
+    const int toLeft = std::abs(up - corner);
+    const int toUp = std::abs(left - corner);
+    const int toCorner = std::abs(left + up - 2 * corner);
+    const int besides = toUp <= toCorner ? up : corner;
+    return static_cast<Byte>(toLeft <= toUp && toLeft <= toCorner ? left : besides);
+}
+
+// The filters that make differences. `row` and `above` are preceded by a pixel of zeros.
+class Differences {
+public:
+    Differences(std::size_t size, std::size_t channels) : m_size(size), m_channels(channels) {
+        for (auto &candidate : m_candidates)
+            candidate.resize(size);
+    }
+
+    // The filter whose result is nearest to zeros, and the result behind its name.
+    void write(const Byte *row, const Byte *above, Byte *target) {
+        const Byte *left = row - m_channels;
+        const Byte *corner = above - m_channels;
+        make(0, [=](std::size_t i) { return row[i] - left[i]; });
+        make(1, [=](std::size_t i) { return row[i] - above[i]; });
+        make(2, [=](std::size_t i) { return row[i] - (left[i] + above[i]) / 2; });
+        make(3, [=](std::size_t i) { return row[i] - nearest(left[i], above[i], corner[i]); });
+        const auto best = std::ranges::min_element(m_sums) - m_sums.begin();
+        *target = static_cast<Byte>(1 + best);
+        std::memcpy(target + 1, m_candidates[static_cast<std::size_t>(best)].data(), m_size);
+    }
+
+private:
+    template <class Difference>
+    void make(std::size_t filter, const Difference &difference) {
+        Byte *candidate = m_candidates[filter].data();
+        unsigned sum = 0;
+        for (std::size_t i = 0; i < m_size; ++i) {
+            const auto value = static_cast<Byte>(difference(i));
+            candidate[i] = value;
+            sum += std::min<Byte>(value, static_cast<Byte>(-value));
+        }
+        m_sums[filter] = sum;
+    }
+
+    const std::size_t m_size;
+    const std::size_t m_channels;
+    std::array<std::vector<Byte>, 4> m_candidates;
+    std::array<unsigned, 4> m_sums{};
+};
+
+} // namespace
+
+PngRowFilter::PngRowFilter(const QImage &image) : m_image(image) {
+    const bool isFit = image.format() == QImage::Format_RGB32 || image.format() == QImage::Format_ARGB32;
+    if (!isFit)
+        m_image.convertTo(image.hasAlphaChannel() ? QImage::Format_ARGB32 : QImage::Format_RGB32);
+    m_channels = isOpaque(m_image) ? 3 : 4;
+    m_looksLikePhotograph = isMostlyUneven(m_image);
+}
+
+void PngRowFilter::write(int first, std::span<unsigned char> rows) const {
+    const auto line = [this](int y) { return reinterpret_cast<const QRgb *>(m_image.constScanLine(y)); };
+    const int width = m_image.width();
+    if (!m_looksLikePhotograph) {
+        for (int y = first; !rows.empty(); ++y, rows = rows.subspan(stride())) {
+            rows.front() = 0;
+            pack(line(y), width, m_channels, rows.data() + 1);
+        }
+        return;
+    }
+    const auto pixel = static_cast<std::size_t>(m_channels);
+    std::vector<Byte> above(pixel + stride());
+    std::vector<Byte> row(above.size());
+    Differences differences(stride() - 1, pixel);
+    if (first > 0)
+        pack(line(first - 1), width, m_channels, above.data() + pixel);
+    for (int y = first; !rows.empty(); ++y, rows = rows.subspan(stride())) {
+        pack(line(y), width, m_channels, row.data() + pixel);
+        differences.write(row.data() + pixel, above.data() + pixel, rows.data());
+        row.swap(above);
+    }
+}
+
+} // namespace tembra
