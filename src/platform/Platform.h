@@ -4,6 +4,7 @@
 #include "platform/Bookmarks.h"
 #include "platform/CaptureMarkers.h"
 #include "platform/Displays.h"
+#include "platform/FileCoordinator.h"
 #include "platform/FileFacts.h"
 #include "platform/FilePromises.h"
 #include "platform/FileReferences.h"
@@ -38,6 +39,7 @@ struct Platform {
     std::function<std::unique_ptr<ScreenCapturePreferences>()> screenCapturePreferences;
     std::unique_ptr<FileFactsReader> fileFacts;
     std::unique_ptr<FolderFiles> folderFiles;
+    std::unique_ptr<FileCoordinator> fileCoordinator;
     std::unique_ptr<FileReferences> fileReferences;
     std::unique_ptr<Volumes> volumes;
     std::unique_ptr<Bookmarks> bookmarks;

@@ -5,6 +5,7 @@
 #include "platform/linux/JsonUserDefaults.h"
 #include "platform/linux/LinuxBookmarks.h"
 #include "platform/linux/LinuxCaptureMarkers.h"
+#include "platform/linux/LinuxFileCoordinator.h"
 #include "platform/linux/LinuxFileFacts.h"
 #include "platform/linux/LinuxFileReferences.h"
 #include "platform/linux/LinuxFolderFiles.h"
@@ -27,6 +28,7 @@ Platform makeHeadlessPlatform(Scheduler &scheduler) {
     };
     auto facts = std::make_unique<LinuxFileFactsReader>();
     platform.folderFiles = std::make_unique<LinuxFolderFiles>(*facts);
+    platform.fileCoordinator = std::make_unique<LinuxFileCoordinator>();
     platform.fileReferences = std::make_unique<LinuxFileReferences>(*facts);
     platform.volumes = std::make_unique<LinuxMountedVolumes>(*facts);
     platform.bookmarks = std::make_unique<LinuxBookmarks>(*facts, platform.folders);
