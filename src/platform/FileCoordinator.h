@@ -60,6 +60,10 @@ public:
     [[nodiscard]] virtual Result<void> replace(const QString &path, const QString &temporary,
                                                QByteArrayView bytes,
                                                const ContentCheck &isExpected) const = 0;
+    // Clears away what a program that was killed in `replace` left: a temporary that holds neither what the
+    // file held nor what it was to hold is somebody else's version of it and kept beside it as "… copy".
+    [[nodiscard]] virtual Result<void> clearTemporary(const QString &path, const QString &temporary,
+                                                      const ContentCheck &isKnown) const = 0;
     // Renames the file if it holds what is expected; never replaces another.
     [[nodiscard]] virtual Result<void> moveIfUnchanged(const QString &from, const QString &to,
                                                        const ContentCheck &isExpected) const = 0;

@@ -147,6 +147,25 @@ TEST_F(LinuxFileCoordinatorTest, aFileWhoseReplacementWasRemovedComesBack) {
     EXPECT_EQ(names(), m_onlyShot);
 }
 
+TEST_F(LinuxFileCoordinatorTest, aTemporaryThatWasLeftIsClearedAwayUnlessItIsSomebodysVersion) {
+    writeFile(m_temporary, "old");
+    EXPECT_TRUE(m_files.clearTemporary(m_shot, m_temporary, isOld));
+    EXPECT_TRUE(m_files.clearTemporary(m_shot, m_temporary, isOld)) << "missing is fine";
+    EXPECT_EQ(names(), m_onlyShot);
+    writeFile(m_temporary, "theirs");
+    EXPECT_TRUE(m_files.clearTemporary(m_shot, m_temporary, isOld));
+    EXPECT_EQ(contentOf("shot copy.png"), "theirs");
+    EXPECT_EQ(names().size(), 2);
+}
+
+TEST_F(LinuxFileCoordinatorTest, aVersionOfOthersIsKeptBesideTheLongestName) {
+    const QString longest = QString(251, u'n') + QStringLiteral(".png");
+    writeFile(path(longest), "old");
+    writeFile(m_temporary, "theirs");
+    EXPECT_TRUE(m_files.clearTemporary(path(longest), m_temporary, isOld));
+    EXPECT_EQ(m_files.read(path(QString(246, u'n') + QStringLiteral(" copy.png"))), QByteArray("theirs"));
+}
+
 TEST_F(LinuxFileCoordinatorTest, aMoveNeverReplaces) {
     writeFile(path("b.png"), "other");
     const auto refused = m_files.moveIfUnchanged(m_shot, path("b.png"), isOld);

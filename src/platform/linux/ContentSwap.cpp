@@ -1,11 +1,9 @@
 #include "platform/linux/ContentSwap.h"
 
+#include "platform/linux/DiscardedFile.h"
 #include "platform/linux/ExclusiveRename.h"
 #include "platform/linux/FileCoordinatorError.h"
 #include "platform/linux/ReadLease.h"
-
-#include <algorithm>
-#include <climits>
 
 namespace tembra {
 
@@ -17,16 +15,6 @@ tl::unexpected<Error> changed() {
 
 bool isUnsupported(const Error &error) {
     return error.code == EINVAL || error.code == ENOSYS || error.code == ENOTSUP;
-}
-
-// "Shot.png" as "Shot copy.png", "Shot copy 1.png" and so on.
-QByteArray copyName(const QByteArray &name, int number) {
-    const qsizetype dot = name.lastIndexOf('.');
-    const QByteArray extension = dot > 0 ? name.mid(dot) : QByteArray();
-    const QByteArray ending =
-        " copy" + (number > 0 ? ' ' + QByteArray::number(number) : QByteArray()) + extension;
-    const QByteArray stem = dot > 0 ? name.left(dot) : name;
-    return stem.left(std::max<qsizetype>(NAME_MAX - ending.size(), 0)) + ending;
 }
 
 } // namespace
@@ -64,7 +52,7 @@ Result<void> ContentSwap::settle() const {
         return swapBack(file.error());
     // Held until the file has its name back or has none: a writer who comes meanwhile finds it as it is then.
     const ReadLease lease(file->number());
-    auto outcome = lease.hasWriter() ? changed() : check(file->number());
+    auto outcome = check(file->number());
     if (outcome)
         outcome = m_folder.sync();
     if (outcome && lease.hasWriter())
@@ -79,40 +67,14 @@ Result<void> ContentSwap::settle() const {
 }
 
 Result<void> ContentSwap::swapBack(const Error &reason) const {
-    if (m_folder.exchange(m_name, m_temporary))
-        discardTemporary();
-    // Unless somebody removed what we had put there.
-    else if (renameExclusively(m_folder.number(), m_temporary, m_folder.number(), m_name) != 0)
-        keepTemporary();
+    const auto isOurs = [this](QByteArrayView content) { return content == m_bytes; };
+    // Unless it works because somebody removed what we had put there, the temporary's name leads again to
+    // that, or to what others made of it while it stood in the place of the file.
+    if (m_folder.exchange(m_name, m_temporary) ||
+        renameExclusively(m_folder.number(), m_temporary, m_folder.number(), m_name) != 0)
+        (void)discardOrKeep(m_folder, m_temporary, m_name, isOurs);
     (void)m_folder.sync();
     return failure(reason);
-}
-
-// The temporary's name leads again to what we wrote, or to what others made of it while it stood in the place
-// of the file.
-void ContentSwap::discardTemporary() const {
-    const auto file = m_folder.openFile(m_temporary);
-    if (!file) {
-        keepTemporary();
-        return;
-    }
-    const ReadLease lease(file->number());
-    if (lease.hasWriter() || !isOurs(file->number()) || lease.hasWriter())
-        keepTemporary();
-    else
-        (void)m_folder.remove(m_temporary);
-}
-
-bool ContentSwap::isOurs(int file) const {
-    const auto content = readWhole(file);
-    return content && QByteArrayView(*content) == m_bytes;
-}
-
-void ContentSwap::keepTemporary() const {
-    int number = 0;
-    while (renameExclusively(m_folder.number(), m_temporary, m_folder.number(), copyName(m_name, number)) ==
-           EEXIST)
-        ++number;
 }
 
 Result<void> ContentSwap::replaceUnexchanged() const {
@@ -120,7 +82,7 @@ Result<void> ContentSwap::replaceUnexchanged() const {
     if (!file)
         return failure(file.error());
     const ReadLease lease(file->number());
-    auto outcome = lease.hasWriter() ? changed() : check(file->number());
+    auto outcome = check(file->number());
     if (outcome && lease.hasWriter())
         outcome = changed();
     if (outcome)

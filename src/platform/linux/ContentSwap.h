@@ -22,9 +22,6 @@ private:
     [[nodiscard]] Result<void> replaceUnexchanged() const;
     [[nodiscard]] Result<void> check(int file) const;
     [[nodiscard]] Result<void> swapBack(const Error &reason) const;
-    [[nodiscard]] bool isOurs(int file) const;
-    void discardTemporary() const;
-    void keepTemporary() const;
 
     const DurableFolder &m_folder;
     const QByteArray &m_name;

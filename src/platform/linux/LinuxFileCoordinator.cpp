@@ -2,6 +2,7 @@
 
 #include "base/FilePath.h"
 #include "platform/linux/ContentSwap.h"
+#include "platform/linux/DiscardedFile.h"
 #include "platform/linux/DurableFolder.h"
 #include "platform/linux/ExclusiveRename.h"
 #include "platform/linux/FileCoordinatorError.h"
@@ -130,6 +131,16 @@ Result<void> LinuxFileCoordinator::replace(const QString &path, const QString &t
     const FilePlace temporaryPlace(temporary);
     return DurableFolder::open(place.folder).and_then([&](const DurableFolder &folder) {
         return ContentSwap(folder, place.name, temporaryPlace.name, bytes, isExpected).run();
+    });
+}
+
+Result<void> LinuxFileCoordinator::clearTemporary(const QString &path, const QString &temporary,
+                                                  const ContentCheck &isKnown) const {
+    const FilePlace place(temporary);
+    return DurableFolder::open(place.folder).and_then([&](const DurableFolder &folder) {
+        return discardOrKeep(folder, place.name, FilePlace(path).name, isKnown).and_then([&] {
+            return folder.sync();
+        });
     });
 }
 

@@ -15,6 +15,8 @@ public:
                                               const QString &like) const override;
     [[nodiscard]] Result<void> replace(const QString &path, const QString &temporary, QByteArrayView bytes,
                                        const ContentCheck &isExpected) const override;
+    [[nodiscard]] Result<void> clearTemporary(const QString &path, const QString &temporary,
+                                              const ContentCheck &isKnown) const override;
     [[nodiscard]] Result<void> moveIfUnchanged(const QString &from, const QString &to,
                                                const ContentCheck &isExpected) const override;
 };
