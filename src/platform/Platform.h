@@ -19,6 +19,7 @@
 #include "platform/SingleInstance.h"
 #include "platform/Sounds.h"
 #include "platform/StandardFolders.h"
+#include "platform/ThumbnailCache.h"
 #include "platform/Thumbnails.h"
 #include "platform/Trash.h"
 #include "platform/UserDefaults.h"
@@ -47,6 +48,7 @@ struct Platform {
     std::unique_ptr<CaptureMarkers> captureMarkers;
     std::unique_ptr<Trash> trash;
     std::unique_ptr<PictureDecoder> pictureDecoder;
+    std::unique_ptr<ThumbnailCache> thumbnailCache;
     // The services below need a display and are absent in commands that run without one.
     std::unique_ptr<Displays> displays;
     std::unique_ptr<Workspace> workspace;

@@ -13,6 +13,7 @@
 #include "platform/linux/LinuxPictureDecoder.h"
 #include "platform/linux/LinuxStandardFolders.h"
 #include "platform/linux/LinuxTrash.h"
+#include "platform/linux/ThumbnailCacheFolder.h"
 #include "platform/linux/desktop/DesktopServices.h"
 #include "platform/linux/tools/ScreenshotTool.h"
 
@@ -36,6 +37,7 @@ Platform makeHeadlessPlatform(Scheduler &scheduler) {
     platform.captureMarkers = std::make_unique<LinuxCaptureMarkers>();
     platform.trash = std::make_unique<LinuxTrash>(*facts, platform.folders.trash.first());
     platform.pictureDecoder = std::make_unique<LinuxPictureDecoder>();
+    platform.thumbnailCache = std::make_unique<ThumbnailCacheFolder>(ThumbnailCacheFolder::userRoot());
     platform.fileFacts = std::move(facts);
     return platform;
 }
