@@ -4,6 +4,7 @@
 #include "platform/Bookmarks.h"
 #include "platform/CaptureMarkers.h"
 #include "platform/Displays.h"
+#include "platform/FileCoordinator.h"
 #include "platform/FileFacts.h"
 #include "platform/FilePromises.h"
 #include "platform/FileReferences.h"
@@ -18,6 +19,7 @@
 #include "platform/SingleInstance.h"
 #include "platform/Sounds.h"
 #include "platform/StandardFolders.h"
+#include "platform/ThumbnailCache.h"
 #include "platform/Thumbnails.h"
 #include "platform/Trash.h"
 #include "platform/UserDefaults.h"
@@ -38,6 +40,7 @@ struct Platform {
     std::function<std::unique_ptr<ScreenCapturePreferences>()> screenCapturePreferences;
     std::unique_ptr<FileFactsReader> fileFacts;
     std::unique_ptr<FolderFiles> folderFiles;
+    std::unique_ptr<FileCoordinator> fileCoordinator;
     std::unique_ptr<FileReferences> fileReferences;
     std::unique_ptr<Volumes> volumes;
     std::unique_ptr<Bookmarks> bookmarks;
@@ -45,6 +48,7 @@ struct Platform {
     std::unique_ptr<CaptureMarkers> captureMarkers;
     std::unique_ptr<Trash> trash;
     std::unique_ptr<PictureDecoder> pictureDecoder;
+    std::unique_ptr<ThumbnailCache> thumbnailCache;
     // The services below need a display and are absent in commands that run without one.
     std::unique_ptr<Displays> displays;
     std::unique_ptr<Workspace> workspace;

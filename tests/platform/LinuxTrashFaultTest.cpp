@@ -1,16 +1,10 @@
 #include "platform/TrashFixture.h"
+#include "support/LostCalls.h"
 
 #include <QDirIterator>
 
 #include <algorithm>
-#include <array>
-#include <cerrno>
 #include <csignal>
-#include <cstddef>
-#include <linux/filter.h>
-#include <linux/seccomp.h>
-#include <sys/prctl.h>
-#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -85,22 +79,6 @@ private:
     QStringList m_originals;
     QStringList m_trashed;
 };
-
-// Takes away from this process what older kernels and some file systems do not have; gives whether it could.
-bool loseNewerCalls() {
-    constexpr auto answer = [](unsigned code) { return SECCOMP_RET_ERRNO | code; };
-    std::array<sock_filter, 6> rules{{
-        BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
-        BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, SYS_renameat2, 2, 0),
-        BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, SYS_openat2, 2, 0),
-        BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW),
-        BPF_STMT(BPF_RET | BPF_K, answer(EINVAL)),
-        BPF_STMT(BPF_RET | BPF_K, answer(ENOSYS)),
-    }};
-    const sock_fprog filter{rules.size(), rules.data()};
-    return ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 &&
-           ::prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &filter) == 0;
-}
 
 using LinuxTrashWithoutNewerCalls = TrashFixture;
 

@@ -28,14 +28,6 @@ std::size_t mostThreads() {
     return std::clamp(std::thread::hardware_concurrency(), 2U, 4U);
 }
 
-// Only regular files are opened: a named pipe would hold the thread for ever.
-std::optional<ThumbnailCacheFolder::Source> sourceOf(const QString &path) {
-    struct stat status {};
-    if (::stat(pathBytes(path).constData(), &status) != 0 || !S_ISREG(status.st_mode))
-        return std::nullopt;
-    return ThumbnailCacheFolder::Source{path, status.st_mtim.tv_sec, status.st_size};
-}
-
 bool exists(const QString &path) {
     struct stat status {};
     return ::stat(pathBytes(path).constData(), &status) == 0;
@@ -65,8 +57,7 @@ private:
 };
 
 FreedesktopThumbnails::Locations FreedesktopThumbnails::userLocations() {
-    return {QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
-                QStringLiteral("/thumbnails"),
+    return {ThumbnailCacheFolder::userRoot(),
             QStandardPaths::locateAll(QStandardPaths::GenericDataLocation, QStringLiteral("thumbnailers"),
                                       QStandardPaths::LocateDirectory)};
 }
@@ -136,7 +127,8 @@ bool FreedesktopThumbnails::awaitJobs() {
 }
 
 void FreedesktopThumbnails::perform(const std::shared_ptr<Job> &job, PngThumbnailReader &pngReader) {
-    const auto source = sourceOf(job->path);
+    // Only regular files are opened: a named pipe would hold the thread for ever.
+    const auto source = ThumbnailCacheFolder::sourceOf(job->path);
     if (!source) {
         deliver(job, exists(job->path) ? Result<QImage>() : failure(unreadablePicture()));
         return;
@@ -147,9 +139,13 @@ void FreedesktopThumbnails::perform(const std::shared_ptr<Job> &job, PngThumbnai
     }
     std::optional<QImage> toStore;
     deliver(job, make(*job, pngReader, toStore));
-    // A file that changed while it was read has a thumbnail of neither version.
-    if (toStore && sourceOf(job->path) == source)
-        m_cache.store(*source, *toStore);
+    if (!toStore)
+        return;
+    m_cache.store(*source, *toStore);
+    // A file that changed while it was read has a thumbnail of neither version. Asked afterwards: who changed
+    // it may have looked for what is to be forgotten just before.
+    if (ThumbnailCacheFolder::sourceOf(job->path) != source)
+        m_cache.forget(job->path);
 }
 
 Result<QImage> FreedesktopThumbnails::make(const Job &job, PngThumbnailReader &pngReader,

@@ -5,6 +5,7 @@
 #include "platform/linux/JsonUserDefaults.h"
 #include "platform/linux/LinuxBookmarks.h"
 #include "platform/linux/LinuxCaptureMarkers.h"
+#include "platform/linux/LinuxFileCoordinator.h"
 #include "platform/linux/LinuxFileFacts.h"
 #include "platform/linux/LinuxFileReferences.h"
 #include "platform/linux/LinuxFolderFiles.h"
@@ -12,6 +13,7 @@
 #include "platform/linux/LinuxPictureDecoder.h"
 #include "platform/linux/LinuxStandardFolders.h"
 #include "platform/linux/LinuxTrash.h"
+#include "platform/linux/ThumbnailCacheFolder.h"
 #include "platform/linux/desktop/DesktopServices.h"
 #include "platform/linux/tools/ScreenshotTool.h"
 
@@ -27,6 +29,7 @@ Platform makeHeadlessPlatform(Scheduler &scheduler) {
     };
     auto facts = std::make_unique<LinuxFileFactsReader>();
     platform.folderFiles = std::make_unique<LinuxFolderFiles>(*facts);
+    platform.fileCoordinator = std::make_unique<LinuxFileCoordinator>();
     platform.fileReferences = std::make_unique<LinuxFileReferences>(*facts);
     platform.volumes = std::make_unique<LinuxMountedVolumes>(*facts);
     platform.bookmarks = std::make_unique<LinuxBookmarks>(*facts, platform.folders);
@@ -34,6 +37,7 @@ Platform makeHeadlessPlatform(Scheduler &scheduler) {
     platform.captureMarkers = std::make_unique<LinuxCaptureMarkers>();
     platform.trash = std::make_unique<LinuxTrash>(*facts, platform.folders.trash.first());
     platform.pictureDecoder = std::make_unique<LinuxPictureDecoder>();
+    platform.thumbnailCache = std::make_unique<ThumbnailCacheFolder>(ThumbnailCacheFolder::userRoot());
     platform.fileFacts = std::move(facts);
     return platform;
 }

@@ -33,15 +33,6 @@ std::unique_lock<std::mutex> turnForLarge(qint64 pixels) {
     return pixels > largePixels ? std::unique_lock(large) : std::unique_lock<std::mutex>();
 }
 
-// Eight bits a channel in the colours that screens and other readers of the cache expect.
-QImage forScreens(QImage image) {
-    if (image.colorSpace().isValid() && image.colorSpace() != QColorSpace(QColorSpace::SRgb))
-        image.convertToColorSpace(QColorSpace::SRgb);
-    image.setColorSpace({});
-    const bool isTransparent = image.hasAlphaChannel();
-    return std::move(image).convertToFormat(isTransparent ? QImage::Format_ARGB32 : QImage::Format_RGB32);
-}
-
 // Qt averages areas in some formats only; in the others it picks pixels, which makes text ragged.
 QImage averageable(const QImage &image) {
     switch (image.format()) {
@@ -70,6 +61,14 @@ Error unreadablePicture() {
             1,
             QCoreApplication::translate("Thumbnails", "The picture couldn’t be read."),
             {}};
+}
+
+QImage forScreens(QImage image) {
+    if (image.colorSpace().isValid() && image.colorSpace() != QColorSpace(QColorSpace::SRgb))
+        image.convertToColorSpace(QColorSpace::SRgb);
+    image.setColorSpace({});
+    const bool isTransparent = image.hasAlphaChannel();
+    return std::move(image).convertToFormat(isTransparent ? QImage::Format_ARGB32 : QImage::Format_RGB32);
 }
 
 DecodedPicture reduced(const QImage &image, int side) {

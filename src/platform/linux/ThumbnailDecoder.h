@@ -26,6 +26,9 @@ struct DecodedPicture {
 // The same through libheif, for files of its kind.
 [[nodiscard]] Result<std::optional<DecodedPicture>> decodeReducedHeif(const QString &path, int side);
 
+// In eight bits a channel and the colours that screens and other readers of thumbnails expect.
+[[nodiscard]] QImage forScreens(QImage image);
+
 // Never enlarges.
 [[nodiscard]] DecodedPicture reduced(const QImage &image, int side);
 
