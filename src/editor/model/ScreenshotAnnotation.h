@@ -25,8 +25,8 @@ struct ScreenshotAnnotation {
     // The same through moves, changes of style and undo.
     QUuid id;
     Kind kind = Kind::arrow;
-    // The two ends of an arrow or line, two opposite corners of a rectangle, an ellipse or a blur, the samples
-    // of a pencil stroke, the top left corner of a text's box, the centre of a number's badge.
+    // The two ends of an arrow or line, two opposite corners of a rectangle, an ellipse or a blur, the
+    // samples of a pencil stroke, the top left corner of a text's box, the centre of a number's badge.
     std::vector<EditorPoint> points;
     EditorColor color;
     // Of the stroke.
@@ -56,8 +56,8 @@ struct ScreenshotAnnotation {
     // Whether a click there, with so many pixels of tolerance, means this. An outlined shape is hit on its
     // line, a filled one and a blur anywhere inside.
     [[nodiscard]] bool contains(QPointF point, double tolerance) const;
-    // What is dragged to change it: an arrow's two ends and the handle in its middle, a line's two ends; empty
-    // where the rectangle's handles or a move are all there is.
+    // What is dragged to change it: an arrow's two ends and the handle in its middle, a line's two ends;
+    // empty where the rectangle's handles or a move are all there is.
     [[nodiscard]] std::vector<QPointF> editingPoints() const;
     [[nodiscard]] std::vector<QPointF> arrowEditingPoints() const;
     // Where an arrow's curve has its middle.
