@@ -22,7 +22,9 @@ EditorColor EditorColor::from(const QColor &color) {
 }
 
 QColor EditorColor::toColor() const {
-    const auto component = [](double value) { return static_cast<float>(std::clamp(value, 0.0, 1.0)); };
+    const auto component = [](double value) {
+        return static_cast<float>(value > 0 ? std::min(value, 1.0) : 0.0);
+    };
     return QColor::fromRgbF(component(r), component(g), component(b), component(a));
 }
 

@@ -1,0 +1,142 @@
+#include "editor/model/PencilStroke.h"
+
+#include "editor/model/StrokeOutline.h"
+
+#include <QLineF>
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+namespace tembra {
+
+namespace {
+
+using Points = std::vector<QPointF>;
+
+// More than a hand draws in one stroke; beyond it samples are left out.
+constexpr std::size_t mostSamples = 30'000;
+
+double length(QPointF vector) {
+    return std::hypot(vector.x(), vector.y());
+}
+
+Points spaced(std::span<const EditorPoint> samples, double spacing) {
+    Points result;
+    for (const EditorPoint &sample : samples) {
+        if (result.empty() || length(sample.toPointF() - result.back()) >= spacing)
+            result.push_back(sample.toPointF());
+    }
+    const QPointF last = samples.back().toPointF();
+    if (result.size() > 1)
+        result.back() = last;
+    else if (result.back() != last)
+        result.push_back(last);
+    return result;
+}
+
+Points thinned(std::span<const EditorPoint> samples, double width) {
+    double spacing = std::clamp(width / 4, 0.5, 2.0);
+    Points result = spaced(samples, spacing);
+    while (result.size() > mostSamples) {
+        spacing *= 2;
+        if (spacing > 1e4) {
+            Points fewer;
+            for (std::size_t at = 0; at < result.size(); at += result.size() / mostSamples + 1)
+                fewer.push_back(result[at]);
+            return fewer;
+        }
+        result = spaced(samples, spacing);
+    }
+    return result;
+}
+
+// Takes away the steps that the pointer's whole pixels leave in a stroke, and no more: a place is never moved
+// farther than that, so what is drawn by intention stays.
+void removeSteps(Points &points) {
+    constexpr double farthest = 0.4;
+    constexpr int passes = 3;
+    for (int pass = 0; pass < passes && points.size() > 2; ++pass) {
+        QPointF before = points.front();
+        for (std::size_t at = 1; at + 1 < points.size(); ++at) {
+            const QPointF here = points[at];
+            QPointF change = ((before + points[at + 1]) / 2 - here) / 2;
+            if (const double distance = length(change); distance > farthest)
+                change *= farthest / distance;
+            before = here;
+            points[at] += change;
+        }
+    }
+}
+
+// The centripetal Catmull-Rom tangent at a place (Yuksel, Schaefer, Keyser, "Parameterization and
+// applications of Catmull-Rom curves"), for a knot distance of one towards the next place.
+QPointF tangent(QPointF before, QPointF here, QPointF after, double knotBefore, double knotAfter) {
+    return (here - before) / knotBefore - (after - before) / (knotBefore + knotAfter) +
+           (after - here) / knotAfter;
+}
+
+// The curve through the points, in pieces so short that their corners cannot be seen.
+Points curve(const Points &points) {
+    Points result{points.front()};
+    const auto knot = [](QPointF from, QPointF to) { return std::sqrt(std::max(length(to - from), 1e-6)); };
+    for (std::size_t at = 0; at + 1 < points.size(); ++at) {
+        const QPointF here = points[at];
+        const QPointF next = points[at + 1];
+        const QPointF before = at > 0 ? points[at - 1] : 2 * here - next;
+        const QPointF after = at + 2 < points.size() ? points[at + 2] : 2 * next - here;
+        const double step = knot(here, next);
+        const QPointF control1 = here + tangent(before, here, next, knot(before, here), step) * (step / 3);
+        const QPointF control2 = next - tangent(here, next, after, step, knot(next, after)) * (step / 3);
+        const double bow = length(here - 2 * control1 + control2) + length(control1 - 2 * control2 + next);
+        const int pieces = std::clamp(static_cast<int>(std::ceil(std::sqrt(bow / 0.04))), 1, 48);
+        for (int piece = 1; piece <= pieces; ++piece) {
+            const double t = static_cast<double>(piece) / pieces;
+            const double s = 1 - t;
+            result.push_back(s * s * s * here + 3 * s * s * t * control1 + 3 * s * t * t * control2 +
+                             t * t * t * next);
+        }
+    }
+    return result;
+}
+
+double eased(double part) {
+    const double t = std::clamp(part, 0.0, 1.0);
+    return t * t * (3 - 2 * t);
+}
+
+// The part of the full width at a place of the way.
+double widthAt(double way, double whole, double width, const EditorPencil &style) {
+    constexpr double startRatio = 0.7;
+    const double startLength = std::min(width * 1.5, whole * 0.2);
+    const double start = startRatio + (1 - startRatio) * eased(way / std::max(startLength, 1e-9));
+    const double tailLength = whole * style.tailFraction;
+    if (tailLength <= 0)
+        return start;
+    const double tail = eased((way - whole + tailLength) / tailLength);
+    return start * (1 - (1 - style.endWidthRatio) * tail);
+}
+
+} // namespace
+
+QPainterPath pencilStroke(std::span<const EditorPoint> samples, double width,
+                          const std::optional<EditorPencil> &style) {
+    if (samples.empty() || !(width > 0))
+        return {};
+    Points points = thinned(samples, width);
+    removeSteps(points);
+    const Points way = curve(points);
+    std::vector<StrokePoint> stroke;
+    stroke.reserve(way.size());
+    std::vector<double> distances{0};
+    for (std::size_t at = 1; at < way.size(); ++at)
+        distances.push_back(distances.back() + length(way[at] - way[at - 1]));
+    const double whole = distances.back();
+    for (std::size_t at = 0; at < way.size(); ++at) {
+        const bool isEven = !style || way.size() == 1;
+        stroke.push_back({way[at], width / 2 * (isEven ? 1 : widthAt(distances[at], whole, width, *style))});
+    }
+    return strokeOutline(stroke);
+}
+
+} // namespace tembra
