@@ -23,12 +23,12 @@ tl::unexpected<Error> wrongUsage(const QString &message) {
 std::optional<CommandLine::Verb> verbNamed(const QString &word) {
     using Verb = CommandLine::Verb;
     static const QHash<QString, Verb> verbs{
-        {QStringLiteral("open"), Verb::open},        {QStringLiteral("close"), Verb::close},
-        {QStringLiteral("toggle"), Verb::toggle},    {QStringLiteral("status"), Verb::status},
-        {QStringLiteral("add"), Verb::add},          {QStringLiteral("scan"), Verb::scan},
-        {QStringLiteral("quit"), Verb::quit},        {QStringLiteral("help"), Verb::help},
-        {QStringLiteral("--help"), Verb::help},      {QStringLiteral("-h"), Verb::help},
-        {QStringLiteral("--version"), Verb::version}};
+        {QStringLiteral("open"), Verb::open},     {QStringLiteral("close"), Verb::close},
+        {QStringLiteral("toggle"), Verb::toggle}, {QStringLiteral("status"), Verb::status},
+        {QStringLiteral("add"), Verb::add},       {QStringLiteral("scan"), Verb::scan},
+        {QStringLiteral("render"), Verb::render}, {QStringLiteral("quit"), Verb::quit},
+        {QStringLiteral("help"), Verb::help},     {QStringLiteral("--help"), Verb::help},
+        {QStringLiteral("-h"), Verb::help},       {QStringLiteral("--version"), Verb::version}};
     const auto found = verbs.constFind(word);
     return found == verbs.cend() ? std::nullopt : std::optional(*found);
 }
@@ -52,7 +52,14 @@ Result<void> takeWord(CommandLine &line, QStringList &words) {
         line.files += word == u"--" ? std::exchange(words, {}) : QStringList{word};
         return {};
     }
-    if (line.verb == Verb::scan && line.path.isEmpty() && !word.startsWith(u'-')) {
+    if (line.verb == Verb::render && (word == u"--edits" || word == u"-o")) {
+        if (words.isEmpty())
+            return wrongUsage(translated("%1 takes a file.").arg(word));
+        (word == u"-o" ? line.output : line.edits) = words.takeFirst();
+        return {};
+    }
+    const bool takesPath = line.verb == Verb::scan || line.verb == Verb::render;
+    if (takesPath && line.path.isEmpty() && !word.startsWith(u'-')) {
         line.path = word;
         return {};
     }
@@ -78,6 +85,8 @@ Result<CommandLine> CommandLine::parse(const QStringList &words) {
         return wrongUsage(translated("scan takes the folder to look at."));
     if (line.verb == Verb::add && line.files.isEmpty())
         return wrongUsage(translated("add takes the files to put into the file tray."));
+    if (line.verb == Verb::render && (line.path.isEmpty() || line.edits.isEmpty() || line.output.isEmpty()))
+        return wrongUsage(translated("render takes an image, --edits and -o with a file each."));
     return line;
 }
 
@@ -91,6 +100,8 @@ QString CommandLine::usage() {
                       "  tembra add FILE...           put files into the file tray\n"
                       "  tembra status [--json]       tell the state of the running one\n"
                       "  tembra scan FOLDER [--json]  tell what is recognised as a capture, and why\n"
+                      "  tembra render FILE --edits EDITS.json -o OUT\n"
+                      "                               draw annotations and crop onto an image\n"
                       "  tembra quit                  end the running one\n"
                       "  tembra --version, --help\n");
 }

@@ -9,11 +9,14 @@ namespace tembra {
 
 // What the words of the command line ask for. A value; parsing has no effects.
 struct CommandLine {
-    enum class Verb { start, open, close, toggle, add, status, scan, quit, help, version };
+    enum class Verb { start, open, close, toggle, add, status, scan, render, quit, help, version };
 
     Verb verb = Verb::start;
-    // The folder of `scan`.
+    // The folder of `scan`, the image of `render`.
     QString path;
+    // What `render` is to draw, and where the result goes.
+    QString edits;
+    QString output;
     // What `add` is to put into the file tray, as it was named.
     QStringList files;
     // The tab of `open`: "tray", "screenshots" or "text"; empty when none is named.

@@ -1,5 +1,6 @@
 #include "app/AppDelegate.h"
 #include "app/CommandLine.h"
+#include "app/RenderCommand.h"
 #include "app/ScanCommand.h"
 #include "app/Version.h"
 #include "base/FileUri.h"
@@ -76,6 +77,7 @@ Result<QString> sendToRunning(const CommandLine &line) {
         return instance->send(QStringLiteral("quit"), {}, false);
     case Verb::start:
     case Verb::scan:
+    case Verb::render:
     case Verb::help:
     case Verb::version:
         break;
@@ -83,8 +85,19 @@ Result<QString> sendToRunning(const CommandLine &line) {
     return QString();
 }
 
+// Texts are drawn with the desktop's fonts, on no display.
+int runRendering(const CommandLine &line, int argc, char **argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
+    QTranslator wording;
+    loadWording(wording);
+    return finish(renderImage(line.path, line.edits, line.output));
+}
+
 // A command that ends by itself, without windows.
 int runCommand(const CommandLine &line, int argc, char **argv) {
+    if (line.verb == CommandLine::Verb::render)
+        return runRendering(line, argc, argv);
     const QCoreApplication application(argc, argv);
     QTranslator wording;
     loadWording(wording);

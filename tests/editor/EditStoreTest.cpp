@@ -1,10 +1,12 @@
+#include "support/EditStore.h"
+
 #include "imaging/Sha256.h"
 #include "settings/CocoaError.h"
 #include "support/Annotations.h"
-#include "support/EditStore.h"
 #include "support/Files.h"
 #include "support/Pictures.h"
 
+#include <QColorSpace>
 #include <QDir>
 #include <QFileInfo>
 
@@ -56,7 +58,8 @@ protected:
         return *saved;
     }
     [[nodiscard]] QString recordFolder(const ScreenshotEditLoaded &loaded) const {
-        return edits.path(QStringLiteral("edits/")) + loaded.record.id.toString(QUuid::WithoutBraces).toUpper();
+        return edits.path(QStringLiteral("edits/")) +
+               loaded.record.id.toString(QUuid::WithoutBraces).toUpper();
     }
     [[nodiscard]] QStringList besideShot() const {
         return QDir(edits.path({})).entryList(QDir::Files | QDir::Hidden, QDir::Name);
@@ -105,8 +108,10 @@ TEST_F(EditStoreTest, keepsTheOriginalAndTheEditsThroughSaves) {
 
 TEST_F(EditStoreTest, isReadableByItsOwnerAlone) {
     const auto saved = save(load(shot), arrow);
-    for (const auto &entry : std::filesystem::recursive_directory_iterator(edits.path(QStringLiteral("edits")).toStdString()))
-        EXPECT_EQ(modeOf(QString::fromStdString(entry.path())), entry.is_directory() ? 0700 : 0600) << entry.path();
+    for (const auto &entry :
+         std::filesystem::recursive_directory_iterator(edits.path(QStringLiteral("edits")).toStdString()))
+        EXPECT_EQ(modeOf(QString::fromStdString(entry.path())), entry.is_directory() ? 0700 : 0600)
+            << entry.path();
     EXPECT_EQ(modeOf(edits.path(QStringLiteral("edits"))), 0700);
 }
 
@@ -126,7 +131,8 @@ TEST_F(EditStoreTest, refusesWhatItCannotEdit) {
     for (const auto &[path, sentence] : cases)
         EXPECT_EQ(failureOfLoading(path), sentence) << path.toStdString();
     EXPECT_FALSE(failureOfLoading(edits.path(QStringLiteral("missing.png"))).isEmpty());
-    EXPECT_FALSE(QDir(edits.path(QStringLiteral("edits"))).exists()) << "what is refused leaves nothing behind";
+    EXPECT_FALSE(QDir(edits.path(QStringLiteral("edits"))).exists())
+        << "what is refused leaves nothing behind";
 }
 
 TEST_F(EditStoreTest, neverWritesOverWhatAnotherProgramWrote) {
@@ -135,8 +141,9 @@ TEST_F(EditStoreTest, neverWritesOverWhatAnotherProgramWrote) {
     writeFile(shot, foreign);
     const auto refused = store.save(saved.loaded, {}, {});
     ASSERT_FALSE(refused);
-    EXPECT_EQ(refused.error().message, QStringLiteral("This image changed outside Tembra. Your edits are still "
-                                                      "here. Use Save a copy to keep them."));
+    EXPECT_EQ(refused.error().message,
+              QStringLiteral("This image changed outside Tembra. Your edits are still "
+                             "here. Use Save a copy to keep them."));
     EXPECT_EQ(contentOf(shot), foreign);
     EXPECT_EQ(besideShot(), QStringList(QStringLiteral("shot.png")));
     EXPECT_EQ(failureOfLoading(shot), changedBeforeOpening);
@@ -208,7 +215,8 @@ TEST_F(EditStoreTest, renamesWithinTheFolderAndKeepsTheExtension) {
     };
     EXPECT_EQ(sentence(" \n"), QStringLiteral("Enter a name for this screenshot."));
     for (const char *name : {"a/b", "x:y", ".hidden", "..", "a\tb"})
-        EXPECT_EQ(sentence(name), QStringLiteral("Choose a name without slashes, colons or a leading dot.")) << name;
+        EXPECT_EQ(sentence(name), QStringLiteral("Choose a name without slashes, colons or a leading dot."))
+            << name;
 
     const auto renamed = store.rename(saved.loaded, QStringLiteral("  shot.png "));
     ASSERT_TRUE(renamed);
@@ -239,9 +247,9 @@ TEST_F(EditStoreTest, knowsWhichScreenshotsCarryEdits) {
     EXPECT_EQ(store.badges().keys(), QList{saved.loaded.identity});
 
     ScreenshotEditStore later(edits.path(QStringLiteral("edits")),
-                              {*edits.platform.fileFacts, *edits.platform.bookmarks, *edits.platform.fileReferences,
-                               *edits.platform.fileCoordinator, *edits.platform.thumbnailCache, edits.queue,
-                               edits.scheduler});
+                              {*edits.platform.fileFacts, *edits.platform.bookmarks,
+                               *edits.platform.fileReferences, *edits.platform.fileCoordinator,
+                               *edits.platform.thumbnailCache, edits.queue, edits.scheduler});
     bool isLoaded = false;
     later.loadBadges([&] { isLoaded = true; });
     edits.queue.runAll();

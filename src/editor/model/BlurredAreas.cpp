@@ -33,9 +33,8 @@ qint64 costOf(QRect area, int margin) {
 
 } // namespace
 
-std::optional<BlurredAreas> BlurredAreas::of(const QImage &image,
-                                             std::span<const ScreenshotAnnotation> annotations,
-                                             QRect visible) {
+std::optional<BlurredAreas>
+BlurredAreas::of(const QImage &image, std::span<const ScreenshotAnnotation> annotations, QRect visible) {
     BlurredAreas blurred;
     QImage source;
     for (const EditorBlur::Strength strength : EditorBlur::strengths) {
@@ -43,7 +42,8 @@ std::optional<BlurredAreas> BlurredAreas::of(const QImage &image,
         if (areas.empty())
             continue;
         if (source.isNull())
-            source = image.hasAlphaChannel() ? image.convertToFormat(QImage::Format_ARGB32_Premultiplied) : image;
+            source =
+                image.hasAlphaChannel() ? image.convertToFormat(QImage::Format_ARGB32_Premultiplied) : image;
         if (source.isNull() || !blurred.add(source, areas, strength))
             return std::nullopt;
     }
@@ -53,11 +53,12 @@ std::optional<BlurredAreas> BlurredAreas::of(const QImage &image,
 bool BlurredAreas::add(const QImage &image, const std::vector<QRect> &areas, EditorBlur::Strength strength) {
     const int sigma = static_cast<int>(strength);
     const QRect all = std::accumulate(areas.begin(), areas.end(), QRect(), std::bit_or<>());
-    const qint64 separately = std::accumulate(areas.begin(), areas.end(), qint64{0}, [&](qint64 sum, QRect area) {
-        return sum + costOf(area, reach * sigma);
-    });
+    const qint64 separately =
+        std::accumulate(areas.begin(), areas.end(), qint64{0},
+                        [&](qint64 sum, QRect area) { return sum + costOf(area, reach * sigma); });
     // Many areas near each other are blurred as one.
-    const QImage together = separately > costOf(all, reach * sigma) ? gaussianBlurred(image, all, sigma) : QImage();
+    const QImage together =
+        separately > costOf(all, reach * sigma) ? gaussianBlurred(image, all, sigma) : QImage();
     for (const QRect area : areas) {
         if (!together.isNull()) {
             m_patches.push_back({together, all.topLeft(), area});

@@ -20,9 +20,8 @@ namespace tembra {
 class BlurredAreas {
 public:
     // Only within `visible` (pixels of the image). Nothing when there is not enough memory.
-    [[nodiscard]] static std::optional<BlurredAreas> of(const QImage &image,
-                                                        std::span<const ScreenshotAnnotation> annotations,
-                                                        QRect visible);
+    [[nodiscard]] static std::optional<BlurredAreas>
+    of(const QImage &image, std::span<const ScreenshotAnnotation> annotations, QRect visible);
 
     [[nodiscard]] bool isEmpty() const { return m_patches.empty(); }
     // In image space; stronger blurs over weaker ones.
@@ -36,7 +35,8 @@ private:
         QRect area;
     };
 
-    [[nodiscard]] bool add(const QImage &image, const std::vector<QRect> &areas, EditorBlur::Strength strength);
+    [[nodiscard]] bool add(const QImage &image, const std::vector<QRect> &areas,
+                           EditorBlur::Strength strength);
 
     std::vector<Patch> m_patches;
 };

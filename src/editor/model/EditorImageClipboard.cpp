@@ -17,8 +17,8 @@ Result<QString> EditorImageClipboard::prepare(const QByteArray &png, const QStri
     const QString id = QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper();
     const QString folder = root + u'/' + folderPrefix + id;
     const QString file = folder + u'/' + QFileInfo(source).completeBaseName() + QStringLiteral(".png");
-    const auto written = files.makePrivateFolder(folder).and_then(
-        [&] { return files.writeAtomically(file, png); });
+    const auto written =
+        files.makePrivateFolder(folder).and_then([&] { return files.writeAtomically(file, png); });
     if (written)
         return file;
     discard(file);

@@ -11,8 +11,8 @@ namespace tembra {
 // Puts a rendered image on the clipboard as an image and as a file, so that programs paste the one or the
 // other. The file is a copy in a folder of its own, for this user alone.
 struct EditorImageClipboard {
-    // Writes the copy into a new folder in `root`, named after the screenshot at `source`; gives its path. Any
-    // thread.
+    // Writes the copy into a new folder in `root`, named after the screenshot at `source`; gives its path.
+    // Any thread.
     [[nodiscard]] static Result<QString> prepare(const QByteArray &png, const QString &source,
                                                  const QString &root, const FileCoordinator &files);
     // Main thread.

@@ -16,8 +16,8 @@ ScreenshotEditRecords::ScreenshotEditRecords(const ScreenshotEditFolder &folder,
                                              const ScreenshotEditServices &services)
     : m_folder(folder), m_services(services) {}
 
-Result<ScreenshotEditRecords::Match>
-ScreenshotEditRecords::match(const QString &path, const FileFacts &facts, const QString &hash) const {
+Result<ScreenshotEditRecords::Match> ScreenshotEditRecords::match(const QString &path, const FileFacts &facts,
+                                                                  const QString &hash) const {
     bool isForeign = false;
     bool wasSaved = false;
     std::optional<Record> unsaved;
@@ -27,8 +27,8 @@ ScreenshotEditRecords::match(const QString &path, const FileFacts &facts, const 
             continue;
         const auto *foreign = std::get_if<Record::Foreign>(&*reading);
         const auto *record = std::get_if<Record>(&*reading);
-        if (!belongs(record ? record->path : foreign->path, record ? record->bookmark : foreign->bookmark, path,
-                     facts))
+        if (!belongs(record ? record->path : foreign->path, record ? record->bookmark : foreign->bookmark,
+                     path, facts))
             continue;
         isForeign = isForeign || foreign;
         if (!record)
@@ -118,8 +118,7 @@ void ScreenshotEditRecords::clearTemporary(const ScreenshotEditFolder::Pending &
         return hash == pending.record.fingerprint || (previous && hash == previous->fingerprint) ||
                !decodePicture(bytes);
     };
-    static_cast<void>(
-        m_services.coordinator.clearTemporary(pending.record.path, pending.temporary, isKnown));
+    static_cast<void>(m_services.coordinator.clearTemporary(pending.record.path, pending.temporary, isKnown));
 }
 
 std::optional<QString> ScreenshotEditRecords::hashOf(const QString &path) const {

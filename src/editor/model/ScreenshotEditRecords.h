@@ -10,8 +10,8 @@
 
 namespace tembra {
 
-// Finds the record of a screenshot among those of the edit store, and settles saves that were interrupted. One
-// thread at a time.
+// Finds the record of a screenshot among those of the edit store, and settles saves that were interrupted.
+// One thread at a time.
 class ScreenshotEditRecords {
 public:
     using Record = ScreenshotEditRecord;

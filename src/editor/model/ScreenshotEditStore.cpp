@@ -100,8 +100,9 @@ Result<ScreenshotEditLoaded> ScreenshotEditStore::load(const QString &path,
                   .size = originalHeader->uprightSize(),
                   .type = pictureTypeIdentifier(header->type),
                   .createdAt = facts->createdAt,
-                  .record = std::move(match->record)
-                                .value_or(Record{.id = QUuid::createUuid(), .path = path, .fingerprint = hash})};
+                  .record =
+                      std::move(match->record)
+                          .value_or(Record{.id = QUuid::createUuid(), .path = path, .fingerprint = hash})};
     const int side = preview.value_or(PreviewRequest()).maximumPixelSize(loaded.size, loaded.record.cropRect);
     return check(loaded.record, loaded.size)
         .and_then([&] { return ScreenshotRenderer::image(original, side); })
@@ -130,8 +131,8 @@ Result<ScreenshotEditSaved> ScreenshotEditStore::save(const Loaded &loaded,
         return failure(bytes.error());
 
     const QString path = currentPath(loaded);
-    const QString temporary = QFileInfo(path).path() + u'/' + ScreenshotEditFolder::temporaryPrefix +
-                              newId() + extensionOf(path);
+    const QString temporary =
+        QFileInfo(path).path() + u'/' + ScreenshotEditFolder::temporaryPrefix + newId() + extensionOf(path);
     Record record = loaded.record;
     record.path = path;
     record.fingerprint = sha256Hex(*bytes);
@@ -150,7 +151,9 @@ Result<ScreenshotEditSaved> ScreenshotEditStore::save(const Loaded &loaded,
     m_services.thumbnails.renew(path, *rendered);
     return Saved{.path = path,
                  .record = record,
-                 .clipboardPNG = loaded.type == pngType ? bytes : ScreenshotRenderer::encode(*rendered, pngType, metadata),
+                 .clipboardPNG = loaded.type == pngType
+                                     ? bytes
+                                     : ScreenshotRenderer::encode(*rendered, pngType, metadata),
                  .loaded = reloaded(loaded, record, path)};
 }
 
@@ -220,14 +223,15 @@ Result<ScreenshotEditLoaded> ScreenshotEditStore::moveTo(const Loaded &loaded, c
     const QString path = currentPath(loaded);
     if (path == target)
         return loaded;
-    const auto moved =
-        m_services.coordinator.moveIfUnchanged(path, target, contentOf(loaded.expectedHash));
+    const auto moved = m_services.coordinator.moveIfUnchanged(path, target, contentOf(loaded.expectedHash));
     if (!moved && isCode(moved.error(), FileCoordinator::exists))
-        return cocoaFailure(CocoaError::fileWriteFileExists,
-                            QCoreApplication::translate("ScreenshotEdit", "“%1” already exists in this folder.")
-                                .arg(QFileInfo(target).fileName()));
+        return cocoaFailure(
+            CocoaError::fileWriteFileExists,
+            QCoreApplication::translate("ScreenshotEdit", "“%1” already exists in this folder.")
+                .arg(QFileInfo(target).fileName()));
     if (!moved)
-        return tellsOfChange(moved.error()) ? editFailure(Code::changedBeforeRenaming) : failure(moved.error());
+        return tellsOfChange(moved.error()) ? editFailure(Code::changedBeforeRenaming)
+                                            : failure(moved.error());
     m_services.thumbnails.forget(path);
     Record record = loaded.record;
     record.path = target;

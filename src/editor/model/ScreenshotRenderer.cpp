@@ -85,8 +85,8 @@ Result<QByteArray> ScreenshotRenderer::encode(const QImage &image, const QString
     const auto known = pictureTypeOf(type);
     if (!known)
         return editFailure(ScreenshotEditError::unsupportedFormat);
-    auto bytes = *known == PictureType::png ? encodePng(image, metadata)
-                                            : encodeJpeg(image, jpegQuality, metadata);
+    auto bytes =
+        *known == PictureType::png ? encodePng(image, metadata) : encodeJpeg(image, jpegQuality, metadata);
     if (!bytes)
         return editFailure(ScreenshotEditError::notEncoded);
     return *std::move(bytes);

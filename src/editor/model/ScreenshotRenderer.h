@@ -22,7 +22,8 @@ struct ScreenshotRenderer {
     // Upright and in sRGB, RGB32 or ARGB32; with a maximum so that its longer side is at most that.
     [[nodiscard]] static Result<QImage> image(QByteArrayView data,
                                               const std::optional<int> &maxPixelSize = {});
-    // In the size of the original or the crop. Pixels on which nothing was drawn are the original's to the bit.
+    // In the size of the original or the crop. Pixels on which nothing was drawn are the original's to the
+    // bit.
     [[nodiscard]] static Result<QImage> render(QByteArrayView original,
                                                const std::vector<ScreenshotAnnotation> &annotations,
                                                const std::optional<QRectF> &cropRect);
