@@ -53,10 +53,10 @@ public:
                                                       const QString &like) const = 0;
     // Puts `temporary`, which lies in the same folder and was written with `bytes`, in the place of the file
     // at `path`, if that holds what is expected and nobody is writing to it. It is looked at before and,
-    // once it cannot be reached by its name any more, again; `isExpected` is called for both. The name is
-    // never missing. On failure the file stays as it is or comes back. The temporary is gone afterwards
-    // either way; a version of somebody else's that turned up in its place is kept beside the file as
-    // "… copy".
+    // once it cannot be reached by its name any more, again: `isExpected` is called each time, and only asks.
+    // The name is never missing. On failure the file stays as it is or comes back. The temporary is gone
+    // afterwards either way; a version of somebody else's that turned up in its place is kept beside the file
+    // as "… copy".
     [[nodiscard]] virtual Result<void> replace(const QString &path, const QString &temporary,
                                                QByteArrayView bytes,
                                                const ContentCheck &isExpected) const = 0;

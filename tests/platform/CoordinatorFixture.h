@@ -10,6 +10,8 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <initializer_list>
+#include <vector>
 
 namespace tembra {
 
@@ -50,7 +52,7 @@ protected:
     [[nodiscard]] static int codeOf(const auto &result) { return result ? 0 : result.error().code; }
 
     QTemporaryDir m_folder;
-    const LinuxFileCoordinator m_files;
+    const LinuxFileCoordinator m_files{};
     const QString m_shot = writeFile(path("shot.png"), "old");
     const QString m_temporary = path(".tembra-edit-1.png");
     const QStringList m_onlyShot{QStringLiteral("shot.png")};

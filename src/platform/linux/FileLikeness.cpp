@@ -3,6 +3,7 @@
 #include "platform/linux/PosixError.h"
 
 #include <QByteArray>
+#include <QByteArrayList>
 
 #include <sys/stat.h>
 #include <sys/xattr.h>

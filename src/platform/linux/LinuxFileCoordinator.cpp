@@ -111,7 +111,7 @@ Result<void> LinuxFileCoordinator::remove(const QString &path) const {
     const auto folder = DurableFolder::open(place.folder);
     if (!folder)
         return folder.error() == posixError(ENOENT) ? Result<void>() : failure(folder.error());
-    const auto removed = folder->remove(place.name);
+    auto removed = folder->remove(place.name);
     if (!removed && removed.error() != posixError(ENOENT))
         return removed;
     return folder->sync();

@@ -14,7 +14,6 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
-#include <ranges>
 #include <sys/stat.h>
 #include <utility>
 #include <vector>
@@ -148,8 +147,7 @@ void ThumbnailCacheFolder::renew(const QString &path, const QImage &picture) con
         int side = 0;
     };
     std::vector<Kept> kept;
-    // Each is made from the next larger one.
-    for (const auto &[folder, side] : cacheSizes | std::views::reverse) {
+    for (const auto &[folder, side] : cacheSizes) {
         for (const QByteArray &uri : namesOf(path)) {
             const QString thumbnail = file(uri, folder);
             if (QFile::exists(thumbnail))
@@ -160,6 +158,8 @@ void ThumbnailCacheFolder::renew(const QString &path, const QImage &picture) con
     const auto source = sourceOf(path);
     if (!source || picture.isNull())
         return;
+    // Each is made from the next larger one.
+    std::ranges::reverse(kept);
     QImage thumbnail = picture;
     for (const auto &[uri, file, side] : kept) {
         thumbnail = reduced(thumbnail, side).image;

@@ -137,5 +137,5 @@ TEMBRA_HOOK(int, lsetxattr, (const char *path, const char *key, const void *valu
 TEMBRA_HOOK(int, fsetxattr, (int file, const char *key, const void *value, size_t size, int flags), noexcept,
             (file, key, value, size, flags), Place(file))
 TEMBRA_HOOK(int, utimensat, (int at, const char *path, const timespec *times, int flags), noexcept,
-            (at, path, times, flags), path ? Place(at, path) : Place(at))
+            (at, path, times, flags), Place(at, path))
 TEMBRA_HOOK(int, futimens, (int file, const timespec *times), noexcept, (file, times), Place(file))

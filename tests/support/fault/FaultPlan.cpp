@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
+#include <string>
 #include <string_view>
 #include <sys/syscall.h>
 #include <unistd.h>
@@ -17,34 +18,34 @@ namespace tembra::fault {
 namespace {
 
 struct Plan {
-    std::string_view folder;
-    std::string_view kind;
+    std::string folder;
+    std::string kind;
     long at = 0;
     bool isForGood = false;
     int log = -1;
 };
 
-// Read once: the program may change its environment.
 Plan planOfEnvironment() {
     const auto text = [](const char *name) {
         const char *const value = std::getenv(name);
-        return std::string_view(value ? ::strdup(value) : "");
+        return std::string(value ? value : "");
     };
     Plan plan{.folder = text("TEMBRA_FAULT_FOLDER"), .kind = text("TEMBRA_FAULT_KIND")};
-    plan.at = std::strtol(text("TEMBRA_FAULT_AT").data(), nullptr, 10);
-    if (const auto log = text("TEMBRA_FAULT_LOG"); !log.empty())
+    plan.at = std::strtol(text("TEMBRA_FAULT_AT").c_str(), nullptr, 10);
+    if (const std::string log = text("TEMBRA_FAULT_LOG"); !log.empty())
         plan.log = static_cast<int>(
-            ::syscall(SYS_openat, AT_FDCWD, log.data(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0600));
+            ::syscall(SYS_openat, AT_FDCWD, log.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0600));
     constexpr std::string_view ending = "-always";
     plan.isForGood = plan.kind.ends_with(ending);
     if (plan.isForGood)
-        plan.kind.remove_suffix(ending.size());
+        plan.kind.erase(plan.kind.size() - ending.size());
     return plan;
 }
 
+// Read once, as the program may change its environment, and never destroyed: it is asked until the very end.
 const Plan &plan() {
-    static const Plan plan = planOfEnvironment();
-    return plan;
+    static const Plan *const plan = new Plan(planOfEnvironment());
+    return *plan;
 }
 
 std::atomic<long> callCount = 0;
@@ -74,8 +75,10 @@ Place::Place(int descriptor) {
 }
 
 Place::Place(int folder, const char *path) {
-    if (!path)
+    if (!path) {
+        *this = Place(folder);
         return;
+    }
     if (*path != '/' && folder == AT_FDCWD && !::getcwd(m_text.data(), PATH_MAX))
         m_text[0] = '\0';
     if (*path != '/' && folder != AT_FDCWD)
@@ -85,8 +88,8 @@ Place::Place(int folder, const char *path) {
 }
 
 bool Place::isWatched() const {
-    const std::string_view folder = plan().folder;
-    return !folder.empty() && std::strncmp(text(), folder.data(), folder.size()) == 0 &&
+    const std::string &folder = plan().folder;
+    return !folder.empty() && std::strncmp(text(), folder.c_str(), folder.size()) == 0 &&
            (text()[folder.size()] == '/' || text()[folder.size()] == '\0');
 }
 

@@ -10,7 +10,7 @@ class Place {
 public:
     // By a descriptor of it.
     explicit Place(int descriptor);
-    // By a path that is relative to a folder's descriptor.
+    // By a path that is relative to a folder's descriptor; by the descriptor when there is none.
     Place(int folder, const char *path);
 
     [[nodiscard]] const char *text() const { return m_text.data(); }
