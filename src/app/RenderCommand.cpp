@@ -52,7 +52,8 @@ Result<void> write(const QString &path, const QByteArray &bytes) {
 
 Result<QString> renderImage(const QString &image, const QString &edits, const QString &output) {
     if (QFileInfo(output).exists() && QFileInfo(output) == QFileInfo(image))
-        return renderFailure(3, translated("The image is not written over: name another file for the output."));
+        return renderFailure(3,
+                             translated("The image is not written over: name another file for the output."));
     QtScheduler scheduler;
     const Platform platform = makeHeadlessPlatform(scheduler);
     const auto original = contentOf(image, *platform.fileCoordinator);

@@ -9,6 +9,7 @@
 #include <QColorSpace>
 #include <QDir>
 #include <QFileInfo>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -38,7 +39,8 @@ int modeOf(const QString &path) {
 
 class EditStoreTest : public testing::Test {
 protected:
-    EditStore edits;
+    const QTemporaryDir folder;
+    EditStore edits{folder.path()};
     ScreenshotEditStore &store = edits.store;
     const QByteArray picture = pictureBytes("png", QSize(120, 90));
     const QString shot = writeFile(edits.path(QStringLiteral("shot.png")), picture);
@@ -92,7 +94,7 @@ TEST_F(EditStoreTest, keepsTheOriginalAndTheEditsThroughSaves) {
 
     EXPECT_EQ(contentOf(recordFolder(loaded) + QStringLiteral("/original")), picture);
     EXPECT_EQ(modeOf(shot), 0640);
-    EXPECT_EQ(edits.platform.fileFacts->facts(shot)->createdAt, loaded.createdAt);
+    EXPECT_EQ(edits.services().files.facts(shot)->createdAt, loaded.createdAt);
     EXPECT_EQ(besideShot(), QStringList(QStringLiteral("shot.png")));
     EXPECT_EQ(QDir(recordFolder(loaded)).entryList(QDir::Files | QDir::Hidden, QDir::Name),
               QStringList({QStringLiteral("original"), QStringLiteral("record.json")}));
@@ -246,10 +248,7 @@ TEST_F(EditStoreTest, knowsWhichScreenshotsCarryEdits) {
     store.updateBadge(saved.loaded, before.identity);
     EXPECT_EQ(store.badges().keys(), QList{saved.loaded.identity});
 
-    ScreenshotEditStore later(edits.path(QStringLiteral("edits")),
-                              {*edits.platform.fileFacts, *edits.platform.bookmarks,
-                               *edits.platform.fileReferences, *edits.platform.fileCoordinator,
-                               *edits.platform.thumbnailCache, edits.queue, edits.scheduler});
+    ScreenshotEditStore later(edits.path(QStringLiteral("edits")), edits.services());
     bool isLoaded = false;
     later.loadBadges([&] { isLoaded = true; });
     edits.queue.runAll();

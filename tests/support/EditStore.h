@@ -5,27 +5,36 @@
 #include "support/ManualQueue.h"
 #include "support/ManualScheduler.h"
 
-#include <QTemporaryDir>
-
 namespace tembra {
 
-// An edit store on the real platform, with a folder for screenshots, both of which go with it.
+// An edit store on the real platform, in a folder that also holds the screenshots.
 class EditStore {
 public:
-    QTemporaryDir folder;
+    explicit EditStore(QString folder) : m_folder(std::move(folder)) {}
+
+    [[nodiscard]] QString path(const QString &name) const { return m_folder + u'/' + name; }
+    [[nodiscard]] ScreenshotEditServices services() {
+        return {.files = *m_platform.fileFacts,
+                .bookmarks = *m_platform.bookmarks,
+                .references = *m_platform.fileReferences,
+                .coordinator = *m_platform.fileCoordinator,
+                .thumbnails = *m_platform.thumbnailCache,
+                .queue = queue,
+                .scheduler = scheduler};
+    }
+
+private:
+    const QString m_folder;
+
+public:
     ManualScheduler scheduler;
     ManualQueue queue;
-    Platform platform = makeHeadlessPlatform(scheduler);
-    ScreenshotEditStore store{folder.filePath(QStringLiteral("edits")),
-                              {.files = *platform.fileFacts,
-                               .bookmarks = *platform.bookmarks,
-                               .references = *platform.fileReferences,
-                               .coordinator = *platform.fileCoordinator,
-                               .thumbnails = *platform.thumbnailCache,
-                               .queue = queue,
-                               .scheduler = scheduler}};
 
-    [[nodiscard]] QString path(const QString &name) const { return folder.filePath(name); }
+private:
+    Platform m_platform = makeHeadlessPlatform(scheduler);
+
+public:
+    ScreenshotEditStore store{path(QStringLiteral("edits")), services()};
 };
 
 } // namespace tembra

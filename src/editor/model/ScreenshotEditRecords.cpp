@@ -98,6 +98,7 @@ void ScreenshotEditRecords::settle(const ScreenshotEditFolder::Pending &pending)
     clearTemporary(pending);
     if (hash == pending.record.fingerprint) {
         // The screenshot was replaced, only the record was not written any more.
+        m_services.thumbnails.forget(path);
         static_cast<void>(m_folder.writeRecord(finished(pending.record, path)));
         return;
     }
