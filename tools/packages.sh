@@ -21,7 +21,7 @@ desktop_packages=(
 )
 
 # What other programs are measured against.
-bench_packages=(libgdk-pixbuf2.0-bin ffmpegthumbnailer)
+bench_packages=(libgdk-pixbuf2.0-bin ffmpegthumbnailer libopencv-imgproc-dev)
 
 # Installs those of the named packages that are missing, with sudo where needed.
 install_missing() {

@@ -25,6 +25,16 @@ private:
     void addWhole(const unsigned char *row);
     void mergeWhole();
     void finishRow();
+    template <std::uint32_t channels>
+    void averageColumns();
+
+    // The columns of the source that a column of the target stands for, and how much of the outer two.
+    struct Column {
+        std::uint32_t first = 0;
+        std::uint32_t last = 0;
+        std::uint32_t firstShare = 0;
+        std::uint32_t lastShare = 0;
+    };
 
     const std::uint32_t m_sourceWidth;
     const std::uint32_t m_sourceHeight;
@@ -38,7 +48,9 @@ private:
     std::vector<std::uint16_t> m_whole;
     std::uint32_t m_wholeRows = 0;
     std::vector<std::uint32_t> m_weighted;
+    std::vector<Column> m_columns;
     std::vector<unsigned char> m_result;
+    std::size_t m_resultSize = 0;
 };
 
 } // namespace tembra
