@@ -46,7 +46,8 @@ std::vector<ScreenshotAnnotation> covers() {
     filled.points = {EditorPoint::from(filledArea.topLeft() - QPoint(12, 12)),
                      EditorPoint::from(filledArea.bottomRight() + QPoint(13, 13))};
     ScreenshotAnnotation blur = annotationOfKind(ScreenshotAnnotation::Kind::blur);
-    blur.points = {EditorPoint::from(QRectF(blurredArea).topLeft()), EditorPoint::from(QRectF(blurredArea).bottomRight())};
+    blur.points = {EditorPoint::from(QRectF(blurredArea).topLeft()),
+                   EditorPoint::from(QRectF(blurredArea).bottomRight())};
     return {filled, blur};
 }
 
@@ -104,12 +105,14 @@ TEST(HiddenContent, staysInTheStore) {
     const QString thumbnails = cache.filePath(QStringLiteral("thumbnails/large"));
     QDir().mkpath(thumbnails);
     const QByteArray uri = "file://" + QFile::encodeName(shot);
-    const QString thumbnail = thumbnails + u'/' + QString::fromLatin1(QCryptographicHash::hash(uri, QCryptographicHash::Md5).toHex()) + QStringLiteral(".png");
+    const QString thumbnail =
+        thumbnails + u'/' +
+        QString::fromLatin1(QCryptographicHash::hash(uri, QCryptographicHash::Md5).toHex()) +
+        QStringLiteral(".png");
     writeFile(thumbnail, contentOf(shot));
 
-    const auto saved = edits.store.load(shot, {}).and_then([&](const auto &loaded) {
-        return edits.store.save(loaded, covers(), {});
-    });
+    const auto saved = edits.store.load(shot, {}).and_then(
+        [&](const auto &loaded) { return edits.store.save(loaded, covers(), {}); });
     ASSERT_TRUE(saved);
     QByteArrayList outputs{contentOf(shot), *saved->clipboardPNG};
     EXPECT_EQ(chunksOf(outputs.front()), (QByteArrayList{"IHDR", "sRGB", "pHYs", "IDAT", "IEND"}));
@@ -121,7 +124,8 @@ TEST(HiddenContent, staysInTheStore) {
         EXPECT_EQ(tracesIn(pixelsOf(output)), 0);
         EXPECT_FALSE(output.contains(secretText));
     }
-    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList(QStringLiteral("shot.png")));
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden),
+              QStringList(QStringLiteral("shot.png")));
 }
 
 } // namespace

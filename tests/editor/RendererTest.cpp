@@ -98,7 +98,8 @@ TEST(ScreenshotRenderer, blursTheOriginalOnceHoweverManyAreasOverlap) {
     ScreenshotAnnotation line = annotationOfKind(Kind::line);
     line.points = {{0, 60}, {199, 60}};
     const auto strong = EditorBlur::Strength::strong;
-    const QImage result = rendered(original, {blurOf({10.4, 20, 60, 60}, strong), line, blurOf({40, 30, 70, 60}, strong)});
+    const QImage result =
+        rendered(original, {blurOf({10.4, 20, 60, 60}, strong), line, blurOf({40, 30, 70, 60}, strong)});
     const QImage blurred = gaussianBlurred(image, image.rect(), 28);
     const QRect first(10, 20, 61, 60);
     const QRect second(40, 30, 70, 60);
@@ -120,9 +121,11 @@ TEST(ScreenshotRenderer, refusesWhatItCannotReadOrWrite) {
         ASSERT_FALSE(failed);
         EXPECT_EQ(failed.error().message, QStringLiteral("This image couldn’t be opened."));
     }
-    const auto unknown = ScreenshotRenderer::encode(QImage(1, 1, QImage::Format_RGB32), QStringLiteral("public.heic"));
+    const auto unknown =
+        ScreenshotRenderer::encode(QImage(1, 1, QImage::Format_RGB32), QStringLiteral("public.heic"));
     EXPECT_EQ(unknown.error(), ScreenshotEditError::of(ScreenshotEditError::unsupportedFormat));
-    EXPECT_EQ(ScreenshotRenderer::encode(QImage(), png).error(), ScreenshotEditError::of(ScreenshotEditError::notEncoded));
+    EXPECT_EQ(ScreenshotRenderer::encode(QImage(), png).error(),
+              ScreenshotEditError::of(ScreenshotEditError::notEncoded));
 }
 
 TEST(ScreenshotRenderer, keepsJpegCloseToWhatItWas) {
@@ -150,7 +153,8 @@ TEST(EditorImageClipboard, offersOneItemAsImageAndAsFile) {
     const QTemporaryDir root;
     const LinuxFileCoordinator files;
     const QByteArray image = pictureBytes("png");
-    const auto file = EditorImageClipboard::prepare(image, QStringLiteral("/home/me/a.b.jpg"), root.path(), files);
+    const auto file =
+        EditorImageClipboard::prepare(image, QStringLiteral("/home/me/a.b.jpg"), root.path(), files);
     ASSERT_TRUE(file);
     EXPECT_EQ(QFileInfo(*file).fileName(), QStringLiteral("a.b.png"));
     FakePasteboard pasteboard;
@@ -162,7 +166,8 @@ TEST(EditorImageClipboard, offersOneItemAsImageAndAsFile) {
     EditorImageClipboard::discard(root.filePath(QStringLiteral("never.png")));
     EXPECT_TRUE(QFileInfo::exists(root.path()));
     writeFile(root.filePath(QStringLiteral("file")));
-    EXPECT_FALSE(EditorImageClipboard::prepare(image, *file, root.filePath(QStringLiteral("file/in")), files));
+    EXPECT_FALSE(
+        EditorImageClipboard::prepare(image, *file, root.filePath(QStringLiteral("file/in")), files));
 }
 
 } // namespace
