@@ -51,16 +51,14 @@ private:
 template <int h>
 void sumRows(const QImage &image, int y, int left, int width, quint16 *sums) {
     std::array<const uchar *, 2 * h - 1> rows;
-    for (int d = 1 - h; d < h; ++d) {
-        const int row = std::clamp(y * h + d, 0, image.height() - 1);
-        rows[static_cast<std::size_t>(d + h - 1)] = image.constScanLine(row) + 4 * qptrdiff{left};
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const int row = std::clamp((y - 1) * h + 1 + static_cast<int>(i), 0, image.height() - 1);
+        rows[i] = image.constScanLine(row) + 4 * qptrdiff{left};
     }
     for (int i = 0; i < 4 * width; ++i) {
         unsigned sum = h * rows[h - 1][i];
-        for (int d = 1; d < h; ++d)
-            sum += static_cast<unsigned>(h - d) *
-                   (static_cast<unsigned>(rows[static_cast<std::size_t>(h - 1 - d)][i]) +
-                    rows[static_cast<std::size_t>(h - 1 + d)][i]);
+        for (unsigned d = 1; d < h; ++d)
+            sum += (h - d) * (unsigned{rows[h - 1 - d][i]} + rows[h - 1 + d][i]);
         sums[i] = static_cast<quint16>(sum);
     }
 }
@@ -133,9 +131,11 @@ void blurColumns(const std::vector<const Sample *> &rows, quint16 *target, int c
             for (int i = 0; i < block; ++i)
                 sums[i].channels += taps[t] * (above[i].channels + below[i].channels);
         }
+        constexpr float half = 0.5F;
         for (int i = 0; i < block; ++i) {
+            sums[i].channels += half;
             for (int c = 0; c < 4; ++c)
-                target[4 * (x + i) + c] = static_cast<quint16>(static_cast<int>(sums[i].channels[c] + 0.5F));
+                target[4 * (x + i) + c] = static_cast<quint16>(static_cast<int>(sums[i].channels[c]));
         }
     };
     int x = 0;
@@ -147,10 +147,10 @@ void blurColumns(const std::vector<const Sample *> &rows, quint16 *target, int c
 
 // Finds the pixels between samples again: first those between two rows of them, then those in the row.
 template <int h>
-void enlargeRow(const quint16 *above, const quint16 *below, int share, int count, quint16 *between,
+void enlargeRow(const quint16 *above, const quint16 *below, int shareBelow, int count, quint16 *between,
                 uchar *pixels) {
     for (int i = 0; i < 4 * count; ++i)
-        between[i] = static_cast<quint16>((above[i] * (h - share) + below[i] * share) / h);
+        between[i] = static_cast<quint16>((above[i] * (h - shareBelow) + below[i] * shareBelow) / h);
     for (int s = 0; s + 1 < count; ++s) {
         if constexpr (h == 1) {
             for (int c = 0; c < 4; ++c)
@@ -162,9 +162,9 @@ void enlargeRow(const quint16 *above, const quint16 *below, int share, int count
             std::memcpy(&both, between + 4 * s, sizeof both);
             const Words here = __builtin_shufflevector(both, both, 0, 1, 2, 3, 0, 1, 2, 3);
             const Words next = __builtin_shufflevector(both, both, 4, 5, 6, 7, 4, 5, 6, 7);
-            for (quint16 p = 0; p < h; p += 2) {
-                const quint16 q = p + 1;
-                const Words shares{p, p, p, p, q, q, q, q};
+            for (int p = 0; p < h; p += 2) {
+                const auto share = static_cast<quint16>(p);
+                const Words shares = share + Words{0, 0, 0, 0, 1, 1, 1, 1};
                 const Words levels = (here * (whole - shares) + next * shares + half) >> 8;
                 const EightBytes bytes = __builtin_convertvector(levels, EightBytes);
                 std::memcpy(pixels + 4 * (qptrdiff{s} * h + p), &bytes, sizeof bytes);
