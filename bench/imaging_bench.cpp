@@ -106,7 +106,7 @@ void measureDecoding(const char *kind, const QImage &image) {
     const double ours = medianMilliseconds(rounds, [&] { (void)decodePicture(file); });
     const double reduced = medianMilliseconds(rounds, [&] { (void)decodePicture(file, 2560); });
     const double theirs = medianMilliseconds(rounds, [&] { (void)readByQt(file); });
-    printRow((std::string(kind) + " read / Qt").c_str(), ours, theirs, "ms", 0.6);
+    printRow((std::string(kind) + " read / Qt").c_str(), ours, theirs, "ms", 0.7);
     printRow((std::string(kind) + " read at 2560 / Qt in full").c_str(), reduced, theirs, "ms", 1);
 }
 
