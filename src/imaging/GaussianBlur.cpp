@@ -180,10 +180,11 @@ QRect samplesAround(QRect area) {
                  QPoint(area.right() / h + 1, area.bottom() / h + 1));
 }
 
+// Blurs an area into lines of bytes, of which the first is the area's first.
 template <int h>
 class Blur {
 public:
-    Blur(const QImage &image, QRect area, double sigma)
+    Blur(const QImage &image, QRect area, double sigma, uchar *result, qsizetype bytesPerLine)
         // A level is 2^8 / h to begin with, so that it is 2^8 after the last sum.
         : m_image(image),
           m_area(area),
@@ -192,18 +193,15 @@ public:
           m_radius(static_cast<int>(m_taps.size()) - 1),
           m_needed(samplesAround<h>(area)),
           m_rows(m_needed.adjusted(0, -m_radius, 0, m_radius)),
-          m_result(area.size(), image.format()) {
+          m_result(result),
+          m_bytesPerLine(bytesPerLine) {
         for (float &tap : m_rowTaps)
             tap *= 256.0F / h / (h * h) / (h * h);
     }
 
-    QImage run() {
-        if (m_result.isNull())
-            return {};
-        m_result.bits();
+    void run() {
         inHalves([this](int half) { reduce(half); });
         inHalves([this](int half) { enlarge(half); });
-        return m_result;
     }
 
 private:
@@ -247,7 +245,7 @@ private:
             if (y == first || y % h == 0)
                 blurSamples(y / h + 1, below);
             enlargeRow<h>(above.data(), below.data(), y % h, count, between.data(), pixels.data());
-            std::memcpy(m_result.scanLine(y - m_area.top()), pixels.data() + 4 * qptrdiff{skipped},
+            std::memcpy(m_result + (y - m_area.top()) * m_bytesPerLine, pixels.data() + 4 * qptrdiff{skipped},
                         4 * static_cast<std::size_t>(m_area.width()));
         }
     }
@@ -266,8 +264,26 @@ private:
     const int m_radius;
     const QRect m_needed;
     Plane<Sample> m_rows;
-    QImage m_result;
+    uchar *const m_result;
+    const qsizetype m_bytesPerLine;
 };
+
+// In bands, so that the samples at hand do not take more memory than the image.
+template <int h>
+QImage blurred(const QImage &image, QRect area, double sigma) {
+    constexpr qint64 mostPixels = (qint64{2} << 20) * h * h;
+    constexpr qint64 fewestRows = 256;
+    QImage result(area.size(), image.format());
+    if (result.isNull())
+        return {};
+    uchar *bits = result.bits();
+    const auto rows = static_cast<int>(std::max(fewestRows, mostPixels / area.width()));
+    for (int y = 0; y < area.height(); y += rows) {
+        const QRect band(area.left(), area.top() + y, area.width(), std::min(rows, area.height() - y));
+        Blur<h>(image, band, sigma, bits + y * result.bytesPerLine(), result.bytesPerLine()).run();
+    }
+    return result;
+}
 
 } // namespace
 
@@ -286,12 +302,12 @@ QImage gaussianBlurred(const QImage &image, QRect area, double sigma) {
         return source.copy(area);
     sigma = std::min(sigma, widest);
     if (sigma < 8)
-        return Blur<1>(source, area, sigma).run();
+        return blurred<1>(source, area, sigma);
     if (sigma < 16)
-        return Blur<2>(source, area, sigma).run();
+        return blurred<2>(source, area, sigma);
     if (sigma < 64)
-        return Blur<4>(source, area, sigma).run();
-    return Blur<16>(source, area, sigma).run();
+        return blurred<4>(source, area, sigma);
+    return blurred<16>(source, area, sigma);
 }
 
 } // namespace tembra

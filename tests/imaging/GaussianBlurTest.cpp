@@ -132,6 +132,13 @@ TEST(GaussianBlurTest, anAreaIsThePartOfTheWholeToTheBit) {
     }
 }
 
+TEST(GaussianBlurTest, aLargePictureIsBlurredWithoutSeams) {
+    const QImage image = noise({8'400, 520}, QImage::Format_RGB32);
+    const QImage whole = gaussianBlurred(image, image.rect(), 2);
+    for (const QRect area : {QRect(4'000, 240, 30, 20), QRect(8'390, 500, 10, 20)})
+        EXPECT_EQ(gaussianBlurred(image, area, 2), whole.copy(area));
+}
+
 TEST(GaussianBlurTest, whatIsEvenStaysAsItIs) {
     for (const QRgb colour : {0xffff'ffffU, 0xff00'0000U, 0xff01'80feU}) {
         QImage image(70, 50, QImage::Format_RGB32);
