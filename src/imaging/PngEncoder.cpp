@@ -15,7 +15,7 @@ namespace tembra {
 namespace {
 
 // What is kept for the next picture.
-constexpr std::size_t mostKeptBytes = std::size_t{64} << 20;
+constexpr std::size_t mostKeptBytes = std::size_t{32} << 20;
 
 QByteArray number(quint32 value) {
     QByteArray bytes(4, Qt::Uninitialized);
