@@ -1,5 +1,5 @@
-// Saves and openings of a screenshot of 3840 × 2160 with ten annotations and a blur, beside what Qt alone needs
-// to write and to read the same pixels as PNG. Run through bench/run.
+// Saves and openings of a screenshot of 3840 × 2160 with ten annotations and a blur, beside what Qt alone
+// needs to write and to read the same pixels as PNG. Run through bench/run.
 
 #include "InterfacePictures.h"
 #include "PhotoPictures.h"
@@ -61,8 +61,8 @@ ScreenshotAnnotation annotation(Kind kind, int number) {
 
 std::vector<ScreenshotAnnotation> annotations() {
     std::vector<ScreenshotAnnotation> all;
-    for (const Kind kind : {Kind::arrow, Kind::arrow, Kind::pencil, Kind::line, Kind::rectangle, Kind::rectangle,
-                            Kind::ellipse, Kind::text, Kind::number, Kind::number})
+    for (const Kind kind : {Kind::arrow, Kind::arrow, Kind::pencil, Kind::line, Kind::rectangle,
+                            Kind::rectangle, Kind::ellipse, Kind::text, Kind::number, Kind::number})
         all.push_back(annotation(kind, static_cast<int>(all.size())));
     ScreenshotAnnotation blur = annotation(Kind::blur, 3);
     blur.points = {{1'000, 1'200}, {1'600, 1'400}};
@@ -129,7 +129,8 @@ void measure(const char *name, const QImage &image) {
         }));
     }
     std::printf("%s, %d × %d\n", name, size.width(), size.height());
-    printRow("save, ten annotations and a blur / Qt's PNG writer", median(saving), median(writing), "ms", 0.5);
+    printRow("save, ten annotations and a blur / Qt's PNG writer", median(saving), median(writing), "ms",
+             0.5);
     printRow("load to preview / Qt's PNG reader", median(opening), median(reading), "ms", 0.6);
     constexpr double megabytes = 1'024 * 1'024;
     const double copies = 3.0 * image.sizeInBytes() / megabytes;

@@ -1,7 +1,6 @@
 #include "imaging/AreaAverage.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace tembra {
 
@@ -20,9 +19,12 @@ AreaAverage::AreaAverage(QSize source, QSize target, int channels)
       m_channels(static_cast<std::uint32_t>(channels)),
       m_unitsMissing(m_sourceHeight),
       m_whole(std::size_t{m_sourceWidth} * m_channels),
-      m_weighted(m_whole.size()) {
+      m_weighted(m_whole.size()),
+      m_sums(m_whole.size()) {
     m_result.resize(std::size_t{m_targetWidth} * m_targetHeight * m_channels);
     m_columns.reserve(m_targetWidth);
+    const double area = static_cast<double>(m_sourceWidth) * m_sourceHeight;
+    m_wholeShare = static_cast<float>(m_targetWidth / area);
     for (std::uint32_t x = 0; x < m_targetWidth; ++x) {
         const std::uint64_t from = std::uint64_t{x} * m_sourceWidth;
         const std::uint64_t to = from + m_sourceWidth;
@@ -31,7 +33,8 @@ AreaAverage::AreaAverage(QSize source, QSize target, int channels)
         const std::uint64_t firstShare = first == last ? m_sourceWidth : (first + 1) * m_targetWidth - from;
         const std::uint64_t lastShare = first == last ? 0 : to - last * m_targetWidth;
         m_columns.push_back({static_cast<std::uint32_t>(first), static_cast<std::uint32_t>(last),
-                             static_cast<std::uint32_t>(firstShare), static_cast<std::uint32_t>(lastShare)});
+                             static_cast<float>(static_cast<double>(firstShare) / area),
+                             static_cast<float>(static_cast<double>(lastShare) / area)});
     }
 }
 
@@ -76,20 +79,22 @@ void AreaAverage::mergeWhole() {
 
 template <std::uint32_t channels>
 void AreaAverage::averageColumns() {
-    const double area = static_cast<double>(m_sourceWidth) * m_sourceHeight;
+    // Sums of a row fit a float's 24 bits, and a float is told from its neighbours far more finely than a
+    // byte.
+    std::ranges::transform(m_weighted, m_sums.begin(), [](std::uint32_t sum) {
+        return static_cast<float>(static_cast<std::int32_t>(sum));
+    });
     unsigned char *result = m_result.data() + m_resultSize;
     for (const Column &column : m_columns) {
-        const std::uint32_t *first = m_weighted.data() + std::size_t{column.first} * channels;
-        const std::uint32_t *last = m_weighted.data() + std::size_t{column.last} * channels;
+        const float *first = m_sums.data() + std::size_t{column.first} * channels;
+        const float *last = m_sums.data() + std::size_t{column.last} * channels;
         for (std::uint32_t channel = 0; channel < channels; ++channel) {
-            std::uint64_t sum = 0;
-            for (const std::uint32_t *between = first + channels; between < last; between += channels)
-                sum += between[channel];
-            sum *= m_targetWidth;
-            sum += std::uint64_t{first[channel]} * column.firstShare +
-                   std::uint64_t{last[channel]} * column.lastShare;
-            // Exact: a quotient below a whole number is so by more than the rounding of a double this small.
-            *result++ = static_cast<unsigned char>((static_cast<double>(sum) + std::floor(area / 2)) / area);
+            float between = 0;
+            for (const float *sum = first + channels; sum < last; sum += channels)
+                between += sum[channel];
+            *result++ =
+                static_cast<unsigned char>(first[channel] * column.firstShare + between * m_wholeShare +
+                                           last[channel] * column.lastShare + 0.5F);
         }
     }
 }
