@@ -35,9 +35,9 @@ std::vector<double> blurredLine(const std::vector<double> &line, double sigma) {
     const int last = static_cast<int>(line.size()) - 1;
     for (int x = 0; x <= last; ++x) {
         double value = 0;
-        for (int d = -radius; d <= radius; ++d)
-            value += weights[static_cast<std::size_t>(d + radius)] *
-                     line[static_cast<std::size_t>(std::clamp(x + d, 0, last))];
+        int at = x - radius;
+        for (const double weight : weights)
+            value += weight * line[static_cast<std::size_t>(std::clamp(at++, 0, last))];
         result.push_back(value / sum);
     }
     return result;
