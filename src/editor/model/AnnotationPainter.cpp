@@ -1,12 +1,13 @@
 #include "editor/model/AnnotationPainter.h"
 
+#include "editor/model/AnnotationOutline.h"
 #include "editor/model/AnnotationText.h"
 #include "editor/model/ContrastColor.h"
-#include "editor/model/HaloWidth.h"
 #include "editor/model/MarkPainting.h"
 #include "editor/model/NumberBadge.h"
 
 #include <QHash>
+#include <QPainterPathStroker>
 #include <QRawFont>
 
 #include <algorithm>
@@ -71,6 +72,13 @@ private:
     std::vector<QGlyphRun> m_colored;
 };
 
+QPainterPath edgeOf(const QPainterPath &letters, double width) {
+    QPainterPathStroker stroker;
+    stroker.setWidth(2 * width);
+    stroker.setJoinStyle(Qt::RoundJoin);
+    return stroker.createStroke(letters);
+}
+
 void drawText(const ScreenshotAnnotation &annotation, QPainter &painter) {
     const EditorText &text = *annotation.text;
     const AnnotationText layout(text);
@@ -80,7 +88,7 @@ void drawText(const ScreenshotAnnotation &annotation, QPainter &painter) {
     if (visible.isEmpty())
         return;
     painter.save();
-    Mark{.shape = layout.box(topLeft), .color = text.background}.draw(painter);
+    Mark{.shape = layout.box(topLeft), .color = text.background, .grown = {}}.draw(painter);
     // Marks may pile up on a letter without end.
     painter.setClipRect(box, Qt::IntersectClip);
     GlyphOutlines outlines;
@@ -88,10 +96,12 @@ void drawText(const ScreenshotAnnotation &annotation, QPainter &painter) {
         outlines.add(run);
     QTransform toImage = QTransform::fromTranslate(topLeft.x(), topLeft.y());
     toImage.scale(layout.glyphScale(), layout.glyphScale());
-    Mark{.shape = toImage.map(outlines.path()),
+    const QPainterPath letters = toImage.map(outlines.path());
+    Mark{.shape = letters,
          .color = annotation.color,
          .haloWidth = haloWidth(annotation),
-         .haloStrength = 1 - text.background.a}
+         .haloStrength = 1 - text.background.a,
+         .grown = [&](double growth) { return edgeOf(letters, growth); }}
         .draw(painter);
     painter.setTransform(toImage, true);
     for (const QGlyphRun &run : outlines.colored())
@@ -101,11 +111,18 @@ void drawText(const ScreenshotAnnotation &annotation, QPainter &painter) {
 
 void drawNumber(const ScreenshotAnnotation &annotation, QPainter &painter) {
     const NumberBadge badge = NumberBadge::of(*annotation.number, annotation.points[0].toPointF());
-    EditorColor contrast = contrasting(annotation.color);
-    contrast.a = annotation.color.a;
-    Mark{.shape = badge.rim(), .color = contrast, .haloWidth = haloWidth(annotation)}.draw(painter);
-    Mark{.shape = badge.outline(), .color = annotation.color}.draw(painter);
-    Mark{.shape = badge.digits, .color = contrast}.draw(painter);
+    const auto asOpaque = [&](EditorColor color) {
+        color.a = annotation.color.a;
+        return color;
+    };
+    Mark{.shape = badge.rim(0),
+         .color = asOpaque(rimColor(annotation.color)),
+         .haloWidth = haloWidth(annotation),
+         .haloStrength = 0.7,
+         .grown = [&](double growth) { return badge.rim(growth); }}
+        .draw(painter);
+    Mark{.shape = badge.outline(), .color = annotation.color, .grown = {}}.draw(painter);
+    Mark{.shape = badge.digits, .color = asOpaque(contrasting(annotation.color))}.draw(painter);
 }
 
 void draw(const ScreenshotAnnotation &annotation, QPainter &painter) {
@@ -123,8 +140,11 @@ void draw(const ScreenshotAnnotation &annotation, QPainter &painter) {
     case Kind::line:
     case Kind::rectangle:
     case Kind::ellipse:
-        Mark{.shape = annotation.path(), .color = annotation.color, .haloWidth = haloWidth(annotation)}.draw(
-            painter);
+        Mark{.shape = annotationOutline(annotation, 0),
+             .color = annotation.color,
+             .haloWidth = haloWidth(annotation),
+             .grown = [&](double growth) { return annotationOutline(annotation, growth); }}
+            .draw(painter);
         return;
     }
 }

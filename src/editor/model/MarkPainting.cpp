@@ -4,33 +4,28 @@
 
 #include <QImage>
 #include <QPaintDevice>
-#include <QPen>
 
 #include <algorithm>
-#include <array>
+#include <cmath>
 
 namespace tembra {
 
 namespace {
 
-// Strokes of these parts of the halo's width and of these alphas, one over the other, fade outwards.
-struct Layer {
-    double part;
-    double alpha;
-};
-constexpr std::array lightLayers{Layer{1.0, 0.18}, Layer{0.72, 0.24}, Layer{0.42, 0.24}};
-constexpr std::array darkLayers{Layer{1.0, 0.10}, Layer{0.72, 0.14}, Layer{0.42, 0.16}};
+// The opacity of the halo at the shape.
+constexpr double lightest = 0.52;
+constexpr double darkest = 0.36;
 
+// Layers of which each is a little larger than the one above it fade outwards.
 void drawHalo(QPainter &painter, const Mark &mark) {
     const EditorColor edge = contrasting(mark.color);
-    const bool isLight = relativeLuminance(edge) > 0.5;
-    for (const Layer &layer : isLight ? lightLayers : darkLayers) {
-        QColor color = edge.toColor();
-        color.setAlphaF(
-            static_cast<float>(layer.alpha * mark.haloStrength * std::clamp(mark.color.a, 0.0, 1.0)));
-        painter.strokePath(mark.shape, QPen(color, 2 * layer.part * mark.haloWidth, Qt::SolidLine,
-                                            Qt::RoundCap, Qt::RoundJoin));
-    }
+    const double opacity = (relativeLuminance(edge) > 0.5 ? lightest : darkest) * mark.haloStrength *
+                           std::min(mark.color.a, 1.0);
+    const int layers = std::clamp(qRound(mark.haloWidth / 1.2), 2, 5);
+    QColor color = edge.toColor();
+    color.setAlphaF(static_cast<float>(1 - std::pow(1 - opacity, 1.0 / layers)));
+    for (int layer = layers; layer > 0; --layer)
+        painter.fillPath(mark.grown(mark.haloWidth * layer / layers), color);
 }
 
 QRect deviceRect(const QPainter &painter) {

@@ -5,18 +5,22 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include <functional>
+
 namespace tembra {
 
 // A shape in a colour, within a thin soft edge of light around dark colours and of shade around light ones,
 // so that it is seen on any background. The edge lies outside the shape alone, also of one that is not
 // opaque. Image space.
 struct Mark {
+    // Filled by nonzero winding.
     QPainterPath shape;
     EditorColor color;
-    // How far the edge reaches.
+    // How far the edge reaches, and how strong it is: 1 in full.
     double haloWidth = 0;
-    // How strong it is: 1 in full.
     double haloStrength = 1;
+    // The shape grown by so much on every side; where it is also smaller inside, that does no harm.
+    std::function<QPainterPath(double growth)> grown;
 
     void draw(QPainter &painter) const;
 };

@@ -16,7 +16,7 @@ constexpr int typeSize = 128;
 // In diameters.
 constexpr double sidePadding = 0.12;
 constexpr double tallest = 0.64;
-constexpr double rimPart = 0.05;
+constexpr double rimPart = 0.045;
 
 QPainterPath written(std::int64_t value) {
     QString text = QString::number(value);
@@ -61,8 +61,8 @@ QPainterPath NumberBadge::outline() const {
     return pill(body);
 }
 
-QPainterPath NumberBadge::rim() const {
-    QPainterPath path = pill(around(body, rimWidth));
+QPainterPath NumberBadge::rim(double growth) const {
+    QPainterPath path = pill(around(body, rimWidth + growth));
     path.addPath(outline().toReversed());
     return path;
 }
