@@ -3,15 +3,11 @@
 #include "editor/model/AnnotationOutline.h"
 #include "editor/model/AnnotationText.h"
 #include "editor/model/ContrastColor.h"
+#include "editor/model/GlyphOutlines.h"
 #include "editor/model/MarkPainting.h"
 #include "editor/model/NumberBadge.h"
 
-#include <QHash>
 #include <QPainterPathStroker>
-#include <QRawFont>
-
-#include <algorithm>
-#include <array>
 
 namespace tembra {
 
@@ -19,64 +15,22 @@ namespace {
 
 using Kind = ScreenshotAnnotation::Kind;
 
-bool hasColorGlyphs(const QRawFont &font) {
-    return std::ranges::any_of(std::array{"CBDT", "COLR", "sbix", "SVG "},
-                               [&](const char *table) { return !font.fontTable(table).isEmpty(); });
-}
-
-// Collects the outlines of glyphs, taking each from its font only once; glyphs that bring their own colours
-// have none and are kept apart.
-class GlyphOutlines {
-public:
-    void add(const QGlyphRun &run) {
-        Font &font = known(run.rawFont());
-        if (font.hasColor) {
-            m_colored.push_back(run);
-            return;
-        }
-        const QList<quint32> glyphs = run.glyphIndexes();
-        const QList<QPointF> positions = run.positions();
-        for (qsizetype at = 0; at < glyphs.size(); ++at)
-            m_path.addPath(outline(font, glyphs[at]).translated(positions[at]));
-    }
-    [[nodiscard]] QPainterPath path() const {
-        QPainterPath path = m_path;
-        path.setFillRule(Qt::WindingFill);
-        return path;
-    }
-    [[nodiscard]] const std::vector<QGlyphRun> &colored() const { return m_colored; }
-
-private:
-    struct Font {
-        QRawFont font;
-        bool hasColor = false;
-        QHash<quint32, QPainterPath> outlines;
-    };
-
-    static QPainterPath outline(Font &font, quint32 glyph) {
-        const auto found = font.outlines.constFind(glyph);
-        if (found != font.outlines.cend())
-            return *found;
-        return *font.outlines.insert(glyph, font.font.pathForGlyph(glyph));
-    }
-
-    Font &known(const QRawFont &font) {
-        const auto found = std::ranges::find(m_fonts, font, &Font::font);
-        if (found != m_fonts.end())
-            return *found;
-        return m_fonts.emplace_back(Font{font, hasColorGlyphs(font), {}});
-    }
-
-    std::vector<Font> m_fonts;
-    QPainterPath m_path;
-    std::vector<QGlyphRun> m_colored;
-};
+// So few at once that the rasteriser is quick.
+constexpr qsizetype glyphsAtOnce = 120;
 
 QPainterPath edgeOf(const QPainterPath &letters, double width) {
     QPainterPathStroker stroker;
     stroker.setWidth(2 * width);
     stroker.setJoinStyle(Qt::RoundJoin);
     return stroker.createStroke(letters);
+}
+
+Mark letterMark(const ScreenshotAnnotation &annotation, const QPainterPath &letters) {
+    return {.shape = letters,
+            .color = annotation.color,
+            .haloWidth = haloWidth(annotation),
+            .haloStrength = 1 - annotation.text->background.a,
+            .grown = [letters](double growth) { return edgeOf(letters, growth); }};
 }
 
 void drawText(const ScreenshotAnnotation &annotation, QPainter &painter) {
@@ -91,18 +45,20 @@ void drawText(const ScreenshotAnnotation &annotation, QPainter &painter) {
     Mark{.shape = layout.box(topLeft), .color = text.background, .grown = {}}.draw(painter);
     // Marks may pile up on a letter without end.
     painter.setClipRect(box, Qt::IntersectClip);
-    GlyphOutlines outlines;
-    for (const QGlyphRun &run : layout.glyphRuns(visible.translated(-topLeft)))
-        outlines.add(run);
     QTransform toImage = QTransform::fromTranslate(topLeft.x(), topLeft.y());
     toImage.scale(layout.glyphScale(), layout.glyphScale());
-    const QPainterPath letters = toImage.map(outlines.path());
-    Mark{.shape = letters,
-         .color = annotation.color,
-         .haloWidth = haloWidth(annotation),
-         .haloStrength = 1 - text.background.a,
-         .grown = [&](double growth) { return edgeOf(letters, growth); }}
-        .draw(painter);
+    GlyphOutlines outlines;
+    std::vector<Mark> marks;
+    for (const QGlyphRun &run : layout.glyphRuns(visible.translated(-topLeft))) {
+        outlines.add(run);
+        if (outlines.count() >= glyphsAtOnce)
+            marks.push_back(letterMark(annotation, toImage.map(outlines.take())));
+    }
+    marks.push_back(letterMark(annotation, toImage.map(outlines.take())));
+    for (const Mark &mark : marks)
+        mark.drawHalo(painter);
+    for (const Mark &mark : marks)
+        mark.drawShape(painter);
     painter.setTransform(toImage, true);
     for (const QGlyphRun &run : outlines.colored())
         painter.drawGlyphRun(QPointF(), run);
@@ -118,7 +74,7 @@ void drawNumber(const ScreenshotAnnotation &annotation, QPainter &painter) {
     Mark{.shape = badge.rim(0),
          .color = asOpaque(rimColor(annotation.color)),
          .haloWidth = haloWidth(annotation),
-         .haloStrength = 0.7,
+         .haloStrength = 0.6,
          .grown = [&](double growth) { return badge.rim(growth); }}
         .draw(painter);
     Mark{.shape = badge.outline(), .color = annotation.color, .grown = {}}.draw(painter);

@@ -16,8 +16,45 @@ namespace {
 constexpr double lightest = 0.52;
 constexpr double darkest = 0.36;
 
+// One side of a polygon's clipping (Sutherland and Hodgman): what lies where `depth` is positive.
+template <typename Depth>
+QPolygonF cut(const QPolygonF &polygon, Depth depth) {
+    QPolygonF result;
+    for (qsizetype at = 0; at < polygon.size(); ++at) {
+        const QPointF from = polygon[at];
+        const QPointF to = polygon[(at + 1) % polygon.size()];
+        const double before = depth(from);
+        const double after = depth(to);
+        if (before >= 0)
+            result += from;
+        if ((before >= 0) != (after >= 0))
+            result += from + (to - from) * (before / (before - after));
+    }
+    return result;
+}
+
+// The same where it is seen, for a shape that reaches so far that the rasteriser would take its time.
+QPainterPath withinReach(const QPainterPath &shape, const QRectF &visible) {
+    const double margin = std::max(visible.width(), visible.height());
+    const QRectF kept = visible.adjusted(-margin, -margin, margin, margin);
+    const QRectF tolerated = kept.adjusted(-4 * margin, -4 * margin, 4 * margin, 4 * margin);
+    if (tolerated.contains(shape.boundingRect()))
+        return shape;
+    QPainterPath result;
+    result.setFillRule(shape.fillRule());
+    for (QPolygonF polygon : shape.toSubpathPolygons()) {
+        polygon = cut(polygon, [&](QPointF point) { return point.x() - kept.left(); });
+        polygon = cut(polygon, [&](QPointF point) { return kept.right() - point.x(); });
+        polygon = cut(polygon, [&](QPointF point) { return point.y() - kept.top(); });
+        polygon = cut(polygon, [&](QPointF point) { return kept.bottom() - point.y(); });
+        result.addPolygon(polygon);
+        result.closeSubpath();
+    }
+    return result;
+}
+
 // Layers of which each is a little larger than the one above it fade outwards.
-void drawHalo(QPainter &painter, const Mark &mark) {
+void drawLayers(QPainter &painter, const Mark &mark, const QRectF &visible) {
     const EditorColor edge = contrasting(mark.color);
     const double opacity = (relativeLuminance(edge) > 0.5 ? lightest : darkest) * mark.haloStrength *
                            std::min(mark.color.a, 1.0);
@@ -25,7 +62,7 @@ void drawHalo(QPainter &painter, const Mark &mark) {
     QColor color = edge.toColor();
     color.setAlphaF(static_cast<float>(1 - std::pow(1 - opacity, 1.0 / layers)));
     for (int layer = layers; layer > 0; --layer)
-        painter.fillPath(mark.grown(mark.haloWidth * layer / layers), color);
+        painter.fillPath(withinReach(mark.grown(mark.haloWidth * layer / layers), visible), color);
 }
 
 QRect deviceRect(const QPainter &painter) {
@@ -40,9 +77,9 @@ QRectF reach(const Mark &mark) {
 }
 
 // The halo without what lies beneath the shape, made on a layer of its own.
-void drawHaloAround(QPainter &painter, const Mark &mark) {
+void drawHaloAround(QPainter &painter, const Mark &mark, const QRectF &visible) {
     const QTransform toDevice = painter.combinedTransform();
-    const QRectF wanted = toDevice.mapRect(reach(mark) & visibleRect(painter));
+    const QRectF wanted = toDevice.mapRect(reach(mark) & visible);
     const QRect area = wanted.toAlignedRect().adjusted(-1, -1, 1, 1) & deviceRect(painter);
     if (area.isEmpty())
         return;
@@ -53,9 +90,9 @@ void drawHaloAround(QPainter &painter, const Mark &mark) {
     QPainter inLayer(&layer);
     inLayer.setRenderHint(QPainter::Antialiasing);
     inLayer.setTransform(toDevice * QTransform::fromTranslate(-area.x(), -area.y()));
-    drawHalo(inLayer, mark);
+    drawLayers(inLayer, mark, visible);
     inLayer.setCompositionMode(QPainter::CompositionMode_DestinationOut);
-    inLayer.fillPath(mark.shape, Qt::black);
+    inLayer.fillPath(withinReach(mark.shape, visible), Qt::black);
     inLayer.end();
     const double ratio = painter.device()->devicePixelRatioF();
     layer.setDevicePixelRatio(ratio);
@@ -68,15 +105,25 @@ void drawHaloAround(QPainter &painter, const Mark &mark) {
 } // namespace
 
 void Mark::draw(QPainter &painter) const {
-    if (shape.isEmpty() || !(color.a > 0))
+    drawHalo(painter);
+    drawShape(painter);
+}
+
+void Mark::drawHalo(QPainter &painter) const {
+    const QRectF visible = visibleRect(painter);
+    const bool isThere = grown && haloStrength > 0 && color.a > 0;
+    if (!isThere || shape.isEmpty() || !reach(*this).intersects(visible))
         return;
-    if (haloWidth > 0 && haloStrength > 0) {
-        if (color.a >= 1)
-            drawHalo(painter, *this);
-        else
-            drawHaloAround(painter, *this);
-    }
-    painter.fillPath(shape, color.toColor());
+    if (color.a >= 1)
+        drawLayers(painter, *this, visible);
+    else
+        drawHaloAround(painter, *this, visible);
+}
+
+void Mark::drawShape(QPainter &painter) const {
+    const QRectF visible = visibleRect(painter);
+    if (color.a > 0 && shape.boundingRect().intersects(visible))
+        painter.fillPath(withinReach(shape, visible), color.toColor());
 }
 
 QRectF visibleRect(const QPainter &painter) {

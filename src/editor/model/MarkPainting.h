@@ -22,7 +22,10 @@ struct Mark {
     // The shape grown by so much on every side; where it is also smaller inside, that does no harm.
     std::function<QPainterPath(double growth)> grown;
 
+    // The edge, then the shape.
     void draw(QPainter &painter) const;
+    void drawHalo(QPainter &painter) const;
+    void drawShape(QPainter &painter) const;
 };
 
 // The part of image space that a painter can show: its device's, and within its clip.
