@@ -21,7 +21,8 @@ constexpr qsizetype glyphsAtOnce = 120;
 QPainterPath edgeOf(const QPainterPath &letters, double width) {
     QPainterPathStroker stroker;
     stroker.setWidth(2 * width);
-    stroker.setJoinStyle(Qt::RoundJoin);
+    stroker.setJoinStyle(Qt::MiterJoin);
+    stroker.setMiterLimit(1.5);
     return stroker.createStroke(letters);
 }
 
