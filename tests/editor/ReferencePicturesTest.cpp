@@ -45,7 +45,8 @@ Difference difference(const QImage &one, const QImage &other) {
 
 QImage reference(const QString &name, const QImage &drawn) {
     if (const QString folder = qEnvironmentVariable("TEMBRA_WRITE_REFERENCES"); !folder.isEmpty()) {
-        EXPECT_TRUE(drawn.convertToFormat(QImage::Format_RGB888).save(QDir(folder).filePath(name)));
+        EXPECT_TRUE(
+            drawn.convertToFormat(QImage::Format_RGB888).save(QDir(folder).filePath(name), nullptr, 0));
         return drawn;
     }
     return QImage(QDir(QStringLiteral(TEMBRA_REFERENCE_PICTURES)).filePath(name));

@@ -69,15 +69,15 @@ double haloWidth(const ScreenshotAnnotation &annotation) {
     case Kind::blur:
         return 0;
     case Kind::text:
-        return std::max(1.2, annotation.text->fontSize * 0.09);
+        return std::max(1.4, annotation.text->fontSize * 0.09);
     case Kind::number:
-        return std::max(1.2, annotation.number->diameter * 0.05);
+        return std::max(1.4, annotation.number->diameter * 0.05);
     case Kind::arrow:
     case Kind::pencil:
     case Kind::line:
     case Kind::rectangle:
     case Kind::ellipse:
-        return std::clamp(annotation.width * 0.24, 1.2, 12.0);
+        return std::clamp(annotation.width * 0.26, 1.4, 12.0);
     }
     Q_UNREACHABLE();
 }

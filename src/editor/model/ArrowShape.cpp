@@ -15,6 +15,7 @@ namespace tembra {
 namespace {
 
 // Lengths in widths of the stroke.
+constexpr double dotRadius = 0.15;
 constexpr double tailRadius = 0.3;
 constexpr double neckRadius = 0.55;
 constexpr double headLength = 3.7;
@@ -119,10 +120,10 @@ QPainterPath ArrowShape::outline(double growth) const {
     // The control point of the quadratic curve that is at the middle when half its parameter is through.
     const Curve curve(start, 2 * middle() - (start + end) / 2, end);
     const double headSize = std::min(headLength * width + 2, curve.length() * headPart);
-    const double tail = width * tailRadius;
-    const double neck = std::max(tail, std::min(width * neckRadius, headSize * headHalfWidth * 0.42));
+    const double neck = std::min(width * neckRadius, headSize * headHalfWidth * 0.42);
+    const double tail = std::clamp(neck * tailRadius / neckRadius, width * dotRadius, width * tailRadius);
     const double shaft = curve.length() - headSize * (1 - neckInHead);
-    QPainterPath path = strokeOutline(curve.stroke(shaft, tail + growth, neck + growth));
+    QPainterPath path = strokeOutline(curve.stroke(shaft, tail + growth, std::max(neck, tail) + growth));
     path.setFillRule(Qt::WindingFill);
     const QPainterPath tip = head(curve.at(curve.length() - headSize * (1 - notch)), end, headSize);
     path.addPath(tip);

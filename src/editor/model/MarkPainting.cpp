@@ -6,15 +6,15 @@
 #include <QPaintDevice>
 
 #include <algorithm>
-#include <cmath>
+#include <array>
 
 namespace tembra {
 
 namespace {
 
-// The opacity of the halo at the shape.
+// Of the halo at the shape, and what each layer has of it from the outermost inwards.
 constexpr double lightest = 0.52;
-constexpr double darkest = 0.36;
+constexpr std::array layerParts{0.22, 0.34, 0.5};
 
 // One side of a polygon's clipping (Sutherland and Hodgman): what lies where `depth` is positive.
 template <typename Depth>
@@ -53,16 +53,23 @@ QPainterPath withinReach(const QPainterPath &shape, const QRectF &visible) {
     return result;
 }
 
+// The shade around a colour is the deeper the lighter the colour is.
+double haloOpacity(const EditorColor &color, bool isLight) {
+    return isLight ? lightest : 0.16 + 0.26 * relativeLuminance(color);
+}
+
 // Layers of which each is a little larger than the one above it fade outwards.
 void drawLayers(QPainter &painter, const Mark &mark, const QRectF &visible) {
     const EditorColor edge = contrasting(mark.color);
-    const double opacity = (relativeLuminance(edge) > 0.5 ? lightest : darkest) * mark.haloStrength *
+    const double opacity = haloOpacity(mark.color, relativeLuminance(edge) > 0.5) * mark.haloStrength *
                            std::min(mark.color.a, 1.0);
-    const int layers = std::clamp(qRound(mark.haloWidth / 1.2), 2, 5);
     QColor color = edge.toColor();
-    color.setAlphaF(static_cast<float>(1 - std::pow(1 - opacity, 1.0 / layers)));
-    for (int layer = layers; layer > 0; --layer)
-        painter.fillPath(withinReach(mark.grown(mark.haloWidth * layer / layers), visible), color);
+    const int count = static_cast<int>(layerParts.size());
+    for (int layer = 0; layer < count; ++layer) {
+        color.setAlphaF(static_cast<float>(opacity * layerParts.at(layer)));
+        const double growth = mark.haloWidth * (count - layer) / count;
+        painter.fillPath(withinReach(mark.grown(growth), visible), color);
+    }
 }
 
 QRect deviceRect(const QPainter &painter) {

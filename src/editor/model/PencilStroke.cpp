@@ -47,7 +47,7 @@ Points spaced(std::span<const EditorPoint> samples, double spacing) {
 }
 
 Points thinned(std::span<const EditorPoint> samples, double width) {
-    double spacing = std::clamp(width / 4, 0.5, 2.0);
+    double spacing = std::clamp(width / 3, 0.75, 2.5);
     Points result = spaced(samples, spacing);
     // The way has an end, so wider steps do away with enough of them.
     for (; result.size() > mostSamples; result = spaced(samples, spacing))
@@ -56,19 +56,20 @@ Points thinned(std::span<const EditorPoint> samples, double width) {
 }
 
 // Takes away the steps that the pointer's whole pixels leave in a stroke, and no more: a place is never moved
-// farther than that, so what is drawn by intention stays.
+// farther than they are high, so what is drawn by intention stays.
 void removeSteps(Points &points) {
-    constexpr double farthest = 0.4;
-    constexpr int passes = 3;
+    constexpr double farthest = 0.75;
+    constexpr int passes = 8;
+    const Points samples = points;
     for (int pass = 0; pass < passes && points.size() > 2; ++pass) {
         QPointF before = points.front();
         for (std::size_t at = 1; at + 1 < points.size(); ++at) {
             const QPointF here = points[at];
-            QPointF change = ((before + points[at + 1]) / 2 - here) / 2;
-            if (const double distance = length(change); distance > farthest)
-                change *= farthest / distance;
+            QPointF moved = here + ((before + points[at + 1]) / 2 - here) / 2 - samples[at];
+            if (const double distance = length(moved); distance > farthest)
+                moved *= farthest / distance;
             before = here;
-            points[at] += change;
+            points[at] = samples[at] + moved;
         }
     }
 }
