@@ -16,11 +16,11 @@ using Background = AnnotationScene::Background;
 
 // Light and dark, plain and busy: everything that a mark may be lost on.
 QColor photoColor(int x, int y) {
-    const int cellX = x / 10;
-    const int cellY = y / 10;
+    const int cellX = x / 18;
+    const int cellY = y / 18;
     const int grain = (cellX * 7 + cellY * 13 + cellX * cellY * 3) % 11 * 9;
-    return QColor::fromHsv((cellX * 15 + cellY * 8) % 360, 90 + grain,
-                           std::min(255, 40 + cellX * 11 + grain / 2));
+    return QColor::fromHsv((cellX * 27 + cellY * 14) % 360, 90 + grain,
+                           std::min(255, 40 + cellX * 20 + grain / 2));
 }
 
 QColor backgroundColor(Background background, int x, int y) {

@@ -58,7 +58,7 @@ Points thinned(std::span<const EditorPoint> samples, double width) {
 // Takes away the steps that the pointer's whole pixels leave in a stroke, and no more: a place is never moved
 // farther than they are high, so what is drawn by intention stays.
 void removeSteps(Points &points) {
-    constexpr double farthest = 0.75;
+    constexpr double farthest = 1.2;
     constexpr int passes = 8;
     const Points samples = points;
     for (int pass = 0; pass < passes && points.size() > 2; ++pass) {
