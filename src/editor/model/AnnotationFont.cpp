@@ -1,6 +1,7 @@
 #include "editor/model/AnnotationFont.h"
 
 #include <QFontDatabase>
+#include <QStringList>
 
 namespace tembra {
 

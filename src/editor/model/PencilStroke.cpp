@@ -47,7 +47,7 @@ Points spaced(std::span<const EditorPoint> samples, double spacing) {
 }
 
 Points thinned(std::span<const EditorPoint> samples, double width) {
-    double spacing = std::clamp(width / 3, 0.75, 2.5);
+    double spacing = std::clamp(width / 2, 2.0, 3.0);
     Points result = spaced(samples, spacing);
     // The way has an end, so wider steps do away with enough of them.
     for (; result.size() > mostSamples; result = spaced(samples, spacing))
@@ -55,22 +55,32 @@ Points thinned(std::span<const EditorPoint> samples, double width) {
     return result;
 }
 
-// Takes away the steps that the pointer's whole pixels leave in a stroke, and no more: a place is never moved
-// farther than they are high, so what is drawn by intention stays.
+void smooth(Points &points, double factor) {
+    QPointF before = points.front();
+    for (std::size_t at = 1; at + 1 < points.size(); ++at) {
+        const QPointF here = points[at];
+        points[at] += ((before + points[at + 1]) / 2 - here) * factor;
+        before = here;
+    }
+}
+
+// Takes away the steps that the pointer's whole pixels leave in a stroke, without making its bows smaller
+// (Taubin, "Curve and surface smoothing without shrinkage"), and no more: a place is hardly moved farther
+// than the steps are high, so that what is drawn by intention stays.
 void removeSteps(Points &points) {
-    constexpr double farthest = 1.2;
-    constexpr int passes = 8;
+    constexpr double farthest = 1.5;
+    constexpr int passes = 6;
+    if (points.size() < 3)
+        return;
     const Points samples = points;
-    for (int pass = 0; pass < passes && points.size() > 2; ++pass) {
-        QPointF before = points.front();
-        for (std::size_t at = 1; at + 1 < points.size(); ++at) {
-            const QPointF here = points[at];
-            QPointF moved = here + ((before + points[at + 1]) / 2 - here) / 2 - samples[at];
-            if (const double distance = length(moved); distance > farthest)
-                moved *= farthest / distance;
-            before = here;
-            points[at] = samples[at] + moved;
-        }
+    for (int pass = 0; pass < passes; ++pass) {
+        smooth(points, 0.63);
+        smooth(points, -0.67);
+    }
+    for (std::size_t at = 0; at < points.size(); ++at) {
+        const QPointF change = points[at] - samples[at];
+        if (const double distance = length(change); distance > farthest)
+            points[at] = samples[at] + change * (farthest / distance);
     }
 }
 
