@@ -124,8 +124,8 @@ TEST(AnnotationPainter, leavesOutWhatCannotBeDrawn) {
 // Each of these once took minutes.
 TEST(AnnotationPainter, bearsWhatNobodyDraws) {
     std::vector<EditorPoint> scattered;
-    for (int at = 0; at < 300'000; ++at)
-        scattered.push_back({at * 7'919.0 - std::floor(at * 7'919.0 / 240) * 240, at * 104'729 % 160 * 1.0});
+    for (std::int64_t at = 0; at < 300'000; ++at)
+        scattered.push_back({static_cast<double>(at * 7'919 % 240), static_cast<double>(at * 104'729 % 160)});
     const std::vector<ScreenshotAnnotation> list{
         pencil(scattered, red, 3),
         arrow({-1e6, -1e6}, {1e6, 1e6}, red, 1e6, EditorPoint{1e6, -1e6}),
