@@ -3,6 +3,8 @@
 #include "app/Alert.h"
 #include "app/AppFlowCoordinator.h"
 #include "app/CommandService.h"
+#include "editor/model/EditorImageCopies.h"
+#include "editor/model/ScreenshotEditStore.h"
 #include "playback/PlaybackModule.h"
 #include "screenshots/FileWatcherService.h"
 #include "screenshots/FolderReader.h"
@@ -29,18 +31,28 @@ AppDelegate::AppDelegate(Platform &platform, Scheduler &scheduler)
       m_autoCleanQueue(QStringLiteral("Tembra.AutoClean")),
       m_screenshotCopyQueue(QStringLiteral("local.dova.Tembra.screenshot-copy")),
       m_clipboardQueue(QStringLiteral("Tembra.Clipboard.IO")),
-      m_previewQueue(QStringLiteral("Tembra.Preview")) {}
+      m_previewQueue(QStringLiteral("Tembra.Preview")),
+      m_editorQueue(QStringLiteral("Tembra.Editor.IO")) {}
 
 AppDelegate::~AppDelegate() = default;
 
 void AppDelegate::applicationDidFinishLaunching() {
     m_settings = makeSettings();
+    m_editStore = makeEditStore();
+    m_imageCopies = std::make_unique<EditorImageCopies>(
+        EditorImageCopies::folder(m_platform.folders),
+        EditorImageCopies::Services{*m_platform.pasteboard, *m_platform.fileCoordinator, m_editorQueue,
+                                    m_scheduler});
     m_coordinator = std::make_unique<AppFlowCoordinator>(*m_settings, *m_platform.workspace,
                                                          makeShelfController(), [this] { terminate(); });
     m_commands = std::make_unique<CommandService>(
         m_coordinator->shelfController(), [this] { applicationShouldHandleReopen(); },
         [this] { terminate(); });
     m_coordinator->start();
+    ShelfController &shelf = m_coordinator->shelfController();
+    m_editStore->onBadgesChanged = [this, &shelf] { shelf.setEditedScreenshots(m_editStore->badges()); };
+    m_editStore->loadBadges({});
+    m_imageCopies->discardAll();
 }
 
 std::unique_ptr<AppSettings> AppDelegate::makeSettings() {
@@ -64,6 +76,18 @@ std::unique_ptr<AppSettings> AppDelegate::makeSettings() {
     return std::make_unique<AppSettings>(*m_platform.defaults, FolderPreferences(),
                                          ScreenshotFolderAccess(bookmarks, facts, m_platform.folders),
                                          std::move(functions));
+}
+
+std::unique_ptr<ScreenshotEditStore> AppDelegate::makeEditStore() {
+    return std::make_unique<ScreenshotEditStore>(
+        ScreenshotEditStore::folder(m_platform.folders),
+        ScreenshotEditServices{.files = *m_platform.fileFacts,
+                               .bookmarks = *m_platform.bookmarks,
+                               .references = *m_platform.fileReferences,
+                               .coordinator = *m_platform.fileCoordinator,
+                               .thumbnails = *m_platform.thumbnailCache,
+                               .queue = m_editorQueue,
+                               .scheduler = m_scheduler});
 }
 
 std::unique_ptr<ShelfController> AppDelegate::makeShelfController() {

@@ -13,7 +13,9 @@ namespace tembra {
 class AppFlowCoordinator;
 class AppSettings;
 class CommandService;
+class EditorImageCopies;
 class FileWatcherService;
+class ScreenshotEditStore;
 class ScreenshotLocationMonitor;
 class ShelfController;
 class ShelfSession;
@@ -41,6 +43,7 @@ public:
 private:
     [[nodiscard]] std::unique_ptr<AppSettings> makeSettings();
     [[nodiscard]] std::unique_ptr<ShelfController> makeShelfController();
+    [[nodiscard]] std::unique_ptr<ScreenshotEditStore> makeEditStore();
     [[nodiscard]] std::unique_ptr<ShelfSession> makeSession();
     [[nodiscard]] std::unique_ptr<FileWatcherService> makeFileWatcher();
     // Asks the screenshot tool how names begin, on the queue that the function is used on.
@@ -61,6 +64,9 @@ private:
     ThreadQueue m_screenshotCopyQueue;
     ThreadQueue m_clipboardQueue;
     ThreadQueue m_previewQueue;
+    ThreadQueue m_editorQueue;
+    std::unique_ptr<ScreenshotEditStore> m_editStore;
+    std::unique_ptr<EditorImageCopies> m_imageCopies;
     std::unique_ptr<AppSettings> m_settings;
     std::unique_ptr<AppFlowCoordinator> m_coordinator;
     std::unique_ptr<CommandService> m_commands;

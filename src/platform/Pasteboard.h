@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <functional>
 #include <vector>
 
 class QMimeData;
@@ -34,6 +35,9 @@ public:
     };
 
     virtual ~Pasteboard() = default;
+    // After `changeCount` has grown.
+    std::function<void()> onChanged;
+
     // Grows whenever anyone, this program too, changes what is on the clipboard. Tells of every change that
     // happened before the call.
     [[nodiscard]] virtual std::int64_t changeCount() = 0;

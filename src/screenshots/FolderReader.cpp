@@ -19,9 +19,8 @@ namespace {
 constexpr auto fresh = 2min;
 
 QString stampOf(const FileVersion &version) {
-    return QStringLiteral("%1-%2-%3-%4")
-        .arg(version.size, 0, 16)
-        .arg(version.modifiedAt.time_since_epoch().count(), 0, 16)
+    return QStringLiteral("%1-%2-%3")
+        .arg(Shot::revision(version.size, version.modifiedAt))
         .arg(version.changedAt.time_since_epoch().count(), 0, 16)
         .arg(version.inode, 0, 16);
 }

@@ -24,4 +24,12 @@ QString Shot::currentPath(const FileFactsReader &facts, const FileReferences &re
     return found && isFileOf(*this, *found, facts) ? *found : QString();
 }
 
+QString Shot::revision(std::uint64_t size, Instant modifiedAt) {
+    return QStringLiteral("%1-%2").arg(size, 0, 16).arg(modifiedAt.time_since_epoch().count(), 0, 16);
+}
+
+bool Shot::hasRevision(QStringView revision) const {
+    return stamp.startsWith(revision) && QStringView(stamp).sliced(revision.size()).startsWith(u'-');
+}
+
 } // namespace tembra

@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include <cstdint>
+
 namespace tembra {
 
 class FileFactsReader;
@@ -14,7 +16,8 @@ struct Shot {
     // Absolute path as last seen.
     QString location;
     ScreenshotFileIdentity identity;
-    // Names this version of the file: it changes whenever the file is replaced or rewritten.
+    // Names this version of the file: it changes whenever the file is replaced or rewritten. Begins with the
+    // revision of its content.
     QString stamp;
     // What sections and order go by.
     Instant createdAt{};
@@ -22,6 +25,10 @@ struct Shot {
     // The path of the file now: followed to its new name or place by its identity, else `location`. Empty
     // when neither is this file any more.
     [[nodiscard]] QString currentPath(const FileFactsReader &facts, const FileReferences &references) const;
+
+    // Of a file's content, as far as its size in bytes and its date tell it.
+    [[nodiscard]] static QString revision(std::uint64_t size, Instant modifiedAt);
+    [[nodiscard]] bool hasRevision(QStringView revision) const;
 
     bool operator==(const Shot &) const = default;
 };

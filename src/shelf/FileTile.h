@@ -24,6 +24,8 @@ struct FileTile {
     // Names this version of the file: it changes whenever the file is rewritten.
     QString revision;
     bool isPinned = false;
+    // It carries edits that can be changed.
+    bool isEdited = false;
     // The file can be reached now.
     bool isAvailable = true;
     bool isFolder = false;

@@ -5,7 +5,8 @@
 namespace tembra {
 
 std::vector<FileGridState::Section> screenshotTiles(std::vector<ScreenshotSection> sections,
-                                                    const QSet<QString> &pinnedPaths) {
+                                                    const QSet<QString> &pinnedPaths,
+                                                    const QHash<ScreenshotFileIdentity, QString> &edited) {
     std::vector<FileGridState::Section> result;
     result.reserve(sections.size());
     for (ScreenshotSection &section : sections) {
@@ -13,10 +14,13 @@ std::vector<FileGridState::Section> screenshotTiles(std::vector<ScreenshotSectio
         tiles.tiles.reserve(section.shots.size());
         for (Shot &shot : section.shots) {
             const bool isPinned = pinnedPaths.contains(shot.location);
+            const auto revision = edited.constFind(shot.identity);
+            const bool isEdited = revision != edited.cend() && shot.hasRevision(*revision);
             tiles.tiles.push_back({.id = std::move(shot.identity),
                                    .path = std::move(shot.location),
                                    .revision = std::move(shot.stamp),
-                                   .isPinned = isPinned});
+                                   .isPinned = isPinned,
+                                   .isEdited = isEdited});
         }
     }
     return result;

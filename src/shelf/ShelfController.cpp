@@ -339,6 +339,12 @@ void ShelfController::configureAutoOpen() {
     m_screenshotAutoOpen.configure(state.automaticallyOpenEditor, state.screenshotsFolder, m_services.now());
 }
 
+void ShelfController::setEditedScreenshots(const QHash<ScreenshotFileIdentity, QString> &revisions) {
+    requireMainThread();
+    m_editedScreenshots = revisions;
+    render();
+}
+
 // Nothing is drawn for a shelf that nobody sees: opening renders it, if anything has changed since.
 void ShelfController::render() {
     m_isStale = true;
@@ -356,7 +362,8 @@ void ShelfController::render() {
         state.message->isLoading = false;
     if (!state.message) {
         state.screenshots = {.sections =
-                                 screenshotTiles(m_commands->sections(), m_settings.pinnedScreenshotPaths()),
+                                 screenshotTiles(m_commands->sections(), m_settings.pinnedScreenshotPaths(),
+                                                 m_editedScreenshots),
                              .showFileNames = settings.showFileNames,
                              .grouped = settings.groupScreenshotsByDate};
         state.selection = m_session->selected;

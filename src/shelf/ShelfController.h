@@ -19,6 +19,7 @@
 #include "shelf/StatusItem.h"
 #include "shelf/TabHover.h"
 
+#include <QHash>
 #include <QObject>
 #include <QPoint>
 
@@ -73,6 +74,9 @@ public:
 
     void start();
     void stop();
+
+    // Which screenshots carry edits, each with the revision that the editor wrote.
+    void setEditedScreenshots(const QHash<ScreenshotFileIdentity, QString> &revisions);
 
     void setExpanded(bool expanded);
     void collapse() { setExpanded(false); }
@@ -181,6 +185,7 @@ private:
     bool m_expanded = false;
     // What the content shows is not what there is now.
     bool m_isStale = true;
+    QHash<ScreenshotFileIdentity, QString> m_editedScreenshots;
     bool m_choosingFolder = false;
     bool m_dragging = false;
     // Keeps the shelf open while it is up.

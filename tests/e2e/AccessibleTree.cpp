@@ -56,6 +56,12 @@ std::vector<AccessibleTree::Node> AccessibleTree::children(const Node &node) con
     return found;
 }
 
+QString AccessibleTree::property(const Node &node, const QString &name) const {
+    const QDBusMessage answer = call(m_bus, node, QStringLiteral("org.freedesktop.DBus.Properties"),
+                                     QStringLiteral("Get"), {accessible, name});
+    return answer.arguments().value(0).value<QDBusVariant>().variant().toString();
+}
+
 void AccessibleTree::collect(const Node &node, std::vector<Node> &found) const {
     for (Node &child : children(node)) {
         const QDBusMessage states = call(m_bus, child, accessible, QStringLiteral("GetState"));
@@ -65,9 +71,8 @@ void AccessibleTree::collect(const Node &node, std::vector<Node> &found) const {
         const auto has = [&words](int bit) { return !words.isEmpty() && (words[0] >> bit & 1U) != 0; };
         child.isSelected = has(selectedBit);
         child.isShowing = has(showingBit);
-        const QDBusMessage name = call(m_bus, child, QStringLiteral("org.freedesktop.DBus.Properties"),
-                                       QStringLiteral("Get"), {accessible, QStringLiteral("Name")});
-        child.name = name.arguments().value(0).value<QDBusVariant>().variant().toString();
+        child.name = property(child, QStringLiteral("Name"));
+        child.description = property(child, QStringLiteral("Description"));
         child.role =
             call(m_bus, child, accessible, QStringLiteral("GetRoleName")).arguments().value(0).toString();
         if (child.isShowing)
@@ -81,9 +86,7 @@ std::vector<AccessibleTree::Node> AccessibleTree::shown(const QString &program) 
                        .path = QDBusObjectPath(QStringLiteral("/org/a11y/atspi/accessible/root"))};
     std::vector<Node> found;
     for (const Node &application : children(desktop)) {
-        const QDBusMessage name = call(m_bus, application, QStringLiteral("org.freedesktop.DBus.Properties"),
-                                       QStringLiteral("Get"), {accessible, QStringLiteral("Name")});
-        if (name.arguments().value(0).value<QDBusVariant>().variant().toString() == program)
+        if (property(application, QStringLiteral("Name")) == program)
             collect(application, found);
     }
     return found;

@@ -17,6 +17,7 @@ public:
         QString service;
         QDBusObjectPath path;
         QString name;
+        QString description;
         QString role;
         bool isSelected = false;
         bool isShowing = false;
@@ -36,6 +37,7 @@ public:
 
 private:
     [[nodiscard]] std::vector<Node> children(const Node &node) const;
+    [[nodiscard]] QString property(const Node &node, const QString &name) const;
     void collect(const Node &node, std::vector<Node> &found) const;
 
     QDBusConnection m_bus;

@@ -1,4 +1,5 @@
 #include "editor/model/EditorImageClipboard.h"
+#include "editor/model/EditorImageCopies.h"
 #include "editor/model/ScreenshotEditError.h"
 #include "editor/model/ScreenshotRenderer.h"
 #include "imaging/GaussianBlur.h"
@@ -6,6 +7,8 @@
 #include "support/Annotations.h"
 #include "support/FakePasteboard.h"
 #include "support/Files.h"
+#include "support/ManualQueue.h"
+#include "support/ManualScheduler.h"
 #include "support/Pictures.h"
 #include "support/Pixels.h"
 
@@ -168,6 +171,45 @@ TEST(EditorImageClipboard, offersOneItemAsImageAndAsFile) {
     writeFile(root.filePath(QStringLiteral("file")));
     EXPECT_FALSE(
         EditorImageClipboard::prepare(image, *file, root.filePath(QStringLiteral("file/in")), files));
+}
+
+TEST(EditorImageCopies, keepsTheCopyThatIsOnTheClipboardAndNoOther) {
+    const QTemporaryDir folder;
+    const QString root = folder.filePath(QStringLiteral("copies"));
+    const LinuxFileCoordinator files;
+    FakePasteboard pasteboard;
+    ManualQueue queue;
+    ManualScheduler scheduler;
+    EditorImageCopies copies(root, {pasteboard, files, queue, scheduler});
+    const auto settle = [&] {
+        queue.runAll();
+        scheduler.settle();
+        queue.runAll();
+    };
+    const auto copy = [&] {
+        std::optional<Result<void>> outcome;
+        copies.copy(pictureBytes("png"), QStringLiteral("/shot.jpg"),
+                    [&](const auto &result) { outcome = result; });
+        settle();
+        return outcome && *outcome;
+    };
+    const auto kept = [&root] { return QDir(root).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(); };
+
+    EXPECT_TRUE(copy());
+    EXPECT_TRUE(copy());
+    ASSERT_EQ(kept(), 1);
+    EXPECT_TRUE(QFile::exists(pasteboard.items.front().path));
+    pasteboard.refuses = true;
+    EXPECT_FALSE(copy());
+    EXPECT_EQ(kept(), 1);
+    pasteboard.takeByAnother();
+    settle();
+    EXPECT_EQ(kept(), 0);
+
+    QDir().mkpath(root + QStringLiteral("/Editor-left"));
+    copies.discardAll();
+    settle();
+    EXPECT_EQ(kept(), 0);
 }
 
 } // namespace

@@ -22,15 +22,21 @@ public:
             return failure({.domain = errorDomain, .code = refused});
         items = objects;
         ++writes;
-        ++m_changeCount;
+        change();
         return {};
     }
     void takeByAnother() {
         items.clear();
-        ++m_changeCount;
+        change();
     }
 
 private:
+    void change() {
+        ++m_changeCount;
+        if (onChanged)
+            onChanged();
+    }
+
     std::int64_t m_changeCount = 7;
 };
 

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QBuffer>
-#include <QImage>
+#include "support/Pixels.h"
 
 namespace tembra {
 
@@ -12,12 +11,7 @@ inline QByteArray pictureBytes(const char *format, const QSize &size = QSize(64,
         for (int x = 0; x < image.width(); ++x)
             image.setPixel(x, y, qRgb(x * 37 % 256, y * 59 % 256, x * y % 256));
     }
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    if (!image.save(&buffer, format))
-        qFatal("cannot write a picture as %s", format);
-    return bytes;
+    return encoded(image, format);
 }
 
 } // namespace tembra

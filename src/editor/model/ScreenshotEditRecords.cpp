@@ -3,6 +3,7 @@
 #include "editor/model/ScreenshotEditError.h"
 #include "imaging/PictureDecoding.h"
 #include "imaging/Sha256.h"
+#include "screenshots/Shot.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -137,7 +138,7 @@ std::optional<QString> ScreenshotEditRecords::revision(const Record &record) {
     const bool hasEdits = !record.annotations.empty() || record.cropRect;
     if (!hasEdits || !record.fileSize || !record.modifiedAt)
         return std::nullopt;
-    return QStringLiteral("%1-%2").arg(*record.fileSize).arg(record.modifiedAt->time_since_epoch().count());
+    return Shot::revision(static_cast<std::uint64_t>(*record.fileSize), *record.modifiedAt);
 }
 
 QHash<ScreenshotFileIdentity, QString> ScreenshotEditRecords::revisions() const {

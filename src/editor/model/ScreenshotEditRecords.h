@@ -35,7 +35,7 @@ public:
 
     // Which files carry edits, and the revision of each that they made.
     [[nodiscard]] QHash<ScreenshotFileIdentity, QString> revisions() const;
-    // Of a file's content, as far as its facts tell it; nothing for a record without edits.
+    // As Shot has it; nothing for a record without edits.
     [[nodiscard]] static std::optional<QString> revision(const Record &record);
 
 private:

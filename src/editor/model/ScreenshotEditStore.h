@@ -7,6 +7,7 @@
 #include "editor/model/ScreenshotEditRecords.h"
 #include "editor/model/ScreenshotEditSaved.h"
 #include "editor/model/ScreenshotEditServices.h"
+#include "platform/StandardFolders.h"
 
 #include <QHash>
 #include <QRectF>
@@ -32,6 +33,11 @@ public:
     using PreviewRequest = ScreenshotEditPreviewRequest;
 
     using Services = ScreenshotEditServices;
+
+    // The folder of the user's store.
+    [[nodiscard]] static QString folder(const StandardFolders &folders) {
+        return folders.data + QStringLiteral("/ScreenshotEdits");
+    }
 
     // `root` is the store's folder, made when it is needed. The services must outlive this.
     ScreenshotEditStore(const QString &root, Services services);

@@ -38,15 +38,23 @@ private:
 
 QtPasteboard::QtPasteboard(std::shared_ptr<X11Connection> connection) : m_connection(std::move(connection)) {
     if (!m_connection) {
-        QObject::connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, &m_context,
-                         [this] { ++m_changeCount; });
+        QObject::connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, &m_context, [this] {
+            ++m_changeCount;
+            tellOfChange();
+        });
         return;
     }
     m_watch = std::make_unique<X11ClipboardWatch>();
+    m_watch->onChanged = [this] { tellOfChange(); };
     m_dragAnswers = std::make_unique<X11DragAnswers>(m_connection);
 }
 
 QtPasteboard::~QtPasteboard() = default;
+
+void QtPasteboard::tellOfChange() {
+    if (onChanged)
+        onChanged();
+}
 
 std::int64_t QtPasteboard::changeCount() {
     return m_watch ? m_watch->changeCount() : m_changeCount;

@@ -28,6 +28,7 @@ public:
 
 private:
     [[nodiscard]] bool isOwner() const;
+    void tellOfChange();
 
     const std::shared_ptr<X11Connection> m_connection;
     std::unique_ptr<X11ClipboardWatch> m_watch;

@@ -135,6 +135,8 @@ bool WaylandDataControlPasteboard::watch() {
 void WaylandDataControlPasteboard::selectionChanged(wl_proxy *offer) {
     ++m_changeCount;
     m_offer.reset(offer);
+    if (onChanged)
+        onChanged();
 }
 
 void WaylandDataControlPasteboard::send(const ClipboardContent &content, const QString &format,

@@ -57,12 +57,15 @@ std::int64_t X11ClipboardWatch::changeCount() {
 }
 
 void X11ClipboardWatch::drain() {
+    const std::int64_t before = m_changeCount;
     while (const X11Reply<xcb_generic_event_t> event{xcb_poll_for_event(m_connection.get())}) {
         if ((event->response_type & eventNumberMask) == m_firstFixesEvent + XCB_XFIXES_SELECTION_NOTIFY)
             ++m_changeCount;
     }
     if (m_notifier && xcb_connection_has_error(m_connection.get()))
         m_notifier->setEnabled(false);
+    if (m_changeCount != before && onChanged)
+        onChanged();
 }
 
 } // namespace tembra

@@ -5,6 +5,7 @@
 #include <xcb/xcb.h>
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 
 namespace tembra {
@@ -16,6 +17,8 @@ public:
     X11ClipboardWatch();
     X11ClipboardWatch(const X11ClipboardWatch &) = delete;
     X11ClipboardWatch &operator=(const X11ClipboardWatch &) = delete;
+
+    std::function<void()> onChanged;
 
     [[nodiscard]] std::int64_t changeCount();
 

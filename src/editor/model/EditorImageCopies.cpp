@@ -1,0 +1,62 @@
+#include "editor/model/EditorImageCopies.h"
+
+#include "base/Background.h"
+#include "base/MainThread.h"
+#include "editor/model/EditorImageClipboard.h"
+
+#include <QDir>
+
+#include <utility>
+
+namespace tembra {
+
+EditorImageCopies::EditorImageCopies(QString root, Services services)
+    : m_root(std::move(root)), m_services(services) {
+    m_services.pasteboard.onChanged = [this] { clipboardChanged(); };
+}
+
+EditorImageCopies::~EditorImageCopies() {
+    m_services.pasteboard.onChanged = {};
+}
+
+void EditorImageCopies::copy(const QByteArray &png, const QString &source,
+                             std::function<void(Result<void>)> completion) {
+    requireMainThread();
+    performInBackground(
+        m_services.queue, m_services.scheduler, m_generation.ticket(),
+        [png, source, root = m_root, &files = m_services.files] {
+            return EditorImageClipboard::prepare(png, source, root, files);
+        },
+        [this, png, completion = std::move(completion)](const Result<QString> &file) {
+            completion(file ? write(png, *file) : failure(file.error()));
+        });
+}
+
+Result<void> EditorImageCopies::write(const QByteArray &png, const QString &file) {
+    auto written = EditorImageClipboard::write(png, file, m_services.pasteboard);
+    if (!written) {
+        discard(file);
+        return written;
+    }
+    // Tells of the change that this was, which discards the copy before.
+    m_changeCount = m_services.pasteboard.changeCount();
+    m_current = file;
+    return written;
+}
+
+void EditorImageCopies::clipboardChanged() {
+    if (m_current.isEmpty() || m_services.pasteboard.changeCount() == m_changeCount)
+        return;
+    discard(std::exchange(m_current, {}));
+}
+
+void EditorImageCopies::discard(const QString &file) {
+    m_services.queue.post([file] { EditorImageClipboard::discard(file); });
+}
+
+void EditorImageCopies::discardAll() {
+    requireMainThread();
+    m_services.queue.post([root = m_root] { QDir(root).removeRecursively(); });
+}
+
+} // namespace tembra
