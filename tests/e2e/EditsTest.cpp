@@ -23,9 +23,9 @@ bool hasShot(const QJsonObject &status) {
 
 // How many pixels of two files differ, as ImageMagick counts them.
 int differences(const TembraProcess &tembra, const QStringList &files) {
-    const auto answer = tembra.tool(QStringLiteral("compare"),
-                                    QStringList{QStringLiteral("-metric"), QStringLiteral("AE")} + files +
-                                        QStringList{QStringLiteral("null:")});
+    const auto answer =
+        tembra.tool(QStringLiteral("compare"), QStringList{QStringLiteral("-metric"), QStringLiteral("AE")} +
+                                                   files + QStringList{QStringLiteral("null:")});
     return answer.error.trimmed().toInt();
 }
 
@@ -47,8 +47,9 @@ TEST(Edits, areDrawnOntoARealCaptureAndNowhereElse) {
     EXPECT_GE(differences(tembra, {QStringLiteral("capture.png"), QStringLiteral("out.png")}), 200 * 200);
     // With what was drawn covered in both, its halo of a few pixels too, nothing differs.
     for (const char *file : {"capture.png", "out.png"})
-        tembra.tool(QStringLiteral("mogrify"), {QStringLiteral("-fill"), QStringLiteral("black"), QStringLiteral("-draw"),
-                                                QStringLiteral("rectangle 290,190 510,410"), QString::fromLatin1(file)});
+        tembra.tool(QStringLiteral("mogrify"),
+                    {QStringLiteral("-fill"), QStringLiteral("black"), QStringLiteral("-draw"),
+                     QStringLiteral("rectangle 290,190 510,410"), QString::fromLatin1(file)});
     EXPECT_EQ(differences(tembra, {QStringLiteral("capture.png"), QStringLiteral("out.png")}), 0);
 
     EXPECT_EQ(render("out.png", "out.png").exitStatus, 1) << "an image is not written over";
@@ -83,7 +84,8 @@ TEST(Edits, markTheScreenshotThatCarriesThem) {
     tembra.start();
     ASSERT_TRUE(tembra.waitFor(hasShot)) << "the edited file is the capture that it was";
     tembra.command({QStringLiteral("open")});
-    ASSERT_TRUE(tembra.waitFor([](const QJsonObject &status) { return status[u"shelf"][u"expanded"].toBool(); }));
+    ASSERT_TRUE(
+        tembra.waitFor([](const QJsonObject &status) { return status[u"shelf"][u"expanded"].toBool(); }));
     EXPECT_TRUE(tembra.waitFor([&](const QJsonObject &) {
         const auto tile =
             tree.find(QStringLiteral("Tembra"), QFileInfo(shot).fileName(), QStringLiteral("list item"));

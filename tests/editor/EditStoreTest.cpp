@@ -9,6 +9,8 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QImageReader>
+#include <QImageWriter>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -102,6 +104,26 @@ TEST_F(EditStoreTest, keepsTheOriginalAndTheEditsThroughSaves) {
     EXPECT_EQ(pixelsOf(contentOf(shot)), pixelsOf(picture));
 }
 
+TEST_F(EditStoreTest, savesTurnedJpegsUprightAndAsTheyAre) {
+    const QString photo = edits.path(QStringLiteral("photo.jpg"));
+    {
+        QImageWriter writer(photo, "jpg");
+        writer.setTransformation(QImageIOHandler::TransformationRotate90);
+        ASSERT_TRUE(writer.write(QImage::fromData(picture)));
+    }
+    const auto loaded = load(photo);
+    EXPECT_EQ(loaded.size, QSize(90, 120));
+    EXPECT_EQ(loaded.type, QStringLiteral("public.jpeg"));
+    const auto saved = save(loaded, arrow);
+    QImageReader reader(photo);
+    EXPECT_EQ(reader.format(), "jpeg");
+    EXPECT_EQ(reader.transformation(), QImageIOHandler::TransformationNone);
+    EXPECT_EQ(reader.size(), QSize(90, 120));
+    const QImage copied = QImage::fromData(*saved.clipboardPNG, "png");
+    EXPECT_EQ(copied.size(), QSize(90, 120));
+    EXPECT_EQ(load(photo).size, QSize(90, 120));
+}
+
 TEST_F(EditStoreTest, isReadableByItsOwnerAlone) {
     const auto saved = save(load(shot), arrow);
     for (const auto &entry :
@@ -159,10 +181,18 @@ TEST_F(EditStoreTest, whatWasOnlyOpenedMayChange) {
     EXPECT_EQ(second.size, QSize(30, 30));
     EXPECT_EQ(second.record.id, first.record.id) << "no record more";
     EXPECT_EQ(load(shot).expectedHash, second.expectedHash);
+
+    // A save from before the change keeps nothing that the next edit could start from.
+    EXPECT_FALSE(store.save(first, arrow, {}));
+    const auto third = load(shot);
+    EXPECT_EQ(third.original, contentOf(shot));
+    save(third, arrow);
+    EXPECT_EQ(load(shot).size, QSize(30, 30));
 }
 
 TEST_F(EditStoreTest, followsMovesButTakesCopiesForNewImages) {
-    const auto saved = save(load(shot), arrow);
+    const auto loaded = load(shot);
+    const auto saved = save(loaded, arrow);
     const QString moved = edits.path(QStringLiteral("moved.png"));
     const QString copy = edits.path(QStringLiteral("copy.png"));
     ASSERT_TRUE(QFile::copy(shot, copy));
@@ -172,9 +202,19 @@ TEST_F(EditStoreTest, followsMovesButTakesCopiesForNewImages) {
     EXPECT_NE(copied.record.id, saved.record.id);
     EXPECT_TRUE(copied.record.annotations.empty());
     // A save finds the file where it has gone.
-    const auto again = save(saved.loaded, {});
+    const auto again = save(saved.loaded, arrow);
     EXPECT_EQ(again.path, moved);
     EXPECT_EQ(load(moved).record, again.record);
+
+    // Moved after a save whose record was not written any more.
+    const QString record = recordFolder(again.loaded) + QStringLiteral("/record.json");
+    ASSERT_TRUE(QFile::rename(record, recordFolder(again.loaded) + QStringLiteral("/pending.json")));
+    writeFile(record,
+              ScreenshotEditRecord{.id = again.record.id, .path = moved, .fingerprint = loaded.expectedHash}
+                  .encode());
+    const QString elsewhere = edits.path(QStringLiteral("elsewhere.png"));
+    ASSERT_TRUE(QFile::rename(moved, elsewhere));
+    EXPECT_EQ(load(elsewhere).record.annotations, arrow);
 }
 
 // Each a change of a saved record, and what opening the screenshot says then.

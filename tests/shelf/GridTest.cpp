@@ -6,6 +6,7 @@
 #include "shelf/NativeScreenshotCell.h"
 #include "shelf/NativeScreenshotGrid.h"
 #include "shelf/ScreenshotScrollView.h"
+#include "shelf/ScreenshotTiles.h"
 #include "support/FakeFileFacts.h"
 #include "support/FakeThumbnails.h"
 
@@ -321,6 +322,22 @@ TEST_F(GridTest, aShotThatStaysInSightKeepsItsCellAndPicture) {
     EXPECT_FALSE(before.at(7)->isShowingThumbnail());
     EXPECT_TRUE(isPinned(8));
     EXPECT_FALSE(isPinned(9));
+}
+
+TEST(ScreenshotTiles, areMarkedAsEditedInTheRevisionThatTheEditorWrote) {
+    const Instant written(std::chrono::seconds(1'000));
+    Shot shot{.location = QStringLiteral("/a.png"),
+              .identity = {ScreenshotFileIdentity::Path{QStringLiteral("/a.png"), {}}},
+              .stamp = Shot::revision(20, written) + QStringLiteral("-1-2")};
+    const QHash<ScreenshotFileIdentity, QString> edited{{shot.identity, Shot::revision(20, written)}};
+    const auto isEdited = [&](const Shot &shown) {
+        return screenshotTiles({{.shots = {shown}}}, {}, edited).front().tiles.front().isEdited;
+    };
+    EXPECT_TRUE(isEdited(shot));
+    shot.stamp = Shot::revision(20, written + std::chrono::nanoseconds(1)) + QStringLiteral("-1-2");
+    EXPECT_FALSE(isEdited(shot)) << "another program wrote it since";
+    shot.stamp = Shot::revision(20, written) + QStringLiteral("0-1-2");
+    EXPECT_FALSE(isEdited(shot));
 }
 
 TEST_F(GridTest, aFileThatIsListedTwiceLosesNoCell) {

@@ -32,7 +32,8 @@ public:
         return folders.cache + QStringLiteral("/ImageCopies");
     }
 
-    // Only this keeps anything in `root`. Answers the pasteboard's `onChanged`. The services must outlive this.
+    // Only this keeps anything in `root`. Answers the pasteboard's `onChanged`. The services must outlive
+    // this.
     EditorImageCopies(QString root, Services services);
     ~EditorImageCopies();
     EditorImageCopies(const EditorImageCopies &) = delete;

@@ -60,8 +60,10 @@ std::optional<ScreenshotEditFolder::Pending> ScreenshotEditFolder::pending(const
     return Pending{*record, ScreenshotEditRecord::decodeTemporary(*bytes)};
 }
 
-bool ScreenshotEditFolder::hasOriginal(const QUuid &id) const {
-    return QFileInfo::exists(file(id, originalName));
+bool ScreenshotEditFolder::hasSavedOriginal(const QUuid &id) const {
+    const auto reading = record(id);
+    const auto *known = reading ? std::get_if<ScreenshotEditRecord>(&*reading) : nullptr;
+    return known && known->wasSaved() && QFileInfo::exists(file(id, originalName));
 }
 
 Result<QByteArray> ScreenshotEditFolder::original(const QUuid &id) const {
@@ -86,16 +88,12 @@ void ScreenshotEditFolder::removePending(const QUuid &id) const {
 }
 
 Result<void> ScreenshotEditFolder::keepOriginal(const QUuid &id, const QByteArray &bytes) const {
-    if (hasOriginal(id))
+    if (hasSavedOriginal(id))
         return {};
     const QString path = file(id, originalName);
     return m_files.makePrivateFolder(QFileInfo(path).path()).and_then([&] {
         return m_files.writeAtomically(path, bytes);
     });
-}
-
-void ScreenshotEditFolder::removeOriginal(const QUuid &id) const {
-    static_cast<void>(m_files.remove(file(id, originalName)));
 }
 
 } // namespace tembra

@@ -34,7 +34,6 @@ public:
     // Nothing when there is none or it is no record.
     [[nodiscard]] std::optional<ScreenshotEditRecord::Reading> record(const QUuid &id) const;
     [[nodiscard]] std::optional<Pending> pending(const QUuid &id) const;
-    [[nodiscard]] bool hasOriginal(const QUuid &id) const;
     [[nodiscard]] Result<QByteArray> original(const QUuid &id) const;
 
     // Also removes what a save left pending.
@@ -42,12 +41,12 @@ public:
     [[nodiscard]] Result<void> writePending(const ScreenshotEditRecord &record,
                                             const QString &temporary) const;
     void removePending(const QUuid &id) const;
-    // Written once: one that is there stays.
+    // Once the screenshot was saved, the original stays as it is.
     [[nodiscard]] Result<void> keepOriginal(const QUuid &id, const QByteArray &bytes) const;
-    void removeOriginal(const QUuid &id) const;
 
 private:
     [[nodiscard]] QString file(const QUuid &id, const QString &name) const;
+    [[nodiscard]] bool hasSavedOriginal(const QUuid &id) const;
 
     const QString m_root;
     const FileCoordinator &m_files;

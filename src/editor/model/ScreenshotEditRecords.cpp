@@ -39,7 +39,7 @@ Result<ScreenshotEditRecords::Match> ScreenshotEditRecords::match(const QString 
             unsaved = record->wasSaved() ? unsaved : *record;
             continue;
         }
-        if (!record->wasSaved() && !m_folder.hasOriginal(id))
+        if (!record->wasSaved())
             return Match{.record = *record};
         auto original = m_folder.original(id);
         if (!original)
@@ -53,7 +53,6 @@ Result<ScreenshotEditRecords::Match> ScreenshotEditRecords::match(const QString 
     // The editor opened the file but never wrote it: what somebody else wrote since is the original now.
     if (!unsaved)
         return Match{};
-    m_folder.removeOriginal(unsaved->id);
     unsaved->fingerprint = hash;
     if (const auto written = m_folder.writeRecord(*unsaved); !written)
         return failure(written.error());
@@ -85,17 +84,29 @@ ScreenshotEditRecord ScreenshotEditRecords::finished(Record record, const QStrin
     return record;
 }
 
-void ScreenshotEditRecords::settlePending(const std::optional<QString> &path) const {
+void ScreenshotEditRecords::settlePending(const QString &path, const QString &hash) const {
     for (const QUuid &id : m_folder.ids()) {
         const auto pending = m_folder.pending(id);
-        if (pending && (!path || pending->record.path == *path))
-            settle(*pending);
+        if (!pending)
+            continue;
+        // Saved, and moved before anybody could write where to.
+        const bool wasMoved = hash == pending->record.fingerprint && !QFileInfo::exists(pending->record.path);
+        if (wasMoved || pending->record.path == path)
+            settle(*pending, path, hash);
     }
 }
 
-void ScreenshotEditRecords::settle(const ScreenshotEditFolder::Pending &pending) const {
-    const QString &path = pending.record.path;
-    const auto hash = hashOf(path);
+void ScreenshotEditRecords::settleEveryPending() const {
+    for (const QUuid &id : m_folder.ids()) {
+        const auto pending = m_folder.pending(id);
+        const auto hash = pending ? hashOf(pending->record.path) : std::nullopt;
+        if (hash)
+            settle(*pending, pending->record.path, *hash);
+    }
+}
+
+void ScreenshotEditRecords::settle(const ScreenshotEditFolder::Pending &pending, const QString &path,
+                                   const QString &hash) const {
     clearTemporary(pending);
     if (hash == pending.record.fingerprint) {
         // The screenshot was replaced, only the record was not written any more.

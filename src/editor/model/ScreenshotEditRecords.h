@@ -27,9 +27,11 @@ public:
     // What belongs to the file of this path, these facts and this content (SHA-256, lower-case hexadecimal).
     // Errors: ScreenshotEditError.
     [[nodiscard]] Result<Match> match(const QString &path, const FileFacts &facts, const QString &hash) const;
-    // Brings the record of a save that was interrupted to match the screenshot there, without a path those of
-    // all screenshots.
-    void settlePending(const std::optional<QString> &path) const;
+    // Brings the record of a save that was interrupted to match the screenshot at this path with this
+    // content.
+    void settlePending(const QString &path, const QString &hash) const;
+    // The same for all screenshots that are where they were.
+    void settleEveryPending() const;
     // The record with what is to be told of the file that was just written there.
     [[nodiscard]] Record finished(Record record, const QString &path) const;
 
@@ -43,7 +45,7 @@ private:
                                const QString &path, const FileFacts &facts) const;
     [[nodiscard]] QString fileOf(const Record &record) const;
     [[nodiscard]] std::optional<QString> hashOf(const QString &path) const;
-    void settle(const ScreenshotEditFolder::Pending &pending) const;
+    void settle(const ScreenshotEditFolder::Pending &pending, const QString &path, const QString &hash) const;
     void clearTemporary(const ScreenshotEditFolder::Pending &pending) const;
 
     const ScreenshotEditFolder &m_folder;

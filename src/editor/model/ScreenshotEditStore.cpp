@@ -82,7 +82,7 @@ Result<ScreenshotEditLoaded> ScreenshotEditStore::load(const QString &path,
     if (!header || !header->isSingleImage)
         return editFailure(Code::unsupportedType);
     const QString hash = sha256Hex(*bytes);
-    m_records.settlePending(path);
+    m_records.settlePending(path, hash);
     auto match = m_records.match(path, *facts, hash);
     if (!match)
         return failure(match.error());
@@ -130,7 +130,7 @@ Result<ScreenshotEditSaved> ScreenshotEditStore::save(const Loaded &loaded,
     if (!bytes)
         return failure(bytes.error());
 
-    const QString path = currentPath(loaded);
+    const QString path = whereItIs(loaded).path;
     const QString temporary =
         QFileInfo(path).path() + u'/' + ScreenshotEditFolder::temporaryPrefix + newId() + extensionOf(path);
     Record record = loaded.record;
@@ -157,10 +157,11 @@ Result<ScreenshotEditSaved> ScreenshotEditStore::save(const Loaded &loaded,
                  .loaded = reloaded(loaded, record, path)};
 }
 
-QString ScreenshotEditStore::currentPath(const Loaded &loaded) const {
-    if (m_services.files.facts(loaded.path) || !loaded.reference)
-        return loaded.path;
-    return loaded.reference->path().value_or(loaded.path);
+// A file that was moved since is followed; what took its place is for whoever writes to notice.
+ScreenshotEditLoaded ScreenshotEditStore::whereItIs(Loaded loaded) const {
+    if (loaded.reference && !m_services.files.facts(loaded.path))
+        loaded.path = loaded.reference->path().value_or(loaded.path);
+    return loaded;
 }
 
 Result<void> ScreenshotEditStore::replace(const Loaded &loaded, const QString &path, const QString &temporary,
@@ -202,28 +203,30 @@ bool ScreenshotEditStore::isNameCollision(const Error &error) {
 
 Result<ScreenshotEditLoaded> ScreenshotEditStore::rename(const Loaded &loaded, const QString &name) {
     const std::lock_guard lock(m_mutex);
-    return renamedPath(loaded, name).and_then([&](const QString &target) { return moveTo(loaded, target); });
+    const Loaded found = whereItIs(loaded);
+    return renamedPath(found, name).and_then([&](const QString &target) { return moveTo(found, target); });
 }
 
 Result<ScreenshotEditLoaded> ScreenshotEditStore::renameKeepingBoth(const Loaded &loaded,
                                                                     const QString &name) {
     const std::lock_guard lock(m_mutex);
-    const auto wanted = renamedPath(loaded, name);
+    const Loaded found = whereItIs(loaded);
+    const auto wanted = renamedPath(found, name);
     if (!wanted)
         return failure(wanted.error());
-    const QString extension = extensionOf(loaded.path);
+    const QString extension = extensionOf(found.path);
     const QString stem = wanted->chopped(extension.size()) + QStringLiteral(" copy");
-    auto renamed = moveTo(loaded, stem + extension);
+    auto renamed = moveTo(found, stem + extension);
     for (int number = 1; !renamed && isNameCollision(renamed.error()); ++number)
-        renamed = moveTo(loaded, QStringLiteral("%1 %2").arg(stem).arg(number) + extension);
+        renamed = moveTo(found, QStringLiteral("%1 %2").arg(stem).arg(number) + extension);
     return renamed;
 }
 
 Result<ScreenshotEditLoaded> ScreenshotEditStore::moveTo(const Loaded &loaded, const QString &target) {
-    const QString path = currentPath(loaded);
-    if (path == target)
+    if (loaded.path == target)
         return loaded;
-    const auto moved = m_services.coordinator.moveIfUnchanged(path, target, contentOf(loaded.expectedHash));
+    const auto moved =
+        m_services.coordinator.moveIfUnchanged(loaded.path, target, contentOf(loaded.expectedHash));
     if (!moved && isCode(moved.error(), FileCoordinator::exists))
         return cocoaFailure(
             CocoaError::fileWriteFileExists,
@@ -232,7 +235,7 @@ Result<ScreenshotEditLoaded> ScreenshotEditStore::moveTo(const Loaded &loaded, c
     if (!moved)
         return tellsOfChange(moved.error()) ? editFailure(Code::changedBeforeRenaming)
                                             : failure(moved.error());
-    m_services.thumbnails.forget(path);
+    m_services.thumbnails.forget(loaded.path);
     Record record = loaded.record;
     record.path = target;
     if (const auto bookmark = m_services.bookmarks.create(target))
@@ -248,7 +251,7 @@ void ScreenshotEditStore::loadBadges(std::function<void()> completion) {
         m_services.queue, m_services.scheduler, m_generation.ticket(),
         [this] {
             const std::lock_guard lock(m_mutex);
-            m_records.settlePending(std::nullopt);
+            m_records.settleEveryPending();
             return m_records.revisions();
         },
         [this, completion = std::move(completion)](const QHash<ScreenshotFileIdentity, QString> &revisions) {

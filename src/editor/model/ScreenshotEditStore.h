@@ -68,8 +68,7 @@ public:
 private:
     using Badges = QHash<ScreenshotFileIdentity, QString>;
 
-    // Where the file is now.
-    [[nodiscard]] QString currentPath(const Loaded &loaded) const;
+    [[nodiscard]] Loaded whereItIs(Loaded loaded) const;
     [[nodiscard]] Result<void> replace(const Loaded &loaded, const QString &path, const QString &temporary,
                                        const QByteArray &bytes) const;
     [[nodiscard]] Loaded reloaded(Loaded loaded, const Record &record, const QString &path) const;
