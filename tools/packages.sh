@@ -24,7 +24,7 @@ desktop_packages=(
 fuzz_packages=(clang-16 libclang-rt-16-dev llvm-16)
 
 # What other programs are measured against.
-bench_packages=(libgdk-pixbuf2.0-bin ffmpegthumbnailer)
+bench_packages=(libgdk-pixbuf2.0-bin ffmpegthumbnailer libopencv-imgproc-dev)
 
 # Installs those of the named packages that are missing, with sudo where needed.
 install_missing() {

@@ -9,8 +9,9 @@
 namespace tembra {
 
 // Reduces a picture that comes row by row: every pixel of the result is the average of the area that it
-// stands for, the pixels on its border counted by the share that lies inside. Exact; needs memory for a few
-// rows only. Neither side of the source may be shorter than the target's or longer than 65,535.
+// stands for, the pixels on its border counted by the share that lies inside, rounded to the nearest.
+// Needs memory for a few rows only. Neither side of the source may be shorter than the target's or longer
+// than 65,535.
 class AreaAverage {
 public:
     AreaAverage(QSize source, QSize target, int channels);
@@ -25,6 +26,17 @@ private:
     void addWhole(const unsigned char *row);
     void mergeWhole();
     void finishRow();
+    template <std::uint32_t channels>
+    void averageColumns();
+
+    // The columns of the source that a column of the target stands for, and how much of the outer two,
+    // as shares of the area that a pixel of the target stands for.
+    struct Column {
+        std::uint32_t first = 0;
+        std::uint32_t last = 0;
+        float firstShare = 0;
+        float lastShare = 0;
+    };
 
     const std::uint32_t m_sourceWidth;
     const std::uint32_t m_sourceHeight;
@@ -38,7 +50,12 @@ private:
     std::vector<std::uint16_t> m_whole;
     std::uint32_t m_wholeRows = 0;
     std::vector<std::uint32_t> m_weighted;
+    std::vector<float> m_sums;
+    std::vector<Column> m_columns;
+    // Of each column between the outer two.
+    float m_wholeShare = 0;
     std::vector<unsigned char> m_result;
+    std::size_t m_resultSize = 0;
 };
 
 } // namespace tembra

@@ -1,5 +1,7 @@
 #include "imaging/DeflateEnd.h"
 
+#include "imaging/HuffmanCode.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -11,7 +13,6 @@ namespace tembra {
 
 namespace {
 
-constexpr unsigned longestCode = 15;
 constexpr std::size_t literalCodes = 288;
 constexpr std::size_t distanceCodes = 32;
 
@@ -80,15 +81,8 @@ public:
     };
 
     void build(std::span<const unsigned char> lengths, Symbol (*symbolOf)(std::size_t)) {
-        std::array<unsigned, longestCode + 1> next{};
-        unsigned longest = 1;
-        for (const unsigned char length : lengths)
-            longest = std::max<unsigned>(longest, length);
-        unsigned code = 0;
-        for (unsigned length = 1; length <= longest; ++length) {
-            next[length] = code;
-            code = (code + static_cast<unsigned>(std::ranges::count(lengths, length))) << 1;
-        }
+        const auto codes = huffmanCodes(lengths);
+        const unsigned longest = std::max<unsigned>(1, std::ranges::max(lengths));
         m_entries.assign(std::size_t{1} << longest, {});
         for (std::size_t symbol = 0; symbol < lengths.size(); ++symbol) {
             const unsigned length = lengths[symbol];
@@ -96,8 +90,7 @@ public:
                 continue;
             const Symbol meaning = symbolOf(symbol);
             const Entry entry{static_cast<unsigned char>(length + meaning.extraBits), meaning.meaning};
-            for (std::size_t i = reversed(next[length]++, length); i < m_entries.size();
-                 i += std::size_t{1} << length)
+            for (std::size_t i = codes[symbol]; i < m_entries.size(); i += std::size_t{1} << length)
                 m_entries[i] = entry;
         }
     }
@@ -105,13 +98,6 @@ public:
     [[nodiscard]] Entry find(std::uint64_t bits) const { return m_entries[bits & (m_entries.size() - 1)]; }
 
 private:
-    static std::size_t reversed(unsigned code, unsigned length) {
-        std::size_t result = 0;
-        for (unsigned bit = 0; bit < length; ++bit)
-            result |= static_cast<std::size_t>(code >> bit & 1) << (length - 1 - bit);
-        return result;
-    }
-
     std::vector<Entry> m_entries;
 };
 

@@ -1,6 +1,7 @@
 #include "imaging/DeflateHalves.h"
 
 #include "imaging/DeflateEnd.h"
+#include "imaging/DeflateRuns.h"
 #include "imaging/InHalves.h"
 #include "imaging/PageBuffer.h"
 
@@ -42,14 +43,16 @@ std::uint32_t joinedChecksum(std::uint32_t first, std::uint32_t second, std::siz
     return static_cast<std::uint32_t>(high << 16 | low);
 }
 
-bool deflate(Half &half, int level) {
-    const std::unique_ptr<libdeflate_compressor, Release> compressor(libdeflate_alloc_compressor(level));
-    if (!compressor)
-        return false;
-    half.checksum = libdeflate_adler32(1, half.data.data(), half.data.size());
-    half.compressed = libdeflate_deflate_compress(compressor.get(), half.data.data(), half.data.size(),
-                                                  half.room.data(), half.room.size());
-    return half.compressed > 0;
+std::size_t boundOf(std::size_t size, bool isOfDifferences) {
+    return isOfDifferences ? deflateRunsBound(size) : libdeflate_deflate_compress_bound(nullptr, size);
+}
+
+std::size_t deflate(const Half &half) {
+    constexpr int usualLevel = 6;
+    const std::unique_ptr<libdeflate_compressor, Release> compressor(libdeflate_alloc_compressor(usualLevel));
+    return compressor ? libdeflate_deflate_compress(compressor.get(), half.data.data(), half.data.size(),
+                                                    half.room.data(), half.room.size())
+                      : 0;
 }
 
 // Has the stream end with an empty block that is not the last and ends on a whole byte, so that others can
@@ -73,7 +76,7 @@ std::optional<DeflateHalves::Stream> DeflateHalves::compress(PageBuffer &memory)
     std::array<Half, 2> halves;
     std::array<std::size_t, 2> bounds{};
     for (std::size_t i = 0; i < 2; ++i)
-        bounds[i] = libdeflate_deflate_compress_bound(nullptr, sizes[i]) + joinBytes;
+        bounds[i] = boundOf(sizes[i], isOfDifferences) + joinBytes;
     const Bytes all = memory.take(frontBytes + bounds[0] + bounds[1] + sizes[0] + sizes[1]);
     if (all.empty())
         return std::nullopt;
@@ -81,9 +84,12 @@ std::optional<DeflateHalves::Stream> DeflateHalves::compress(PageBuffer &memory)
     halves[0] = {data.first(sizes[0]), all.subspan(frontBytes, bounds[0])};
     halves[1] = {data.last(sizes[1]), all.subspan(frontBytes + bounds[0], bounds[1])};
     inHalves([&](std::size_t i) {
-        make(i, halves[i].data);
-        if (deflate(halves[i], level) && i == 0)
-            halves[i].compressed = open(halves[i].room, halves[i].compressed);
+        Half &half = halves[i];
+        make(i, half.data);
+        half.checksum = libdeflate_adler32(1, half.data.data(), half.data.size());
+        half.compressed = isOfDifferences ? deflateRuns(half.data, i == 1, half.room) : deflate(half);
+        if (i == 0 && !isOfDifferences)
+            half.compressed = open(half.room, half.compressed);
     });
     if (halves[0].compressed == 0 || halves[1].compressed == 0)
         return std::nullopt;

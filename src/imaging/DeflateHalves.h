@@ -15,8 +15,8 @@ class PageBuffer;
 // Nothing when there is not enough memory.
 struct DeflateHalves {
     std::array<std::size_t, 2> sizes;
-    // 1 … 9, libdeflate's.
-    int level = 6;
+    // Differences of pixels (DeflateRuns.h), where there is nothing to find but runs.
+    bool isOfDifferences = false;
     std::function<void(std::size_t half, std::span<unsigned char> data)> make;
 
     using Stream = std::array<std::span<const unsigned char>, 2>;

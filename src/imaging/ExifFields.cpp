@@ -146,7 +146,7 @@ QByteArray writeExif(const PictureMetadata &metadata) {
     unsigned char *bytes = nullptr;
     unsigned size = 0;
     exif_data_save_data(data.get(), &bytes, &size);
-    const QByteArray result(reinterpret_cast<const char *>(bytes), static_cast<qsizetype>(size));
+    QByteArray result(reinterpret_cast<const char *>(bytes), static_cast<qsizetype>(size));
     std::free(bytes);
     return result;
 }

@@ -51,16 +51,14 @@ private:
 template <int h>
 void sumRows(const QImage &image, int y, int left, int width, quint16 *sums) {
     std::array<const uchar *, 2 * h - 1> rows;
-    for (int d = 1 - h; d < h; ++d) {
-        const int row = std::clamp(y * h + d, 0, image.height() - 1);
-        rows[static_cast<std::size_t>(d + h - 1)] = image.constScanLine(row) + 4 * qptrdiff{left};
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const int row = std::clamp((y - 1) * h + 1 + static_cast<int>(i), 0, image.height() - 1);
+        rows[i] = image.constScanLine(row) + 4 * qptrdiff{left};
     }
     for (int i = 0; i < 4 * width; ++i) {
         unsigned sum = h * rows[h - 1][i];
-        for (int d = 1; d < h; ++d)
-            sum += static_cast<unsigned>(h - d) *
-                   (static_cast<unsigned>(rows[static_cast<std::size_t>(h - 1 - d)][i]) +
-                    rows[static_cast<std::size_t>(h - 1 + d)][i]);
+        for (unsigned d = 1; d < h; ++d)
+            sum += (h - d) * (unsigned{rows[h - 1 - d][i]} + rows[h - 1 + d][i]);
         sums[i] = static_cast<quint16>(sum);
     }
 }
@@ -133,9 +131,11 @@ void blurColumns(const std::vector<const Sample *> &rows, quint16 *target, int c
             for (int i = 0; i < block; ++i)
                 sums[i].channels += taps[t] * (above[i].channels + below[i].channels);
         }
+        constexpr float half = 0.5F;
         for (int i = 0; i < block; ++i) {
+            sums[i].channels += half;
             for (int c = 0; c < 4; ++c)
-                target[4 * (x + i) + c] = static_cast<quint16>(static_cast<int>(sums[i].channels[c] + 0.5F));
+                target[4 * (x + i) + c] = static_cast<quint16>(static_cast<int>(sums[i].channels[c]));
         }
     };
     int x = 0;
@@ -147,10 +147,10 @@ void blurColumns(const std::vector<const Sample *> &rows, quint16 *target, int c
 
 // Finds the pixels between samples again: first those between two rows of them, then those in the row.
 template <int h>
-void enlargeRow(const quint16 *above, const quint16 *below, int share, int count, quint16 *between,
+void enlargeRow(const quint16 *above, const quint16 *below, int shareBelow, int count, quint16 *between,
                 uchar *pixels) {
     for (int i = 0; i < 4 * count; ++i)
-        between[i] = static_cast<quint16>((above[i] * (h - share) + below[i] * share) / h);
+        between[i] = static_cast<quint16>((above[i] * (h - shareBelow) + below[i] * shareBelow) / h);
     for (int s = 0; s + 1 < count; ++s) {
         if constexpr (h == 1) {
             for (int c = 0; c < 4; ++c)
@@ -162,9 +162,9 @@ void enlargeRow(const quint16 *above, const quint16 *below, int share, int count
             std::memcpy(&both, between + 4 * s, sizeof both);
             const Words here = __builtin_shufflevector(both, both, 0, 1, 2, 3, 0, 1, 2, 3);
             const Words next = __builtin_shufflevector(both, both, 4, 5, 6, 7, 4, 5, 6, 7);
-            for (quint16 p = 0; p < h; p += 2) {
-                const quint16 q = p + 1;
-                const Words shares{p, p, p, p, q, q, q, q};
+            for (int p = 0; p < h; p += 2) {
+                const auto share = static_cast<quint16>(p);
+                const Words shares = share + Words{0, 0, 0, 0, 1, 1, 1, 1};
                 const Words levels = (here * (whole - shares) + next * shares + half) >> 8;
                 const EightBytes bytes = __builtin_convertvector(levels, EightBytes);
                 std::memcpy(pixels + 4 * (qptrdiff{s} * h + p), &bytes, sizeof bytes);
@@ -180,10 +180,11 @@ QRect samplesAround(QRect area) {
                  QPoint(area.right() / h + 1, area.bottom() / h + 1));
 }
 
+// Blurs an area into lines of bytes, of which the first is the area's first.
 template <int h>
 class Blur {
 public:
-    Blur(const QImage &image, QRect area, double sigma)
+    Blur(const QImage &image, QRect area, double sigma, uchar *result, qsizetype bytesPerLine)
         // A level is 2^8 / h to begin with, so that it is 2^8 after the last sum.
         : m_image(image),
           m_area(area),
@@ -192,18 +193,15 @@ public:
           m_radius(static_cast<int>(m_taps.size()) - 1),
           m_needed(samplesAround<h>(area)),
           m_rows(m_needed.adjusted(0, -m_radius, 0, m_radius)),
-          m_result(area.size(), image.format()) {
+          m_result(result),
+          m_bytesPerLine(bytesPerLine) {
         for (float &tap : m_rowTaps)
             tap *= 256.0F / h / (h * h) / (h * h);
     }
 
-    QImage run() {
-        if (m_result.isNull())
-            return {};
-        m_result.bits();
+    void run() {
         inHalves([this](int half) { reduce(half); });
         inHalves([this](int half) { enlarge(half); });
-        return m_result;
     }
 
 private:
@@ -247,7 +245,7 @@ private:
             if (y == first || y % h == 0)
                 blurSamples(y / h + 1, below);
             enlargeRow<h>(above.data(), below.data(), y % h, count, between.data(), pixels.data());
-            std::memcpy(m_result.scanLine(y - m_area.top()), pixels.data() + 4 * qptrdiff{skipped},
+            std::memcpy(m_result + (y - m_area.top()) * m_bytesPerLine, pixels.data() + 4 * qptrdiff{skipped},
                         4 * static_cast<std::size_t>(m_area.width()));
         }
     }
@@ -266,8 +264,26 @@ private:
     const int m_radius;
     const QRect m_needed;
     Plane<Sample> m_rows;
-    QImage m_result;
+    uchar *const m_result;
+    const qsizetype m_bytesPerLine;
 };
+
+// In bands, so that the samples at hand do not take more memory than the image.
+template <int h>
+QImage blurred(const QImage &image, QRect area, double sigma) {
+    constexpr qint64 mostPixels = (qint64{2} << 20) * h * h;
+    constexpr qint64 fewestRows = 256;
+    QImage result(area.size(), image.format());
+    if (result.isNull())
+        return {};
+    uchar *bits = result.bits();
+    const auto rows = static_cast<int>(std::max(fewestRows, mostPixels / area.width()));
+    for (int y = 0; y < area.height(); y += rows) {
+        const QRect band(area.left(), area.top() + y, area.width(), std::min(rows, area.height() - y));
+        Blur<h>(image, band, sigma, bits + y * result.bytesPerLine(), result.bytesPerLine()).run();
+    }
+    return result;
+}
 
 } // namespace
 
@@ -286,12 +302,12 @@ QImage gaussianBlurred(const QImage &image, QRect area, double sigma) {
         return source.copy(area);
     sigma = std::min(sigma, widest);
     if (sigma < 8)
-        return Blur<1>(source, area, sigma).run();
+        return blurred<1>(source, area, sigma);
     if (sigma < 16)
-        return Blur<2>(source, area, sigma).run();
+        return blurred<2>(source, area, sigma);
     if (sigma < 64)
-        return Blur<4>(source, area, sigma).run();
-    return Blur<16>(source, area, sigma).run();
+        return blurred<4>(source, area, sigma);
+    return blurred<16>(source, area, sigma);
 }
 
 } // namespace tembra

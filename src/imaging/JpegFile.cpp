@@ -104,7 +104,7 @@ private:
     void acceptDensity(std::string_view data) {
         if (data.size() < 12)
             return;
-        const int unit = data[7];
+        const int unit = byte(data, 7);
         const int across = number(data, 8);
         const int down = number(data, 10);
         if ((unit != 1 && unit != 2) || across == 0 || down == 0)

@@ -23,7 +23,7 @@ namespace {
 
 constexpr int unreduced = std::numeric_limits<int>::max();
 // What is kept for the next picture.
-constexpr std::size_t mostKeptBytes = std::size_t{64} << 20;
+constexpr std::size_t mostKeptBytes = std::size_t{32} << 20;
 
 // The size at which no side is longer than the given one.
 QSize reducedSize(QSize size, int side) {

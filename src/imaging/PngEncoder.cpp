@@ -15,7 +15,7 @@ namespace tembra {
 namespace {
 
 // What is kept for the next picture.
-constexpr std::size_t mostKeptBytes = std::size_t{64} << 20;
+constexpr std::size_t mostKeptBytes = std::size_t{32} << 20;
 
 QByteArray number(quint32 value) {
     QByteArray bytes(4, Qt::Uninitialized);
@@ -57,7 +57,7 @@ std::optional<DeflateHalves::Stream> deflated(const PngRowFilter &filter, PageBu
     DeflateHalves halves;
     halves.sizes = {filter.stride() * static_cast<std::size_t>(middle),
                     filter.stride() * static_cast<std::size_t>(filter.height() - middle)};
-    halves.level = filter.looksLikePhotograph() ? 1 : 6;
+    halves.isOfDifferences = filter.looksLikePhotograph();
     halves.make = [&](std::size_t half, std::span<unsigned char> rows) {
         filter.write(half == 0 ? 0 : middle, rows);
     };

@@ -4,6 +4,9 @@
 
 #include <algorithm>
 #include <array>
+#include <condition_variable>
+#include <mutex>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -15,6 +18,44 @@ unsigned char scaled(unsigned value, unsigned alpha) {
     const unsigned product = value * alpha;
     return static_cast<unsigned char>((product + (product >> 8) + 0x80) >> 8);
 }
+
+// How many rows one thread is done with, for another that follows it.
+class RowProgress {
+public:
+    void advance(std::size_t rows) {
+        // Waking for each row would cost more than the row.
+        constexpr std::size_t batch = 32;
+        if (rows % batch == 0)
+            publish(rows, false);
+        m_reached = rows;
+    }
+    void end() { publish(m_reached, true); }
+    // Whether there is such a row; waits while that is not known.
+    [[nodiscard]] bool awaitRow(std::size_t row) {
+        if (row < m_known)
+            return true;
+        std::unique_lock lock(m_mutex);
+        m_changed.wait(lock, [&] { return row < m_published || m_hasEnded; });
+        m_known = m_published;
+        return row < m_known;
+    }
+
+private:
+    void publish(std::size_t rows, bool hasEnded) {
+        const std::scoped_lock lock(m_mutex);
+        m_published = rows;
+        m_hasEnded = hasEnded;
+        m_changed.notify_one();
+    }
+
+    std::mutex m_mutex;
+    std::condition_variable m_changed;
+    std::size_t m_published = 0;
+    bool m_hasEnded = false;
+    // Of the thread that goes ahead, and of the one that follows.
+    std::size_t m_reached = 0;
+    std::size_t m_known = 0;
+};
 
 // Turns rows as the file has them into rows that can be averaged.
 class RowPreparer {
@@ -88,27 +129,33 @@ private:
     bool m_isTransparent = false;
 };
 
-QRgb pixel(const unsigned char *channel, int channels) {
-    switch (channels) {
-    case 1:
+template <int channels>
+QRgb pixel(const unsigned char *channel) {
+    if constexpr (channels == 1)
         return qRgb(channel[0], channel[0], channel[0]);
-    case 2:
+    else if constexpr (channels == 2)
         return qRgba(channel[0], channel[0], channel[0], channel[1]);
-    case 3:
+    else if constexpr (channels == 3)
         return qRgb(channel[0], channel[1], channel[2]);
-    default:
+    else
         return qRgba(channel[0], channel[1], channel[2], channel[3]);
+}
+
+template <int channels>
+void fill(QImage &image, const unsigned char *channel) {
+    const int width = image.width();
+    for (int y = 0; y < image.height(); ++y) {
+        auto *line = reinterpret_cast<QRgb *>(image.scanLine(y));
+        for (int x = 0; x < width; ++x, channel += channels)
+            line[x] = pixel<channels>(channel);
     }
 }
 
 QImage toImage(std::span<const unsigned char> averages, QSize size, int channels, bool isTransparent) {
+    constexpr std::array fillers{fill<1>, fill<2>, fill<3>, fill<4>};
     QImage image(size, isTransparent ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
-    const unsigned char *channel = averages.data();
-    for (int y = 0; y < image.height(); ++y) {
-        auto *line = reinterpret_cast<QRgb *>(image.scanLine(y));
-        for (int x = 0; x < image.width(); ++x, channel += channels)
-            line[x] = pixel(channel, channels);
-    }
+    if (!image.isNull())
+        fillers[static_cast<std::size_t>(channels - 1)](image, averages.data());
     return isTransparent ? std::move(image).convertToFormat(QImage::Format_ARGB32) : image;
 }
 
@@ -119,17 +166,30 @@ std::optional<QImage> reducedImageOfRows(const PngFile &file, std::span<unsigned
     const std::vector<unsigned char> zeros(stride);
     RowPreparer preparer(file);
     AreaAverage averages(file.head.size, target, preparer.channels());
+    bool isSound = true;
+    // Rows are averaged on a thread of their own while the next are undone.
+    RowProgress undone;
+    std::thread averaging([&] {
+        for (std::size_t row = 0; undone.awaitRow(row); ++row) {
+            const unsigned char *prepared = preparer.prepare(rows.data() + row * stride + 1);
+            isSound = isSound && prepared;
+            if (isSound)
+                averages.add(prepared);
+        }
+    });
     const unsigned char *above = zeros.data();
-    for (std::size_t offset = 0; offset < rows.size(); offset += stride) {
-        unsigned char *row = rows.data() + offset;
-        if (!undoPngFilter(row, above, stride - 1, file.head.channels()))
-            return std::nullopt;
+    std::size_t count = 0;
+    bool isUndone = true;
+    for (; isUndone && count * stride < rows.size(); ++count) {
+        unsigned char *row = rows.data() + count * stride;
+        isUndone = undoPngFilter(row, above, stride - 1, file.head.channels());
         above = row + 1;
-        const unsigned char *prepared = preparer.prepare(above);
-        if (!prepared)
-            return std::nullopt;
-        averages.add(prepared);
+        undone.advance(count + (isUndone ? 1 : 0));
     }
+    undone.end();
+    averaging.join();
+    if (!isUndone || !isSound)
+        return std::nullopt;
     return toImage(averages.result(), target, preparer.channels(), preparer.isTransparent());
 }
 

@@ -14,6 +14,11 @@ namespace {
 
 using Byte = unsigned char;
 
+// Of a picture's pixels. Drawn ones have text, and gradients that change in one direction only.
+constexpr double mostlyUneven = 0.5;
+constexpr double hardlyUneven = 0.08;
+constexpr double unevenRow = 0.2;
+
 bool isOpaque(const QImage &image) {
     if (!image.hasAlphaChannel())
         return true;
@@ -28,20 +33,25 @@ bool isOpaque(const QImage &image) {
     return true;
 }
 
-// Whether most pixels of a sample of rows differ from all their neighbours.
-bool isMostlyUneven(const QImage &image) {
+// The share of a row's pixels that differ from both the left and the upper neighbour.
+double unevenness(const QImage &image, int y) {
+    const auto *above = reinterpret_cast<const QRgb *>(image.constScanLine(std::max(0, y - 1)));
+    const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
+    int uneven = 0;
+    for (int x = 1; x < image.width(); ++x)
+        uneven += line[x] != line[x - 1] && line[x] != above[x] ? 1 : 0;
+    return static_cast<double>(uneven) / image.width();
+}
+
+// The same of a sample of rows.
+double unevenness(const QImage &image) {
     constexpr int sampledRows = 64;
     const int step = std::max(1, image.height() / sampledRows);
-    qint64 uneven = 0;
-    qint64 count = 0;
-    for (int y = 1; y < image.height(); y += step) {
-        const auto *above = reinterpret_cast<const QRgb *>(image.constScanLine(y - 1));
-        const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
-        for (int x = 1; x < image.width(); ++x)
-            uneven += line[x] != line[x - 1] && line[x] != above[x] ? 1 : 0;
-        count += image.width() - 1;
-    }
-    return 2 * uneven > count;
+    double sum = 0;
+    int count = 0;
+    for (int y = 1; y < image.height(); y += step, ++count)
+        sum += unevenness(image, y);
+    return sum / std::max(1, count);
 }
 
 void pack(const QRgb *line, int width, int channels, Byte *row) {
@@ -115,30 +125,33 @@ PngRowFilter::PngRowFilter(const QImage &image) : m_image(image) {
     if (!isFit)
         m_image.convertTo(image.hasAlphaChannel() ? QImage::Format_ARGB32 : QImage::Format_RGB32);
     m_channels = isOpaque(m_image) ? 3 : 4;
-    m_looksLikePhotograph = isMostlyUneven(m_image);
+    const double uneven = unevenness(m_image);
+    m_looksLikePhotograph = uneven > mostlyUneven;
+    m_looksDrawn = uneven < hardlyUneven;
 }
 
 void PngRowFilter::write(int first, std::span<unsigned char> rows) const {
     const auto line = [this](int y) { return reinterpret_cast<const QRgb *>(m_image.constScanLine(y)); };
     const int width = m_image.width();
-    if (!m_looksLikePhotograph) {
-        for (int y = first; !rows.empty(); ++y, rows = rows.subspan(stride())) {
-            rows.front() = 0;
-            pack(line(y), width, m_channels, rows.data() + 1);
-        }
-        return;
-    }
     const auto pixel = static_cast<std::size_t>(m_channels);
     std::vector<Byte> above(pixel + stride());
     std::vector<Byte> row(above.size());
     Differences differences(stride() - 1, pixel);
-    if (first > 0)
-        pack(line(first - 1), width, m_channels, above.data() + pixel);
     for (int y = first; !rows.empty(); ++y, rows = rows.subspan(stride())) {
+        if (!isMadeDifferences(y)) {
+            rows.front() = 0;
+            pack(line(y), width, m_channels, rows.data() + 1);
+            continue;
+        }
+        if (y > 0)
+            pack(line(y - 1), width, m_channels, above.data() + pixel);
         pack(line(y), width, m_channels, row.data() + pixel);
         differences.write(row.data() + pixel, above.data() + pixel, rows.data());
-        row.swap(above);
     }
+}
+
+bool PngRowFilter::isMadeDifferences(int y) const {
+    return m_looksLikePhotograph || (!m_looksDrawn && unevenness(m_image, y) > unevenRow);
 }
 
 } // namespace tembra

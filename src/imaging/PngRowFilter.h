@@ -24,9 +24,12 @@ public:
     void write(int first, std::span<unsigned char> rows) const;
 
 private:
+    [[nodiscard]] bool isMadeDifferences(int y) const;
+
     QImage m_image;
     int m_channels = 3;
     bool m_looksLikePhotograph = false;
+    bool m_looksDrawn = false;
 };
 
 } // namespace tembra

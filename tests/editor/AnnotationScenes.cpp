@@ -1,6 +1,6 @@
 #include "AnnotationScenes.h"
 
-#include "Annotations.h"
+#include "DrawnAnnotations.h"
 #include "editor/model/AnnotationPainter.h"
 
 #include <QPainter>
@@ -16,11 +16,11 @@ using Background = AnnotationScene::Background;
 
 // Light and dark, plain and busy: everything that a mark may be lost on.
 QColor photoColor(int x, int y) {
-    const int cellX = x / 6;
-    const int cellY = y / 6;
+    const int cellX = x / 18;
+    const int cellY = y / 18;
     const int grain = (cellX * 7 + cellY * 13 + cellX * cellY * 3) % 11 * 9;
-    return QColor::fromHsv((cellX * 9 + cellY * 5) % 360, 90 + grain,
-                           std::min(255, 40 + cellX * 7 + grain / 2));
+    return QColor::fromHsv((cellX * 27 + cellY * 14) % 360, 90 + grain,
+                           std::min(255, 40 + cellX * 20 + grain / 2));
 }
 
 QColor backgroundColor(Background background, int x, int y) {
@@ -137,7 +137,7 @@ std::vector<AnnotationScene> annotationScenes() {
         {"overlapping-translucent", size, Background::photo, overlapping(), {}},
         {"shapes", size, Background::white, shapes(), {}},
         {"texts", {220, 180}, Background::photo, texts(), {}},
-        {"scripts", {200, 110}, Background::white, scripts(), u"שم"_s},
+        {"scripts", {200, 110}, Background::white, scripts(), u"DejaVu Sans"_s},
         {"badges-on-white", {200, 110}, Background::white, badges(), {}},
         {"badges-on-photo", {200, 110}, Background::photo, badges(), {}},
     };

@@ -16,8 +16,8 @@ struct AnnotationScene {
     QSize size;
     Background background = Background::white;
     std::vector<ScreenshotAnnotation> annotations;
-    // The characters of a script that the machine's fonts may lack.
-    QString needs;
+    // Where the annotations' own type lacks the script: the typeface that takes its place in the picture.
+    QString family;
 };
 
 [[nodiscard]] std::vector<AnnotationScene> annotationScenes();

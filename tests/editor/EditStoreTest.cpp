@@ -5,8 +5,8 @@
 #include "support/Annotations.h"
 #include "support/Files.h"
 #include "support/Pictures.h"
+#include "support/Pixels.h"
 
-#include <QColorSpace>
 #include <QDir>
 #include <QFileInfo>
 #include <QTemporaryDir>
@@ -24,12 +24,6 @@ using Kind = ScreenshotAnnotation::Kind;
 QByteArray contentOf(const QString &path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-QImage pixelsOf(const QByteArray &bytes) {
-    QImage image = QImage::fromData(bytes).convertToFormat(QImage::Format_ARGB32);
-    image.setColorSpace({});
-    return image;
 }
 
 int modeOf(const QString &path) {

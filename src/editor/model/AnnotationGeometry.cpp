@@ -1,11 +1,7 @@
-#include "editor/model/AnnotationText.h"
-#include "editor/model/ArrowShape.h"
-#include "editor/model/HaloWidth.h"
+#include "editor/model/AnnotationOutline.h"
 #include "editor/model/NumberBadge.h"
-#include "editor/model/PencilStroke.h"
 #include "editor/model/RectHandles.h"
 #include "editor/model/ScreenshotAnnotation.h"
-#include "editor/model/ShapeOutline.h"
 
 #include <QLineF>
 
@@ -17,26 +13,6 @@ namespace tembra {
 namespace {
 
 using Kind = ScreenshotAnnotation::Kind;
-
-ArrowShape arrowShape(const ScreenshotAnnotation &arrow) {
-    std::optional<QPointF> bend;
-    if (arrow.bendPoint)
-        bend = arrow.bendPoint->toPointF();
-    return {.start = arrow.points[0].toPointF(),
-            .end = arrow.points[1].toPointF(),
-            .bend = bend,
-            .width = arrow.width};
-}
-
-QPainterPath rectanglePath(const ScreenshotAnnotation &shape) {
-    return shape.filled.value_or(false) ? shapeOutline::filledRectangle(shape.shapeRect(), shape.width)
-                                        : shapeOutline::outlinedRectangle(shape.shapeRect(), shape.width);
-}
-
-QPainterPath ellipsePath(const ScreenshotAnnotation &shape) {
-    return shape.filled.value_or(false) ? shapeOutline::filledEllipse(shape.shapeRect())
-                                        : shapeOutline::outlinedEllipse(shape.shapeRect(), shape.width);
-}
 
 double distance(QPointF point, const QLineF &edge) {
     const QPointF along(edge.dx(), edge.dy());
@@ -71,24 +47,6 @@ QRectF movedInto(QRectF rect, const QRectF &limits) {
 }
 
 } // namespace
-
-double haloWidth(const ScreenshotAnnotation &annotation) {
-    switch (annotation.kind) {
-    case Kind::blur:
-        return 0;
-    case Kind::text:
-        return std::max(1.0, annotation.text->fontSize * 0.07);
-    case Kind::number:
-        return std::max(1.0, annotation.number->diameter * 0.03);
-    case Kind::arrow:
-    case Kind::pencil:
-    case Kind::line:
-    case Kind::rectangle:
-    case Kind::ellipse:
-        return std::clamp(annotation.width * 0.2, 1.0, 12.0);
-    }
-    Q_UNREACHABLE();
-}
 
 QRectF ScreenshotAnnotation::bounds() const {
     const QPainterPath outline = path();
@@ -137,7 +95,9 @@ std::vector<QPointF> ScreenshotAnnotation::arrowEditingPoints() const {
 }
 
 QPointF ScreenshotAnnotation::arrowMidpoint() const {
-    return kind == Kind::arrow && points.size() >= 2 ? arrowShape(*this).middle() : QPointF();
+    if (kind != Kind::arrow || points.size() < 2)
+        return {};
+    return bendPoint ? bendPoint->toPointF() : (points[0].toPointF() + points[1].toPointF()) / 2;
 }
 
 QRectF ScreenshotAnnotation::shapeRect() const {
@@ -147,30 +107,7 @@ QRectF ScreenshotAnnotation::shapeRect() const {
 }
 
 QPainterPath ScreenshotAnnotation::path() const {
-    if (!isDrawable())
-        return {};
-    switch (kind) {
-    case Kind::arrow:
-        return arrowShape(*this).outline();
-    case Kind::pencil:
-        return pencilStroke(points, width, pencil);
-    case Kind::line:
-        return shapeOutline::line({points[0].toPointF(), points[1].toPointF()}, width);
-    case Kind::rectangle:
-        return rectanglePath(*this);
-    case Kind::ellipse:
-        return ellipsePath(*this);
-    case Kind::text:
-        return AnnotationText(*text).box(points[0].toPointF());
-    case Kind::number:
-        return NumberBadge::of(*number, points[0].toPointF()).outline();
-    case Kind::blur: {
-        QPainterPath rect;
-        rect.addRect(shapeRect());
-        return rect;
-    }
-    }
-    Q_UNREACHABLE();
+    return isDrawable() ? annotationOutline(*this, 0) : QPainterPath();
 }
 
 ScreenshotAnnotation ScreenshotAnnotation::resizedShape(int handle, QPointF point, bool preservingAspect,

@@ -1,16 +1,13 @@
 #include "editor/model/AnnotationPainter.h"
 
+#include "editor/model/AnnotationOutline.h"
 #include "editor/model/AnnotationText.h"
 #include "editor/model/ContrastColor.h"
-#include "editor/model/HaloWidth.h"
+#include "editor/model/GlyphOutlines.h"
 #include "editor/model/MarkPainting.h"
 #include "editor/model/NumberBadge.h"
 
-#include <QHash>
-#include <QRawFont>
-
-#include <algorithm>
-#include <array>
+#include <QPainterPathStroker>
 
 namespace tembra {
 
@@ -18,58 +15,24 @@ namespace {
 
 using Kind = ScreenshotAnnotation::Kind;
 
-bool hasColorGlyphs(const QRawFont &font) {
-    return std::ranges::any_of(std::array{"CBDT", "COLR", "sbix", "SVG "},
-                               [&](const char *table) { return !font.fontTable(table).isEmpty(); });
+// So few at once that the rasteriser is quick.
+constexpr qsizetype glyphsAtOnce = 120;
+
+QPainterPath edgeOf(const QPainterPath &letters, double width) {
+    QPainterPathStroker stroker;
+    stroker.setWidth(2 * width);
+    stroker.setJoinStyle(Qt::MiterJoin);
+    stroker.setMiterLimit(1.5);
+    return stroker.createStroke(letters);
 }
 
-// Collects the outlines of glyphs, taking each from its font only once; glyphs that bring their own colours
-// have none and are kept apart.
-class GlyphOutlines {
-public:
-    void add(const QGlyphRun &run) {
-        Font &font = known(run.rawFont());
-        if (font.hasColor) {
-            m_colored.push_back(run);
-            return;
-        }
-        const QList<quint32> glyphs = run.glyphIndexes();
-        const QList<QPointF> positions = run.positions();
-        for (qsizetype at = 0; at < glyphs.size(); ++at)
-            m_path.addPath(outline(font, glyphs[at]).translated(positions[at]));
-    }
-    [[nodiscard]] QPainterPath path() const {
-        QPainterPath path = m_path;
-        path.setFillRule(Qt::WindingFill);
-        return path;
-    }
-    [[nodiscard]] const std::vector<QGlyphRun> &colored() const { return m_colored; }
-
-private:
-    struct Font {
-        QRawFont font;
-        bool hasColor = false;
-        QHash<quint32, QPainterPath> outlines;
-    };
-
-    static QPainterPath outline(Font &font, quint32 glyph) {
-        const auto found = font.outlines.constFind(glyph);
-        if (found != font.outlines.cend())
-            return *found;
-        return *font.outlines.insert(glyph, font.font.pathForGlyph(glyph));
-    }
-
-    Font &known(const QRawFont &font) {
-        const auto found = std::ranges::find(m_fonts, font, &Font::font);
-        if (found != m_fonts.end())
-            return *found;
-        return m_fonts.emplace_back(Font{font, hasColorGlyphs(font), {}});
-    }
-
-    std::vector<Font> m_fonts;
-    QPainterPath m_path;
-    std::vector<QGlyphRun> m_colored;
-};
+Mark letterMark(const ScreenshotAnnotation &annotation, const QPainterPath &letters) {
+    return {.shape = letters,
+            .color = annotation.color,
+            .haloWidth = haloWidth(annotation),
+            .haloStrength = 1 - annotation.text->background.a,
+            .grown = [letters](double growth) { return edgeOf(letters, growth); }};
+}
 
 void drawText(const ScreenshotAnnotation &annotation, QPainter &painter) {
     const EditorText &text = *annotation.text;
@@ -80,19 +43,23 @@ void drawText(const ScreenshotAnnotation &annotation, QPainter &painter) {
     if (visible.isEmpty())
         return;
     painter.save();
-    Mark{.shape = layout.box(topLeft), .color = text.background}.draw(painter);
+    Mark{.shape = layout.box(topLeft), .color = text.background, .grown = {}}.draw(painter);
     // Marks may pile up on a letter without end.
     painter.setClipRect(box, Qt::IntersectClip);
-    GlyphOutlines outlines;
-    for (const QGlyphRun &run : layout.glyphRuns(visible.translated(-topLeft)))
-        outlines.add(run);
     QTransform toImage = QTransform::fromTranslate(topLeft.x(), topLeft.y());
     toImage.scale(layout.glyphScale(), layout.glyphScale());
-    Mark{.shape = toImage.map(outlines.path()),
-         .color = annotation.color,
-         .haloWidth = haloWidth(annotation),
-         .haloStrength = 1 - text.background.a}
-        .draw(painter);
+    GlyphOutlines outlines;
+    std::vector<Mark> marks;
+    for (const QGlyphRun &run : layout.glyphRuns(visible.translated(-topLeft))) {
+        outlines.add(run);
+        if (outlines.count() >= glyphsAtOnce)
+            marks.push_back(letterMark(annotation, toImage.map(outlines.take())));
+    }
+    marks.push_back(letterMark(annotation, toImage.map(outlines.take())));
+    for (const Mark &mark : marks)
+        mark.drawHalo(painter);
+    for (const Mark &mark : marks)
+        mark.drawShape(painter);
     painter.setTransform(toImage, true);
     for (const QGlyphRun &run : outlines.colored())
         painter.drawGlyphRun(QPointF(), run);
@@ -101,11 +68,18 @@ void drawText(const ScreenshotAnnotation &annotation, QPainter &painter) {
 
 void drawNumber(const ScreenshotAnnotation &annotation, QPainter &painter) {
     const NumberBadge badge = NumberBadge::of(*annotation.number, annotation.points[0].toPointF());
-    EditorColor contrast = contrasting(annotation.color);
-    contrast.a = annotation.color.a;
-    Mark{.shape = badge.rim(), .color = contrast, .haloWidth = haloWidth(annotation)}.draw(painter);
-    Mark{.shape = badge.outline(), .color = annotation.color}.draw(painter);
-    Mark{.shape = badge.digits, .color = contrast}.draw(painter);
+    const auto asOpaque = [&](EditorColor color) {
+        color.a = annotation.color.a;
+        return color;
+    };
+    Mark{.shape = badge.rim(0),
+         .color = asOpaque(rimColor(annotation.color)),
+         .haloWidth = haloWidth(annotation),
+         .haloStrength = 0.6,
+         .grown = [&](double growth) { return badge.rim(growth); }}
+        .draw(painter);
+    Mark{.shape = badge.outline(), .color = annotation.color, .grown = {}}.draw(painter);
+    Mark{.shape = badge.digits, .color = asOpaque(contrasting(annotation.color))}.draw(painter);
 }
 
 void draw(const ScreenshotAnnotation &annotation, QPainter &painter) {
@@ -123,8 +97,11 @@ void draw(const ScreenshotAnnotation &annotation, QPainter &painter) {
     case Kind::line:
     case Kind::rectangle:
     case Kind::ellipse:
-        Mark{.shape = annotation.path(), .color = annotation.color, .haloWidth = haloWidth(annotation)}.draw(
-            painter);
+        Mark{.shape = annotationOutline(annotation, 0),
+             .color = annotation.color,
+             .haloWidth = haloWidth(annotation),
+             .grown = [&](double growth) { return annotationOutline(annotation, growth); }}
+            .draw(painter);
         return;
     }
 }

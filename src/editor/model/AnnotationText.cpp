@@ -13,6 +13,9 @@ namespace tembra {
 
 namespace {
 
+// Twice the height of the largest picture.
+constexpr double highest = 65'536;
+
 QTextOption wrapping(int pixelSize) {
     QTextOption option(Qt::AlignLeft | Qt::AlignAbsolute);
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
@@ -22,12 +25,16 @@ QTextOption wrapping(int pixelSize) {
 }
 
 // Breaks a paragraph into lines, all at the same place: where they lie is for the box to say.
-void breakLines(QTextLayout &layout, double width) {
+void breakLines(QTextLayout &layout, double width, double height) {
     layout.beginLayout();
-    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+    while (height > 0) {
+        QTextLine line = layout.createLine();
+        if (!line.isValid())
+            break;
         line.setLeadingIncluded(true);
         line.setLineWidth(width);
         line.setPosition(QPointF());
+        height -= line.height();
     }
     layout.endLayout();
 }
@@ -49,8 +56,10 @@ AnnotationText::AnnotationText(EditorText text)
     m_text.string = normalised(m_text.string);
     m_paragraphs = split();
     double y = 0;
-    for (Paragraph &paragraph : m_paragraphs)
-        addLines(paragraph, y);
+    for (Paragraph &paragraph : m_paragraphs) {
+        if (y < highest)
+            addLines(paragraph, y);
+    }
     const double padding = verticalPadding(m_text.fontSize);
     m_size.setHeight(y + 2 * padding);
     align();
@@ -71,7 +80,7 @@ void AnnotationText::addLines(Paragraph &paragraph, double &y) {
     paragraph.firstLine = m_lines.size();
     QTextLayout layout(m_text.string.mid(paragraph.start, paragraph.length), annotationFont(m_pixelSize));
     layout.setTextOption(wrapping(m_pixelSize));
-    breakLines(layout, m_text.maximumWidth / m_scale);
+    breakLines(layout, m_text.maximumWidth / m_scale, (highest - y) / m_scale);
     const bool isRightToLeft = layout.text().isRightToLeft();
     for (int index = 0; index < layout.lineCount(); ++index) {
         const QTextLine line = layout.lineAt(index);
@@ -122,7 +131,8 @@ std::vector<QGlyphRun> AnnotationText::glyphRuns(const QRectF &visible) const {
             continue;
         QTextLayout layout(m_text.string.mid(paragraph.start, paragraph.length), annotationFont(m_pixelSize));
         layout.setTextOption(wrapping(m_pixelSize));
-        breakLines(layout, m_text.maximumWidth / m_scale);
+        breakLines(layout, m_text.maximumWidth / m_scale,
+                   (visible.bottom() - first->rect.top()) / m_scale + m_text.fontSize);
         for (auto line = first; line != end; ++line) {
             if (!isSeen(*line))
                 continue;

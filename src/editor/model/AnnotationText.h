@@ -31,7 +31,8 @@ public:
     [[nodiscard]] static double cornerRadius(double fontSize) { return fontSize * 0.38; }
 
     // Lays out a valid text. Lines end at line breaks and where they would be wider than `maximumWidth`,
-    // which the padding is no part of: between words, and within a word that is wider than that.
+    // which the padding is no part of: between words, and within a word that is wider than that. Of a text
+    // that is higher than any picture the rest is left out.
     explicit AnnotationText(EditorText text);
 
     // Of the box, padding included: no wider than its widest line needs.

@@ -3,6 +3,7 @@
 #include "editor/model/StrokeOutline.h"
 
 #include <QLineF>
+#include <QPainterPathStroker>
 
 #include <algorithm>
 #include <array>
@@ -14,11 +15,12 @@ namespace tembra {
 namespace {
 
 // Lengths in widths of the stroke.
+constexpr double dotRadius = 0.15;
 constexpr double tailRadius = 0.3;
 constexpr double neckRadius = 0.55;
-constexpr double headLength = 3.9;
+constexpr double headLength = 3.7;
 // Parts of the head's length.
-constexpr double headHalfWidth = 0.47;
+constexpr double headHalfWidth = 0.48;
 constexpr double notch = 0.14;
 constexpr double neckInHead = 0.24;
 // Of the arrow's length, at most.
@@ -83,10 +85,11 @@ void addRounded(QPainterPath &path, const std::array<QPointF, 4> &corners,
     path.closeSubpath();
 }
 
-void addHead(QPainterPath &path, QPointF back, QPointF tip, double length) {
+QPainterPath head(QPointF back, QPointF tip, double length) {
+    QPainterPath path;
     QLineF axis(back, tip);
     if (axis.isNull())
-        return;
+        return path;
     axis.setLength(1);
     const QPointF along(axis.dx(), axis.dy());
     const QPointF left(along.y(), -along.x());
@@ -95,6 +98,14 @@ void addHead(QPainterPath &path, QPointF back, QPointF tip, double length) {
     const double round = length * 0.09;
     addRounded(path, {barbs + left * half, tip, barbs - left * half, barbs + along * (length * notch)},
                {round, round * 0.8, round, 0});
+    return path;
+}
+
+QPainterPath edgeAround(const QPainterPath &path, double width) {
+    QPainterPathStroker stroker;
+    stroker.setWidth(2 * width);
+    stroker.setJoinStyle(Qt::RoundJoin);
+    return stroker.createStroke(path);
 }
 
 } // namespace
@@ -103,18 +114,21 @@ QPointF ArrowShape::middle() const {
     return bend.value_or((start + end) / 2);
 }
 
-QPainterPath ArrowShape::outline() const {
+QPainterPath ArrowShape::outline(double growth) const {
     if (!(width > 0))
         return {};
     // The control point of the quadratic curve that is at the middle when half its parameter is through.
     const Curve curve(start, 2 * middle() - (start + end) / 2, end);
-    const double head = std::min(headLength * width + 2, curve.length() * headPart);
-    const double tail = width * tailRadius;
-    const double neck = std::max(tail, std::min(width * neckRadius, head * headHalfWidth * 0.42));
-    const double shaft = curve.length() - head * (1 - neckInHead);
-    QPainterPath path = strokeOutline(curve.stroke(shaft, tail, neck));
+    const double headSize = std::min(headLength * width + 2, curve.length() * headPart);
+    const double neck = std::min(width * neckRadius, headSize * headHalfWidth * 0.42);
+    const double tail = std::clamp(neck * tailRadius / neckRadius, width * dotRadius, width * tailRadius);
+    const double shaft = curve.length() - headSize * (1 - neckInHead);
+    QPainterPath path = strokeOutline(curve.stroke(shaft, tail + growth, std::max(neck, tail) + growth));
     path.setFillRule(Qt::WindingFill);
-    addHead(path, curve.at(curve.length() - head * (1 - notch)), end, head);
+    const QPainterPath tip = head(curve.at(curve.length() - headSize * (1 - notch)), end, headSize);
+    path.addPath(tip);
+    if (growth > 0)
+        path.addPath(edgeAround(tip, growth));
     return path;
 }
 

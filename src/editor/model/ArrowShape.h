@@ -16,9 +16,9 @@ struct ArrowShape {
     double width = 0;
 
     [[nodiscard]] QPointF middle() const;
-    // One area to be filled by nonzero winding. The head keeps its proportions; a short arrow is a smaller
-    // one, down to the dot of its tail.
-    [[nodiscard]] QPainterPath outline() const;
+    // One area to be filled by nonzero winding, grown by so much on every side. The head keeps its
+    // proportions; a short arrow is a smaller one, down to the dot of its tail.
+    [[nodiscard]] QPainterPath outline(double growth) const;
 };
 
 } // namespace tembra

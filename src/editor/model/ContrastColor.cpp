@@ -10,10 +10,15 @@ namespace {
 constexpr EditorColor white{1, 1, 1, 1};
 constexpr EditorColor ink{0.07, 0.07, 0.09, 1};
 constexpr double contrastOfLargeType = 3;
+constexpr double leastContrastOfRim = 1.5;
 
 double linear(double component) {
     const double value = std::clamp(component, 0.0, 1.0);
     return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+}
+
+double contrastOfWhite(const EditorColor &color) {
+    return 1.05 / (relativeLuminance(color) + 0.05);
 }
 
 } // namespace
@@ -23,8 +28,11 @@ double relativeLuminance(const EditorColor &color) {
 }
 
 EditorColor contrasting(const EditorColor &color) {
-    const double contrastOfWhite = 1.05 / (relativeLuminance(color) + 0.05);
-    return contrastOfWhite >= contrastOfLargeType ? white : ink;
+    return contrastOfWhite(color) >= contrastOfLargeType ? white : ink;
+}
+
+EditorColor rimColor(const EditorColor &color) {
+    return contrastOfWhite(color) >= leastContrastOfRim ? white : ink;
 }
 
 } // namespace tembra

@@ -11,4 +11,7 @@ namespace tembra {
 // that WCAG asks of large type, else nearly black.
 [[nodiscard]] EditorColor contrasting(const EditorColor &color);
 
+// White, which goes with most colours, unless the colour is hardly darker itself.
+[[nodiscard]] EditorColor rimColor(const EditorColor &color);
+
 } // namespace tembra

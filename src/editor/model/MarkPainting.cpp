@@ -4,7 +4,6 @@
 
 #include <QImage>
 #include <QPaintDevice>
-#include <QPen>
 
 #include <algorithm>
 #include <array>
@@ -13,23 +12,63 @@ namespace tembra {
 
 namespace {
 
-// Strokes of these parts of the halo's width and of these alphas, one over the other, fade outwards.
-struct Layer {
-    double part;
-    double alpha;
-};
-constexpr std::array lightLayers{Layer{1.0, 0.18}, Layer{0.72, 0.24}, Layer{0.42, 0.24}};
-constexpr std::array darkLayers{Layer{1.0, 0.10}, Layer{0.72, 0.14}, Layer{0.42, 0.16}};
+// Of the halo at the shape, and what each layer has of it from the outermost inwards.
+constexpr double lightest = 0.52;
+constexpr std::array layerParts{0.22, 0.34, 0.5};
 
-void drawHalo(QPainter &painter, const Mark &mark) {
+// One side of a polygon's clipping (Sutherland and Hodgman): what lies where `depth` is positive.
+template <typename Depth>
+QPolygonF cut(const QPolygonF &polygon, Depth depth) {
+    QPolygonF result;
+    for (qsizetype at = 0; at < polygon.size(); ++at) {
+        const QPointF from = polygon[at];
+        const QPointF to = polygon[(at + 1) % polygon.size()];
+        const double before = depth(from);
+        const double after = depth(to);
+        if (before >= 0)
+            result += from;
+        if ((before >= 0) != (after >= 0))
+            result += from + (to - from) * (before / (before - after));
+    }
+    return result;
+}
+
+// The same where it is seen, for a shape that reaches so far that the rasteriser would take its time.
+QPainterPath withinReach(const QPainterPath &shape, const QRectF &visible) {
+    const double margin = std::max(visible.width(), visible.height());
+    const QRectF kept = visible.adjusted(-margin, -margin, margin, margin);
+    const QRectF tolerated = kept.adjusted(-4 * margin, -4 * margin, 4 * margin, 4 * margin);
+    if (tolerated.contains(shape.boundingRect()))
+        return shape;
+    QPainterPath result;
+    result.setFillRule(shape.fillRule());
+    for (QPolygonF polygon : shape.toSubpathPolygons()) {
+        polygon = cut(polygon, [&](QPointF point) { return point.x() - kept.left(); });
+        polygon = cut(polygon, [&](QPointF point) { return kept.right() - point.x(); });
+        polygon = cut(polygon, [&](QPointF point) { return point.y() - kept.top(); });
+        polygon = cut(polygon, [&](QPointF point) { return kept.bottom() - point.y(); });
+        result.addPolygon(polygon);
+        result.closeSubpath();
+    }
+    return result;
+}
+
+// The shade around a colour is the deeper the lighter the colour is.
+double haloOpacity(const EditorColor &color, bool isLight) {
+    return isLight ? lightest : 0.16 + 0.26 * relativeLuminance(color);
+}
+
+// Layers of which each is a little larger than the one above it fade outwards.
+void drawLayers(QPainter &painter, const Mark &mark, const QRectF &visible) {
     const EditorColor edge = contrasting(mark.color);
-    const bool isLight = relativeLuminance(edge) > 0.5;
-    for (const Layer &layer : isLight ? lightLayers : darkLayers) {
-        QColor color = edge.toColor();
-        color.setAlphaF(
-            static_cast<float>(layer.alpha * mark.haloStrength * std::clamp(mark.color.a, 0.0, 1.0)));
-        painter.strokePath(mark.shape, QPen(color, 2 * layer.part * mark.haloWidth, Qt::SolidLine,
-                                            Qt::RoundCap, Qt::RoundJoin));
+    const double opacity = haloOpacity(mark.color, relativeLuminance(edge) > 0.5) * mark.haloStrength *
+                           std::min(mark.color.a, 1.0);
+    QColor color = edge.toColor();
+    const int count = static_cast<int>(layerParts.size());
+    for (int layer = 0; layer < count; ++layer) {
+        color.setAlphaF(static_cast<float>(opacity * layerParts.at(layer)));
+        const double growth = mark.haloWidth * (count - layer) / count;
+        painter.fillPath(withinReach(mark.grown(growth), visible), color);
     }
 }
 
@@ -45,9 +84,9 @@ QRectF reach(const Mark &mark) {
 }
 
 // The halo without what lies beneath the shape, made on a layer of its own.
-void drawHaloAround(QPainter &painter, const Mark &mark) {
+void drawHaloAround(QPainter &painter, const Mark &mark, const QRectF &visible) {
     const QTransform toDevice = painter.combinedTransform();
-    const QRectF wanted = toDevice.mapRect(reach(mark) & visibleRect(painter));
+    const QRectF wanted = toDevice.mapRect(reach(mark) & visible);
     const QRect area = wanted.toAlignedRect().adjusted(-1, -1, 1, 1) & deviceRect(painter);
     if (area.isEmpty())
         return;
@@ -58,9 +97,9 @@ void drawHaloAround(QPainter &painter, const Mark &mark) {
     QPainter inLayer(&layer);
     inLayer.setRenderHint(QPainter::Antialiasing);
     inLayer.setTransform(toDevice * QTransform::fromTranslate(-area.x(), -area.y()));
-    drawHalo(inLayer, mark);
+    drawLayers(inLayer, mark, visible);
     inLayer.setCompositionMode(QPainter::CompositionMode_DestinationOut);
-    inLayer.fillPath(mark.shape, Qt::black);
+    inLayer.fillPath(withinReach(mark.shape, visible), Qt::black);
     inLayer.end();
     const double ratio = painter.device()->devicePixelRatioF();
     layer.setDevicePixelRatio(ratio);
@@ -73,15 +112,25 @@ void drawHaloAround(QPainter &painter, const Mark &mark) {
 } // namespace
 
 void Mark::draw(QPainter &painter) const {
-    if (shape.isEmpty() || !(color.a > 0))
+    drawHalo(painter);
+    drawShape(painter);
+}
+
+void Mark::drawHalo(QPainter &painter) const {
+    const QRectF visible = visibleRect(painter);
+    const bool isThere = grown && haloStrength > 0 && color.a > 0;
+    if (!isThere || shape.isEmpty() || !reach(*this).intersects(visible))
         return;
-    if (haloWidth > 0 && haloStrength > 0) {
-        if (color.a >= 1)
-            drawHalo(painter, *this);
-        else
-            drawHaloAround(painter, *this);
-    }
-    painter.fillPath(shape, color.toColor());
+    if (color.a >= 1)
+        drawLayers(painter, *this, visible);
+    else
+        drawHaloAround(painter, *this, visible);
+}
+
+void Mark::drawShape(QPainter &painter) const {
+    const QRectF visible = visibleRect(painter);
+    if (color.a > 0 && shape.boundingRect().intersects(visible))
+        painter.fillPath(withinReach(shape, visible), color.toColor());
 }
 
 QRectF visibleRect(const QPainter &painter) {

@@ -6,6 +6,7 @@
 #include <QTransform>
 
 #include <algorithm>
+#include <cmath>
 
 namespace tembra {
 
@@ -14,9 +15,9 @@ namespace {
 // The size that the digits are taken from the typeface at; they are scaled from there.
 constexpr int typeSize = 128;
 // In diameters.
-constexpr double sidePadding = 0.12;
+constexpr double sidePadding = 0.11;
 constexpr double tallest = 0.64;
-constexpr double rimPart = 0.05;
+constexpr double rimPart = 0.045;
 
 QPainterPath written(std::int64_t value) {
     QString text = QString::number(value);
@@ -45,7 +46,11 @@ NumberBadge NumberBadge::of(const EditorNumber &number, QPointF center) {
     const QRectF ink = type.boundingRect();
     const double scale = std::min(number.resolvedFontSize() / typeSize,
                                   number.diameter * tallest / std::max(ink.height(), 1.0));
-    const double width = std::max(number.diameter, ink.width() * scale + 2 * sidePadding * number.diameter);
+    // The ends are round: digits use as much of them as there is at their height.
+    const double height = ink.height() * scale;
+    const double roundEnds = number.diameter - std::sqrt(number.diameter * number.diameter - height * height);
+    const double width =
+        std::max(number.diameter, ink.width() * scale + roundEnds + 2 * sidePadding * number.diameter);
     NumberBadge badge;
     badge.body = {center.x() - width / 2, center.y() - number.diameter / 2, width, number.diameter};
     badge.digits = QTransform()
@@ -61,8 +66,8 @@ QPainterPath NumberBadge::outline() const {
     return pill(body);
 }
 
-QPainterPath NumberBadge::rim() const {
-    QPainterPath path = pill(around(body, rimWidth));
+QPainterPath NumberBadge::rim(double growth) const {
+    QPainterPath path = pill(around(body, rimWidth + growth));
     path.addPath(outline().toReversed());
     return path;
 }

@@ -18,7 +18,8 @@ struct NumberBadge {
 
     [[nodiscard]] static NumberBadge of(const EditorNumber &number, QPointF center);
     [[nodiscard]] QPainterPath outline() const;
-    [[nodiscard]] QPainterPath rim() const;
+    // Around the body, its outer edge grown by so much.
+    [[nodiscard]] QPainterPath rim(double growth) const;
 };
 
 } // namespace tembra

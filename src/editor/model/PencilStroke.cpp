@@ -15,17 +15,28 @@ namespace {
 using Points = std::vector<QPointF>;
 
 // More than a hand draws in one stroke; beyond it samples are left out.
-constexpr std::size_t mostSamples = 30'000;
+constexpr std::size_t mostSamples = 100'000;
+// In pixels: where a stroke that goes on is cut off, for painting takes time with its length.
+constexpr double longest = 200'000;
 
 double length(QPointF vector) {
     return std::hypot(vector.x(), vector.y());
 }
 
 Points spaced(std::span<const EditorPoint> samples, double spacing) {
-    Points result;
+    Points result{samples.front().toPointF()};
+    double way = 0;
     for (const EditorPoint &sample : samples) {
-        if (result.empty() || length(sample.toPointF() - result.back()) >= spacing)
-            result.push_back(sample.toPointF());
+        const QPointF point = sample.toPointF();
+        const double step = length(point - result.back());
+        if (way + step > longest) {
+            result.push_back(result.back() + (point - result.back()) * ((longest - way) / step));
+            return result;
+        }
+        if (step >= spacing) {
+            way += step;
+            result.push_back(point);
+        }
     }
     const QPointF last = samples.back().toPointF();
     if (result.size() > 1)
@@ -36,36 +47,40 @@ Points spaced(std::span<const EditorPoint> samples, double spacing) {
 }
 
 Points thinned(std::span<const EditorPoint> samples, double width) {
-    double spacing = std::clamp(width / 4, 0.5, 2.0);
+    double spacing = std::clamp(width / 2, 2.0, 3.0);
     Points result = spaced(samples, spacing);
-    while (result.size() > mostSamples) {
+    // The way has an end, so wider steps do away with enough of them.
+    for (; result.size() > mostSamples; result = spaced(samples, spacing))
         spacing *= 2;
-        if (spacing > 1e4) {
-            Points fewer;
-            for (std::size_t at = 0; at < result.size(); at += result.size() / mostSamples + 1)
-                fewer.push_back(result[at]);
-            return fewer;
-        }
-        result = spaced(samples, spacing);
-    }
     return result;
 }
 
-// Takes away the steps that the pointer's whole pixels leave in a stroke, and no more: a place is never moved
-// farther than that, so what is drawn by intention stays.
+void smooth(Points &points, double factor) {
+    QPointF before = points.front();
+    for (std::size_t at = 1; at + 1 < points.size(); ++at) {
+        const QPointF here = points[at];
+        points[at] += ((before + points[at + 1]) / 2 - here) * factor;
+        before = here;
+    }
+}
+
+// Takes away the steps that the pointer's whole pixels leave in a stroke, without making its bows smaller
+// (Taubin, "Curve and surface smoothing without shrinkage"), and no more: a place is hardly moved farther
+// than the steps are high, so that what is drawn by intention stays.
 void removeSteps(Points &points) {
-    constexpr double farthest = 0.4;
-    constexpr int passes = 3;
-    for (int pass = 0; pass < passes && points.size() > 2; ++pass) {
-        QPointF before = points.front();
-        for (std::size_t at = 1; at + 1 < points.size(); ++at) {
-            const QPointF here = points[at];
-            QPointF change = ((before + points[at + 1]) / 2 - here) / 2;
-            if (const double distance = length(change); distance > farthest)
-                change *= farthest / distance;
-            before = here;
-            points[at] += change;
-        }
+    constexpr double farthest = 1.5;
+    constexpr int passes = 6;
+    if (points.size() < 3)
+        return;
+    const Points samples = points;
+    for (int pass = 0; pass < passes; ++pass) {
+        smooth(points, 0.63);
+        smooth(points, -0.67);
+    }
+    for (std::size_t at = 0; at < points.size(); ++at) {
+        const QPointF change = points[at] - samples[at];
+        if (const double distance = length(change); distance > farthest)
+            points[at] = samples[at] + change * (farthest / distance);
     }
 }
 
@@ -89,7 +104,7 @@ Points curve(const Points &points) {
         const QPointF control1 = here + tangent(before, here, next, knot(before, here), step) * (step / 3);
         const QPointF control2 = next - tangent(here, next, after, step, knot(next, after)) * (step / 3);
         const double bow = length(here - 2 * control1 + control2) + length(control1 - 2 * control2 + next);
-        const int pieces = std::clamp(static_cast<int>(std::ceil(std::sqrt(bow / 0.04))), 1, 48);
+        const int pieces = std::clamp(static_cast<int>(std::ceil(std::sqrt(bow / 0.08))), 1, 48);
         for (int piece = 1; piece <= pieces; ++piece) {
             const double t = static_cast<double>(piece) / pieces;
             const double s = 1 - t;
@@ -120,7 +135,7 @@ double widthAt(double way, double whole, double width, const EditorPencil &style
 } // namespace
 
 QPainterPath pencilStroke(std::span<const EditorPoint> samples, double width,
-                          const std::optional<EditorPencil> &style) {
+                          const std::optional<EditorPencil> &style, double growth) {
     if (samples.empty() || !(width > 0))
         return {};
     Points points = thinned(samples, width);
@@ -134,7 +149,8 @@ QPainterPath pencilStroke(std::span<const EditorPoint> samples, double width,
     const double whole = distances.back();
     for (std::size_t at = 0; at < way.size(); ++at) {
         const bool isEven = !style || way.size() == 1;
-        stroke.push_back({way[at], width / 2 * (isEven ? 1 : widthAt(distances[at], whole, width, *style))});
+        stroke.push_back(
+            {way[at], growth + width / 2 * (isEven ? 1 : widthAt(distances[at], whole, width, *style))});
     }
     return strokeOutline(stroke);
 }

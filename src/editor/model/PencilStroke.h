@@ -12,8 +12,8 @@ namespace tembra {
 
 // What a pencil leaves behind: a smooth curve through the samples whose width depends on the way alone, never
 // on how fast the pointer went. Without a style the stroke is equally wide everywhere. To be filled by
-// nonzero winding. Image space.
+// nonzero winding, grown by so much on every side. Image space.
 [[nodiscard]] QPainterPath pencilStroke(std::span<const EditorPoint> samples, double width,
-                                        const std::optional<EditorPencil> &style);
+                                        const std::optional<EditorPencil> &style, double growth);
 
 } // namespace tembra

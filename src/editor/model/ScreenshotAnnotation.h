@@ -68,8 +68,9 @@ struct ScreenshotAnnotation {
     [[nodiscard]] QPainterPath path() const;
     // The colour shown: `color`, of a blur none.
     [[nodiscard]] EditorColor styleColor() const;
-    // A shape or blur with one of its handles (numbered clockwise from the top left) moved to a point, kept
-    // within `limits`. With `preservingAspect` it keeps the proportions it has.
+    // A shape or blur, as it was when the drag began, with one of its handles (RectHandles.h) moved to a
+    // point, kept within `limits`. Dragged past the opposite side it turns over. With `preservingAspect` it
+    // keeps the proportions it has.
     [[nodiscard]] ScreenshotAnnotation resizedShape(int handle, QPointF point, bool preservingAspect,
                                                     QRectF limits) const;
     // A number with another value; its badge, which may widen with its digits, is kept within `limits`.

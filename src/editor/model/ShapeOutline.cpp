@@ -26,53 +26,59 @@ QPainterPath rounded(const QRectF &rect, double radius) {
     return path;
 }
 
+QRectF grown(const QRectF &rect, double margin) {
+    return rect.adjusted(-margin, -margin, margin, margin);
+}
+
 double shorterSide(const QRectF &rect) {
     return std::min(rect.width(), rect.height());
 }
 
 } // namespace
 
-QPainterPath line(const QLineF &line, double width) {
+QPainterPath line(const QLineF &line, double width, double growth) {
     if (!(width > 0))
         return empty();
-    return strokeOutline(std::array{StrokePoint{line.p1(), width / 2}, StrokePoint{line.p2(), width / 2}});
+    const double radius = width / 2 + growth;
+    return strokeOutline(std::array{StrokePoint{line.p1(), radius}, StrokePoint{line.p2(), radius}});
 }
 
-QPainterPath outlinedRectangle(const QRectF &rect, double width) {
+QPainterPath outlinedRectangle(const QRectF &rect, double width, double growth) {
     if (!(width > 0))
         return empty();
-    const double half = width / 2;
+    const double reach = width / 2 + growth;
     const double radius = std::min(width * cornerRadius, shorterSide(rect) / 2);
-    QPainterPath path = rounded(rect.adjusted(-half, -half, half, half), radius + half);
-    const QRectF inside = rect.adjusted(half, half, -half, -half);
-    if (shorterSide(inside) > 0)
-        path.addPath(rounded(inside, std::max(radius - half, 0.0)).toReversed());
+    QPainterPath path = rounded(grown(rect, reach), radius + reach);
+    const QRectF inside = grown(rect, -reach);
+    if (inside.width() > 0 && inside.height() > 0)
+        path.addPath(rounded(inside, std::max(radius - reach, 0.0)).toReversed());
     return path;
 }
 
-QPainterPath filledRectangle(const QRectF &rect, double width) {
+QPainterPath filledRectangle(const QRectF &rect, double width, double growth) {
     if (rect.isEmpty())
         return empty();
-    return rounded(rect, std::min(width * cornerRadius, shorterSide(rect) / 6));
+    const double radius = std::min(width * cornerRadius, shorterSide(rect) / 6);
+    return rounded(grown(rect, growth), radius + growth);
 }
 
-QPainterPath outlinedEllipse(const QRectF &rect, double width) {
+QPainterPath outlinedEllipse(const QRectF &rect, double width, double growth) {
     if (!(width > 0))
         return empty();
     QPainterPath middle;
     middle.addEllipse(rect);
     QPainterPathStroker stroker;
-    stroker.setWidth(width);
+    stroker.setWidth(width + 2 * growth);
     stroker.setJoinStyle(Qt::RoundJoin);
     stroker.setCapStyle(Qt::RoundCap);
     stroker.setCurveThreshold(0.02);
     return stroker.createStroke(middle);
 }
 
-QPainterPath filledEllipse(const QRectF &rect) {
+QPainterPath filledEllipse(const QRectF &rect, double growth) {
     QPainterPath path = empty();
     if (!rect.isEmpty())
-        path.addEllipse(rect);
+        path.addEllipse(grown(rect, growth));
     return path;
 }
 
