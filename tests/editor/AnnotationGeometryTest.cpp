@@ -144,6 +144,15 @@ TEST(AnnotationGeometry, aPencilStrokeNarrowsTowardsItsEndHoweverFastItWasDrawn)
     }
 }
 
+// Its parts lie over each other many times, which takes the painter its time.
+TEST(AnnotationGeometry, aScribbleWithAWidePenHasAnOutlineOfFewPoints) {
+    std::vector<EditorPoint> samples;
+    for (int at = 0; at < 3'000; ++at)
+        samples.push_back({at * 37 % 200 + 50.0, at * 89 % 160 + 40.0});
+    EXPECT_LT(pencil(samples, red, 1'000).path().elementCount(), 10'000);
+    EXPECT_TRUE(pencil(samples, red, 1'000).contains({150, 120}, 0));
+}
+
 TEST(AnnotationGeometry, aBadgeIsACircleUntilItsDigitsNeedMoreAndStaysInTheImage) {
     const ScreenshotAnnotation one = number({380, 290}, 1, 40, red);
     EXPECT_EQ(one.path().boundingRect(), QRectF(360, 270, 40, 40));

@@ -80,6 +80,11 @@ TEST(StrictJson, refusesHostileTexts) {
     EXPECT_TRUE(parseStrictly("{\"a\": {\"b\": 1}, \"c\": {\"b\": 1}}"));
 }
 
+TEST(StrictJson, keepsEveryCharacterOfAText) {
+    const QString text = QStringLiteral("\ufeffa\u0000\u2028\U0001F600\ufeff");
+    EXPECT_EQ(jsonText(Json(text.toStdString())), text);
+}
+
 TEST(ScreenshotAnnotation, isValidOnlyWithThePayloadOfItsKind) {
     for (const Kind kind : {Kind::arrow, Kind::pencil, Kind::line, Kind::rectangle, Kind::ellipse, Kind::text,
                             Kind::number, Kind::blur}) {

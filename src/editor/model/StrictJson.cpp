@@ -1,5 +1,7 @@
 #include "editor/model/StrictJson.h"
 
+#include <QStringDecoder>
+
 #include <set>
 #include <string>
 
@@ -78,7 +80,9 @@ std::optional<bool> jsonBoolean(const Json &json) {
 std::optional<QString> jsonText(const Json &json) {
     if (!json.is_string())
         return std::nullopt;
-    return QString::fromStdString(json.get_ref<const std::string &>());
+    // QString itself would drop a byte order mark in front, which is a character of the text here.
+    QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
+    return QString(decode(QByteArrayView(json.get_ref<const std::string &>())));
 }
 
 std::optional<QUuid> jsonUuid(const Json &json) {
