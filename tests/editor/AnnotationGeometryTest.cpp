@@ -1,5 +1,6 @@
 #include "DrawnAnnotations.h"
 #include "editor/model/AnnotationPainter.h"
+#include "editor/model/AnnotationText.h"
 #include "editor/model/ContrastColor.h"
 #include "editor/model/NumberBadge.h"
 
@@ -165,6 +166,18 @@ TEST(AnnotationGeometry, aBadgeIsACircleUntilItsDigitsNeedMoreAndStaysInTheImage
     wide = wide.replacingNumber(2'026, image);
     EXPECT_GT(wide.path().boundingRect().width(), 60);
     EXPECT_NEAR(wide.path().boundingRect().right(), 400, 1e-6);
+}
+
+TEST(AnnotationText, breaksAWordWithoutEnd) {
+    const QString word(5'000, u'W');
+    const AnnotationText text(
+        {.string = u"A "_s + word, .fontSize = 20, .background = {}, .maximumWidth = 300});
+    qsizetype length = 0;
+    for (const AnnotationText::Line &line : text.lines()) {
+        EXPECT_LE(line.rect.width(), 300);
+        length += line.length;
+    }
+    EXPECT_EQ(length, word.size() + 2);
 }
 
 TEST(AnnotationGeometry, theDigitsOfABadgeAreCentredByTheirInk) {

@@ -2,6 +2,7 @@
 
 #include "editor/model/AnnotationFont.h"
 
+#include <QTextBoundaryFinder>
 #include <QTextLayout>
 #include <QTextOption>
 
@@ -16,9 +17,24 @@ namespace {
 // Twice the height of the largest picture.
 constexpr double highest = 65'536;
 
-QTextOption wrapping(int pixelSize) {
+// Whether a line can nowhere end for very long. To break such a word Qt looks for its end at every line.
+bool hasEndlessWord(const QString &paragraph) {
+    constexpr qsizetype longestWord = 1'000;
+    if (paragraph.size() <= longestWord)
+        return false;
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Line, paragraph);
+    for (qsizetype start = 0, end = finder.toNextBoundary(); end >= 0; end = finder.toNextBoundary()) {
+        if (end - start > longestWord)
+            return true;
+        start = end;
+    }
+    return false;
+}
+
+QTextOption wrapping(const QString &paragraph, int pixelSize) {
     QTextOption option(Qt::AlignLeft | Qt::AlignAbsolute);
-    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    option.setWrapMode(hasEndlessWord(paragraph) ? QTextOption::WrapAnywhere
+                                                 : QTextOption::WrapAtWordBoundaryOrAnywhere);
     option.setUseDesignMetrics(true);
     option.setTabStopDistance(pixelSize * 2.0);
     return option;
@@ -79,7 +95,7 @@ std::vector<AnnotationText::Paragraph> AnnotationText::split() const {
 void AnnotationText::addLines(Paragraph &paragraph, double &y) {
     paragraph.firstLine = m_lines.size();
     QTextLayout layout(m_text.string.mid(paragraph.start, paragraph.length), annotationFont(m_pixelSize));
-    layout.setTextOption(wrapping(m_pixelSize));
+    layout.setTextOption(wrapping(layout.text(), m_pixelSize));
     breakLines(layout, m_text.maximumWidth / m_scale, (highest - y) / m_scale);
     const bool isRightToLeft = layout.text().isRightToLeft();
     for (int index = 0; index < layout.lineCount(); ++index) {
@@ -130,7 +146,7 @@ std::vector<QGlyphRun> AnnotationText::glyphRuns(const QRectF &visible) const {
         if (paragraph.length == 0 || std::none_of(first, end, isSeen))
             continue;
         QTextLayout layout(m_text.string.mid(paragraph.start, paragraph.length), annotationFont(m_pixelSize));
-        layout.setTextOption(wrapping(m_pixelSize));
+        layout.setTextOption(wrapping(layout.text(), m_pixelSize));
         breakLines(layout, m_text.maximumWidth / m_scale,
                    (visible.bottom() - first->rect.top()) / m_scale + m_text.fontSize);
         for (auto line = first; line != end; ++line) {
