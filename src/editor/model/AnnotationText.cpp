@@ -17,16 +17,14 @@ namespace {
 // Twice the height of the largest picture.
 constexpr double highest = 65'536;
 
-// Whether a line can nowhere end for very long. To break such a word Qt looks for its end at every line.
+// Whether a line can nowhere end for very long. To break such a word Qt looks for its end at every line. It
+// is looked for in pieces, as some scripts are quick to take apart only in those.
 bool hasEndlessWord(const QString &paragraph) {
-    constexpr qsizetype longestWord = 1'000;
-    if (paragraph.size() <= longestWord)
-        return false;
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Line, paragraph);
-    for (qsizetype start = 0, end = finder.toNextBoundary(); end >= 0; end = finder.toNextBoundary()) {
-        if (end - start > longestWord)
+    constexpr qsizetype pieceSize = 1'000;
+    for (qsizetype start = 0; start + pieceSize <= paragraph.size(); start += pieceSize) {
+        QTextBoundaryFinder finder(QTextBoundaryFinder::Line, paragraph.mid(start, pieceSize));
+        if (finder.toNextBoundary() >= pieceSize)
             return true;
-        start = end;
     }
     return false;
 }
