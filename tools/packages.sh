@@ -20,6 +20,9 @@ desktop_packages=(
   scrot imagemagick gnome-screenshot pcmanfm-qt libglib2.0-bin
 )
 
+# What the fuzzers are built with.
+fuzz_packages=(clang-16 libclang-rt-16-dev llvm-16)
+
 # What other programs are measured against.
 bench_packages=(libgdk-pixbuf2.0-bin ffmpegthumbnailer libopencv-imgproc-dev)
 

@@ -1,5 +1,6 @@
 #include "DrawnAnnotations.h"
 #include "editor/model/AnnotationPainter.h"
+#include "editor/model/AnnotationText.h"
 #include "editor/model/ContrastColor.h"
 #include "editor/model/NumberBadge.h"
 
@@ -144,6 +145,15 @@ TEST(AnnotationGeometry, aPencilStrokeNarrowsTowardsItsEndHoweverFastItWasDrawn)
     }
 }
 
+// Its parts lie over each other many times, which takes the painter its time.
+TEST(AnnotationGeometry, aScribbleWithAWidePenHasAnOutlineOfFewPoints) {
+    std::vector<EditorPoint> samples;
+    for (int at = 0; at < 3'000; ++at)
+        samples.push_back({at * 37 % 200 + 50.0, at * 89 % 160 + 40.0});
+    EXPECT_LT(pencil(samples, red, 1'000).path().elementCount(), 10'000);
+    EXPECT_TRUE(pencil(samples, red, 1'000).contains({150, 120}, 0));
+}
+
 TEST(AnnotationGeometry, aBadgeIsACircleUntilItsDigitsNeedMoreAndStaysInTheImage) {
     const ScreenshotAnnotation one = number({380, 290}, 1, 40, red);
     EXPECT_EQ(one.path().boundingRect(), QRectF(360, 270, 40, 40));
@@ -156,6 +166,18 @@ TEST(AnnotationGeometry, aBadgeIsACircleUntilItsDigitsNeedMoreAndStaysInTheImage
     wide = wide.replacingNumber(2'026, image);
     EXPECT_GT(wide.path().boundingRect().width(), 60);
     EXPECT_NEAR(wide.path().boundingRect().right(), 400, 1e-6);
+}
+
+TEST(AnnotationText, breaksAWordWithoutEnd) {
+    const QString word(5'000, u'W');
+    const AnnotationText text(
+        {.string = u"A "_s + word, .fontSize = 20, .background = {}, .maximumWidth = 300});
+    qsizetype length = 0;
+    for (const AnnotationText::Line &line : text.lines()) {
+        EXPECT_LE(line.rect.width(), 300);
+        length += line.length;
+    }
+    EXPECT_EQ(length, word.size() + 2);
 }
 
 TEST(AnnotationGeometry, theDigitsOfABadgeAreCentredByTheirInk) {

@@ -80,6 +80,25 @@ TEST(StrictJson, refusesHostileTexts) {
     EXPECT_TRUE(parseStrictly("{\"a\": {\"b\": 1}, \"c\": {\"b\": 1}}"));
 }
 
+QByteArray objectOf(int keys) {
+    QByteArray json = "{";
+    for (int key = 0; key < keys; ++key)
+        json += (key > 0 ? ",\"" : "\"") + QByteArray::number(key) + "\":0";
+    return json + "}";
+}
+
+TEST(StrictJson, readsManyValuesButNoObjectOfVeryManyKeys) {
+    const auto objects = parseStrictly("[" + QByteArray("{},").repeated(200'000) + "{}]");
+    EXPECT_TRUE(objects && objects->size() == 200'001);
+    EXPECT_TRUE(parseStrictly(objectOf(500)));
+    EXPECT_FALSE(parseStrictly(objectOf(200'000)));
+}
+
+TEST(StrictJson, keepsEveryCharacterOfAText) {
+    const QString text = QStringLiteral("\ufeffa\u0000\u2028\U0001F600\ufeff");
+    EXPECT_EQ(jsonText(Json(text.toStdString())), text);
+}
+
 TEST(ScreenshotAnnotation, isValidOnlyWithThePayloadOfItsKind) {
     for (const Kind kind : {Kind::arrow, Kind::pencil, Kind::line, Kind::rectangle, Kind::ellipse, Kind::text,
                             Kind::number, Kind::blur}) {

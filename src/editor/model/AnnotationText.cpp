@@ -2,6 +2,7 @@
 
 #include "editor/model/AnnotationFont.h"
 
+#include <QTextBoundaryFinder>
 #include <QTextLayout>
 #include <QTextOption>
 
@@ -16,9 +17,22 @@ namespace {
 // Twice the height of the largest picture.
 constexpr double highest = 65'536;
 
-QTextOption wrapping(int pixelSize) {
+// Whether a line can nowhere end for very long. To break such a word Qt looks for its end at every line. It
+// is looked for in pieces, as some scripts are quick to take apart only in those.
+bool hasEndlessWord(const QString &paragraph) {
+    constexpr qsizetype pieceSize = 1'000;
+    for (qsizetype start = 0; start + pieceSize <= paragraph.size(); start += pieceSize) {
+        QTextBoundaryFinder finder(QTextBoundaryFinder::Line, paragraph.mid(start, pieceSize));
+        if (finder.toNextBoundary() >= pieceSize)
+            return true;
+    }
+    return false;
+}
+
+QTextOption wrapping(const QString &paragraph, int pixelSize) {
     QTextOption option(Qt::AlignLeft | Qt::AlignAbsolute);
-    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    option.setWrapMode(hasEndlessWord(paragraph) ? QTextOption::WrapAnywhere
+                                                 : QTextOption::WrapAtWordBoundaryOrAnywhere);
     option.setUseDesignMetrics(true);
     option.setTabStopDistance(pixelSize * 2.0);
     return option;
@@ -79,7 +93,7 @@ std::vector<AnnotationText::Paragraph> AnnotationText::split() const {
 void AnnotationText::addLines(Paragraph &paragraph, double &y) {
     paragraph.firstLine = m_lines.size();
     QTextLayout layout(m_text.string.mid(paragraph.start, paragraph.length), annotationFont(m_pixelSize));
-    layout.setTextOption(wrapping(m_pixelSize));
+    layout.setTextOption(wrapping(layout.text(), m_pixelSize));
     breakLines(layout, m_text.maximumWidth / m_scale, (highest - y) / m_scale);
     const bool isRightToLeft = layout.text().isRightToLeft();
     for (int index = 0; index < layout.lineCount(); ++index) {
@@ -130,7 +144,7 @@ std::vector<QGlyphRun> AnnotationText::glyphRuns(const QRectF &visible) const {
         if (paragraph.length == 0 || std::none_of(first, end, isSeen))
             continue;
         QTextLayout layout(m_text.string.mid(paragraph.start, paragraph.length), annotationFont(m_pixelSize));
-        layout.setTextOption(wrapping(m_pixelSize));
+        layout.setTextOption(wrapping(layout.text(), m_pixelSize));
         breakLines(layout, m_text.maximumWidth / m_scale,
                    (visible.bottom() - first->rect.top()) / m_scale + m_text.fontSize);
         for (auto line = first; line != end; ++line) {

@@ -14,8 +14,11 @@ namespace {
 
 using Points = std::vector<QPointF>;
 
-// More than a hand draws in one stroke; beyond it samples are left out.
-constexpr std::size_t mostSamples = 100'000;
+// More than a hand draws in one stroke; beyond it samples are left out. The wider it is the longer each takes
+// to paint, and the less is seen of it.
+std::size_t mostSamples(double width) {
+    return static_cast<std::size_t>(std::clamp(150'000 / width, 150.0, 100'000.0));
+}
 // In pixels: where a stroke that goes on is cut off, for painting takes time with its length.
 constexpr double longest = 200'000;
 
@@ -50,7 +53,7 @@ Points thinned(std::span<const EditorPoint> samples, double width) {
     double spacing = std::clamp(width / 2, 2.0, 3.0);
     Points result = spaced(samples, spacing);
     // The way has an end, so wider steps do away with enough of them.
-    for (; result.size() > mostSamples; result = spaced(samples, spacing))
+    for (; result.size() > mostSamples(width); result = spaced(samples, spacing))
         spacing *= 2;
     return result;
 }
@@ -92,7 +95,8 @@ QPointF tangent(QPointF before, QPointF here, QPointF after, double knotBefore, 
 }
 
 // The curve through the points, in pieces so short that their corners cannot be seen.
-Points curve(const Points &points) {
+Points curve(const Points &points, double width) {
+    const double bowOfPiece = std::max(0.08, width / 500);
     Points result{points.front()};
     const auto knot = [](QPointF from, QPointF to) { return std::sqrt(std::max(length(to - from), 1e-6)); };
     for (std::size_t at = 0; at + 1 < points.size(); ++at) {
@@ -104,7 +108,7 @@ Points curve(const Points &points) {
         const QPointF control1 = here + tangent(before, here, next, knot(before, here), step) * (step / 3);
         const QPointF control2 = next - tangent(here, next, after, step, knot(next, after)) * (step / 3);
         const double bow = length(here - 2 * control1 + control2) + length(control1 - 2 * control2 + next);
-        const int pieces = std::clamp(static_cast<int>(std::ceil(std::sqrt(bow / 0.08))), 1, 48);
+        const int pieces = std::clamp(static_cast<int>(std::ceil(std::sqrt(bow / bowOfPiece))), 1, 48);
         for (int piece = 1; piece <= pieces; ++piece) {
             const double t = static_cast<double>(piece) / pieces;
             const double s = 1 - t;
@@ -140,7 +144,7 @@ QPainterPath pencilStroke(std::span<const EditorPoint> samples, double width,
         return {};
     Points points = thinned(samples, width);
     removeSteps(points);
-    const Points way = curve(points);
+    const Points way = curve(points, width);
     std::vector<StrokePoint> stroke;
     stroke.reserve(way.size());
     std::vector<double> distances{0};

@@ -1,35 +1,55 @@
 #include "editor/model/StrictJson.h"
 
+#include <QStringDecoder>
+
 #include <set>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace tembra {
 
 namespace {
 
 constexpr qsizetype mostBytes = 64 << 20;
-constexpr int deepest = 16;
+constexpr std::size_t deepest = 16;
+// More than any object has that is kept here; keeping their order, Json takes long to find one of many.
+constexpr std::size_t mostKeys = 1'000;
 
-// Watches the keys of the objects that are being read.
-class Watch {
+// Goes through a text ahead of its being kept, and stops where it is not sound.
+class Watch final : public nlohmann::json_sax<Json> {
 public:
-    bool accept(int depth, nlohmann::json::parse_event_t event, const Json &parsed) {
-        using Event = nlohmann::json::parse_event_t;
-        m_isSound = m_isSound && depth <= deepest;
-        if (event == Event::object_start)
-            m_keys.emplace_back();
-        else if (event == Event::object_end && !m_keys.empty())
-            m_keys.pop_back();
-        else if (event == Event::key && !m_keys.empty())
-            m_isSound = m_keys.back().insert(parsed.get<std::string>()).second && m_isSound;
-        return m_isSound;
+    bool null() override { return true; }
+    bool boolean(bool) override { return true; }
+    bool number_integer(number_integer_t) override { return true; }
+    bool number_unsigned(number_unsigned_t) override { return true; }
+    bool number_float(number_float_t, const string_t &) override { return true; }
+    bool string(string_t &) override { return true; }
+    bool binary(binary_t &) override { return true; }
+    bool start_object(std::size_t) override { return enter(); }
+    bool end_object() override { return leave(); }
+    bool start_array(std::size_t) override { return enter(); }
+    bool end_array() override { return leave(); }
+    bool key(string_t &key) override {
+        std::set<std::string> &keys = m_keys.back();
+        return keys.size() < mostKeys && keys.insert(key).second;
+    }
+    bool parse_error(std::size_t, const std::string &, const nlohmann::json::exception &) override {
+        return false;
     }
 
-    [[nodiscard]] bool isSound() const { return m_isSound; }
-
 private:
+    bool enter() {
+        m_keys.emplace_back();
+        return m_keys.size() <= deepest;
+    }
+    bool leave() {
+        m_keys.pop_back();
+        return true;
+    }
+
+    // Of the objects and arrays that are open.
     std::vector<std::set<std::string>> m_keys;
-    bool m_isSound = true;
 };
 
 } // namespace
@@ -38,13 +58,10 @@ std::optional<Json> parseStrictly(QByteArrayView bytes) {
     if (bytes.size() > mostBytes)
         return std::nullopt;
     Watch watch;
-    const auto accept = [&watch](int depth, Json::parse_event_t event, const Json &parsed) {
-        return watch.accept(depth, static_cast<nlohmann::json::parse_event_t>(event), parsed);
-    };
-    Json json = Json::parse(bytes.begin(), bytes.end(), accept, false);
-    if (json.is_discarded() || !watch.isSound())
+    if (!Json::sax_parse(bytes.begin(), bytes.end(), &watch))
         return std::nullopt;
-    return json;
+    Json json = Json::parse(bytes.begin(), bytes.end(), nullptr, false);
+    return json.is_discarded() ? std::nullopt : std::optional(std::move(json));
 }
 
 QByteArray toBytes(const Json &json) {
@@ -78,7 +95,9 @@ std::optional<bool> jsonBoolean(const Json &json) {
 std::optional<QString> jsonText(const Json &json) {
     if (!json.is_string())
         return std::nullopt;
-    return QString::fromStdString(json.get_ref<const std::string &>());
+    // QString itself would drop a byte order mark in front, which is a character of the text here.
+    QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
+    return QString(decode(QByteArrayView(json.get_ref<const std::string &>())));
 }
 
 std::optional<QUuid> jsonUuid(const Json &json) {

@@ -12,7 +12,10 @@ namespace tembra {
 namespace {
 
 // How far, in pixels of the image, a chord may lie from its arc: nothing that a magnified view shows.
-constexpr double flatness = 0.01;
+double flatness(double radius) {
+    return std::max(0.01, radius / 5'000);
+}
+
 // Gentler turns than this are mitred: the difference to a round join cannot be seen.
 constexpr double gentleTurn = 0.3;
 
@@ -85,7 +88,8 @@ private:
     }
 
     void addArc(const StrokePoint &point, QPointF normal, double angle) {
-        const double chord = 2 * std::acos(std::max(0.0, 1 - flatness / std::max(point.radius, flatness)));
+        const double chord =
+            2 * std::acos(std::max(0.0, 1 - flatness(point.radius) / std::max(point.radius, 0.01)));
         const int pieces = std::clamp(static_cast<int>(std::ceil(angle / chord)), 1, 180);
         for (int piece = 0; piece <= pieces; ++piece)
             m_outline += point.position + turnedBy(normal, angle * piece / pieces) * point.radius;
