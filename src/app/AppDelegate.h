@@ -58,6 +58,8 @@ private:
     const ScreenshotFolderTraversal m_folderTraversal;
     // The main thread's own; each queue has another.
     std::unique_ptr<ScreenCapturePreferences> m_capturePreferences;
+    // Outlives the queue on which it works.
+    std::unique_ptr<ScreenshotEditStore> m_editStore;
     ThreadQueue m_folderScanQueue;
     ThreadQueue m_locationQueue;
     ThreadQueue m_autoCleanQueue;
@@ -65,7 +67,6 @@ private:
     ThreadQueue m_clipboardQueue;
     ThreadQueue m_previewQueue;
     ThreadQueue m_editorQueue;
-    std::unique_ptr<ScreenshotEditStore> m_editStore;
     std::unique_ptr<EditorImageCopies> m_imageCopies;
     std::unique_ptr<AppSettings> m_settings;
     std::unique_ptr<AppFlowCoordinator> m_coordinator;

@@ -51,9 +51,10 @@ Result<void> write(const QString &path, const QByteArray &bytes) {
 } // namespace
 
 Result<QString> renderImage(const QString &image, const QString &edits, const QString &output) {
-    if (QFileInfo(output).exists() && QFileInfo(output) == QFileInfo(image))
-        return renderFailure(3,
-                             translated("The image is not written over: name another file for the output."));
+    const QFileInfo written(output);
+    if (written.exists() && (written == QFileInfo(image) || written == QFileInfo(edits)))
+        return renderFailure(
+            3, translated("What is read is not written over: name another file for the output."));
     QtScheduler scheduler;
     const Platform platform = makeHeadlessPlatform(scheduler);
     const auto original = contentOf(image, *platform.fileCoordinator);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Clocks.h"
 #include "base/Result.h"
 
 #include <QByteArray>
@@ -8,6 +9,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 
 namespace tembra {
 
@@ -47,10 +49,11 @@ public:
     // Missing is fine.
     [[nodiscard]] virtual Result<void> remove(const QString &path) const = 0;
 
-    // Makes the new file `path` with the permissions, owner and attributes of `like`. On failure there is
-    // none.
+    // Makes the new file `path` with the permissions, owner and attributes of `like`, and with the date when
+    // that was made where one is told. On failure there is none.
     [[nodiscard]] virtual Result<void> writeTemporary(const QString &path, QByteArrayView bytes,
-                                                      const QString &like) const = 0;
+                                                      const QString &like,
+                                                      const std::optional<Instant> &createdAt) const = 0;
     // Puts `temporary`, which lies in the same folder and was written with `bytes`, in the place of the file
     // at `path`, if that holds what is expected and nobody is writing to it. It is looked at before and,
     // once it cannot be reached by its name any more, again: `isExpected` is called each time, and only asks.

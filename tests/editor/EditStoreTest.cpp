@@ -1,5 +1,6 @@
 #include "support/EditStore.h"
 
+#include "base/FilePath.h"
 #include "imaging/Sha256.h"
 #include "settings/CocoaError.h"
 #include "support/Annotations.h"
@@ -15,8 +16,12 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <filesystem>
+#include <limits>
 #include <sys/stat.h>
+#include <sys/xattr.h>
+#include <unistd.h>
 
 namespace tembra {
 namespace {
@@ -188,6 +193,44 @@ TEST_F(EditStoreTest, whatWasOnlyOpenedMayChange) {
     EXPECT_EQ(third.original, contentOf(shot));
     save(third, arrow);
     EXPECT_EQ(load(shot).size, QSize(30, 30));
+}
+
+TEST_F(EditStoreTest, savesNothingIntoTheTrash) {
+    const auto loaded = load(shot);
+    const QString trash = edits.path(QStringLiteral(".local/share/Trash/files"));
+    QDir().mkpath(trash);
+    ASSERT_TRUE(QFile::rename(shot, trash + QStringLiteral("/shot.png")));
+    const auto refused = store.save(loaded, arrow, {});
+    ASSERT_FALSE(refused);
+    EXPECT_TRUE(refused.error().message.contains(QStringLiteral("Your edits are still here.")))
+        << refused.error().message.toStdString();
+    EXPECT_EQ(contentOf(trash + QStringLiteral("/shot.png")), picture);
+}
+
+TEST_F(EditStoreTest, savesFilesThatMayOnlyBeReadAndFilesOfAnyName) {
+    const QByteArray odd = QFile::encodeName(edits.path(QStringLiteral("odd "))) + "\xfc.png";
+    ASSERT_EQ(std::rename(QFile::encodeName(shot).constData(), odd.constData()), 0);
+    ::setxattr(odd.constData(), "user.note", "1", 1, 0);
+    ::chmod(odd.constData(), 0444);
+    const auto first = load(pathFromBytes(odd));
+    const auto saved = save(first, arrow);
+    EXPECT_EQ(saved.path, pathFromBytes(odd));
+    const auto again = load(pathFromBytes(odd));
+    EXPECT_EQ(again.record.id, saved.record.id);
+    EXPECT_EQ(again.record.annotations, arrow);
+    EXPECT_EQ(again.createdAt, first.createdAt);
+    char note = 0;
+    EXPECT_EQ(::getxattr(odd.constData(), "user.note", &note, 1), 1);
+    ::unlink(odd.constData());
+}
+
+TEST_F(EditStoreTest, refusesToSaveWhatItCouldNotOpenAgain) {
+    ScreenshotAnnotation broken = arrow.front();
+    broken.width = std::numeric_limits<double>::quiet_NaN();
+    const auto refused = store.save(load(shot), {broken}, {});
+    ASSERT_FALSE(refused);
+    EXPECT_EQ(contentOf(shot), picture);
+    EXPECT_TRUE(load(shot).record.annotations.empty());
 }
 
 TEST_F(EditStoreTest, followsMovesButTakesCopiesForNewImages) {

@@ -1,5 +1,6 @@
 // Whatever leaves the program is made of what the user sees.
 
+#include "editor/model/ScreenshotRenderer.h"
 #include "support/Annotations.h"
 #include "support/EditStore.h"
 #include "support/Files.h"
@@ -13,6 +14,8 @@
 #include <QtEndian>
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 namespace tembra {
 namespace {
@@ -126,6 +129,26 @@ TEST(HiddenContent, staysInTheStore) {
     }
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden),
               QStringList(QStringLiteral("shot.png")));
+}
+
+// Colours that no screen shows because they are transparent are hidden as well.
+TEST(HiddenContent, doesNotSurviveInTransparentPixels) {
+    QImage image = secretPicture().convertToFormat(QImage::Format_ARGB32);
+    for (int y = 0; y < image.height(); ++y) {
+        auto *pixels = reinterpret_cast<QRgb *>(image.scanLine(y));
+        std::for_each(pixels, pixels + image.width(), [](QRgb &pixel) { pixel &= 0x00ff'ffff; });
+    }
+    ScreenshotAnnotation everything = covers().back();
+    everything.points = {{0, 0}, {200, 120}};
+    const auto rendered = ScreenshotRenderer::render(encoded(image, "png"), {everything}, {});
+    ASSERT_TRUE(rendered);
+    const auto output = ScreenshotRenderer::encode(*rendered, QStringLiteral("public.png"));
+    ASSERT_TRUE(output);
+    const QImage pixels = pixelsOf(*output);
+    for (int y = 0; y < pixels.height(); ++y) {
+        for (int x = 0; x < pixels.width(); ++x)
+            ASSERT_EQ(pixels.pixel(x, y), 0U);
+    }
 }
 
 } // namespace

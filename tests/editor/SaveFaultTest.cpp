@@ -10,11 +10,15 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <string>
+
 namespace tembra {
 namespace {
 
-// A first save writes the original besides, a later one replaces a record.
-enum class Save { first, later };
+// A first save writes the original besides, a later one replaces a record, and one after a first save that
+// was cut off before its record was written settles that.
+enum class Save { first, later, afterCut };
 
 QByteArray contentOf(const QString &path) {
     QFile file(path);
@@ -43,7 +47,19 @@ protected:
         const auto loaded = isFirst ? Result<ScreenshotEditLoaded>() : edits.store.load(shot, {});
         if (!isFirst && !edits.store.save(*loaded, SavedShot::oldAnnotations(), {}))
             qFatal("cannot save");
+        if (GetParam() == Save::afterCut)
+            cut(edits, loaded->record);
         return {folder};
+    }
+
+    // Back to where the record was pending.
+    static void cut(const EditStore &edits, const ScreenshotEditRecord &opened) {
+        const QDir folder(
+            edits.path(QStringLiteral("edits/") + opened.id.toString(QUuid::WithoutBraces).toUpper()));
+        if (!QFile::rename(folder.filePath(QStringLiteral("record.json")),
+                           folder.filePath(QStringLiteral("pending.json"))))
+            qFatal("cannot cut the save");
+        writeFile(folder.filePath(QStringLiteral("record.json")), opened.encode());
     }
 
     // The screenshot is the old one or the new one, and opening it finds the edits that made it.
@@ -82,10 +98,13 @@ TEST_P(SaveFaultTest, leavesTheOldScreenshotOrTheNewOneWithItsRecord) {
     EXPECT_GE(walk.walk({"kill-before", "kill-after", "ENOSPC", "EIO", "EACCES", "ENOSPC-always"}), 20);
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, SaveFaultTest, testing::Values(Save::first, Save::later),
-                         [](const auto &parameter) {
-                             return parameter.param == Save::first ? "first" : "later";
-                         });
+std::string nameOf(const testing::TestParamInfo<Save> &save) {
+    constexpr std::array names{"first", "later", "afterCut"};
+    return names[static_cast<std::size_t>(save.param)];
+}
+
+INSTANTIATE_TEST_SUITE_P(Each, SaveFaultTest, testing::Values(Save::first, Save::later, Save::afterCut),
+                         nameOf);
 
 } // namespace
 } // namespace tembra

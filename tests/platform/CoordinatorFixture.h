@@ -31,7 +31,7 @@ protected:
     }
     // "new" in the place of what is expected, as a save does it.
     [[nodiscard]] Result<void> save(const ContentCheck &isExpected = isOld) const {
-        return m_files.writeTemporary(m_temporary, "new", m_shot).and_then([&] {
+        return m_files.writeTemporary(m_temporary, "new", m_shot, {}).and_then([&] {
             return m_files.replace(m_shot, m_temporary, "new", isExpected);
         });
     }

@@ -29,7 +29,8 @@ bool save(const QString &folder, bool isContested) {
         return content.startsWith('o');
     };
     return files.makePrivateFolder(folder + QStringLiteral("/records/1")) &&
-           files.writeAtomically(pending, newContent) && files.writeTemporary(temporary, newContent, shot) &&
+           files.writeAtomically(pending, newContent) &&
+           files.writeTemporary(temporary, newContent, shot, {}) &&
            files.replace(shot, temporary, newContent, isOld) && files.writeAtomically(record, newContent) &&
            files.remove(pending);
 }

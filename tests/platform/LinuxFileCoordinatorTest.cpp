@@ -182,7 +182,7 @@ TEST_F(LinuxFileCoordinatorTest, namesThatAreNoTextWork) {
     const QString temporary = path(pathFromBytes(".tembra-edit-\xff"));
     const QString moved = path(pathFromBytes("m\xff.png"));
     EXPECT_TRUE(m_files.writeAtomically(odd, "old"));
-    EXPECT_TRUE(m_files.writeTemporary(temporary, "new", odd));
+    EXPECT_TRUE(m_files.writeTemporary(temporary, "new", odd, {}));
     EXPECT_TRUE(m_files.replace(odd, temporary, "new", isOld));
     EXPECT_TRUE(m_files.moveIfUnchanged(odd, moved, [](QByteArrayView content) { return content == "new"; }));
     EXPECT_EQ(m_files.read(moved), QByteArray("new"));
@@ -201,8 +201,8 @@ TEST_F(LinuxFileCoordinatorTest, whatIsNoRegularFileIsRefused) {
     for (const QString &odd : {link, folder, pipe}) {
         EXPECT_EQ(codeOf(m_files.read(odd)), FileCoordinator::notRegular);
         EXPECT_EQ(codeOf(m_files.moveIfUnchanged(odd, path("b.png"), isOld)), FileCoordinator::notRegular);
-        EXPECT_EQ(codeOf(m_files.writeTemporary(m_temporary, "new", odd)), FileCoordinator::notRegular);
-        ASSERT_TRUE(m_files.writeTemporary(m_temporary, "new", m_shot));
+        EXPECT_EQ(codeOf(m_files.writeTemporary(m_temporary, "new", odd, {})), FileCoordinator::notRegular);
+        ASSERT_TRUE(m_files.writeTemporary(m_temporary, "new", m_shot, {}));
         EXPECT_EQ(codeOf(m_files.replace(odd, m_temporary, "new", isOld)), FileCoordinator::notRegular);
         EXPECT_EQ(names(), before);
         ASSERT_EQ(codeOf(saveWhile({[&] {
@@ -249,6 +249,6 @@ TEST_F(LinuxFileCoordinatorTest, privateFoldersAndFilesAreTheUsersAlone) {
     EXPECT_EQ(m_files.read(record), QByteArray("2"));
     EXPECT_EQ(modeOf(record), 0600U);
     EXPECT_EQ(QDir(folder).entryList(QDir::Files | QDir::Hidden).size(), 1);
-    EXPECT_FALSE(m_files.writeTemporary(record, "3", m_shot)) << "never replaces";
+    EXPECT_FALSE(m_files.writeTemporary(record, "3", m_shot, {})) << "never replaces";
     EXPECT_EQ(m_files.read(record), QByteArray("2"));
 }

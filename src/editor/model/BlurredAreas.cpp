@@ -71,6 +71,14 @@ bool BlurredAreas::add(const QImage &image, const std::vector<QRect> &areas, Edi
     return true;
 }
 
+std::vector<QRect> BlurredAreas::areas(QPoint origin) const {
+    std::vector<QRect> areas;
+    areas.reserve(m_patches.size());
+    for (const Patch &patch : m_patches)
+        areas.push_back(patch.area.translated(-origin));
+    return areas;
+}
+
 void BlurredAreas::draw(QPainter &painter) const {
     painter.save();
     painter.setCompositionMode(QPainter::CompositionMode_Source);

@@ -24,6 +24,8 @@ public:
     of(const QImage &image, std::span<const ScreenshotAnnotation> annotations, QRect visible);
 
     [[nodiscard]] bool isEmpty() const { return m_patches.empty(); }
+    // Where, from the given origin.
+    [[nodiscard]] std::vector<QRect> areas(QPoint origin) const;
     // In image space; stronger blurs over weaker ones.
     void draw(QPainter &painter) const;
 

@@ -10,13 +10,22 @@ namespace {
 
 const QString folderPrefix = QStringLiteral("Editor-");
 
+// Names of files are at most 255 bytes long, the extension included.
+QString shortened(QString name) {
+    constexpr int longest = 251;
+    while (name.toUtf8().size() > longest)
+        name.chop(1);
+    return name;
+}
+
 } // namespace
 
 Result<QString> EditorImageClipboard::prepare(const QByteArray &png, const QString &source,
                                               const QString &root, const FileCoordinator &files) {
     const QString id = QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper();
     const QString folder = root + u'/' + folderPrefix + id;
-    const QString file = folder + u'/' + QFileInfo(source).completeBaseName() + QStringLiteral(".png");
+    const QString file =
+        folder + u'/' + shortened(QFileInfo(source).completeBaseName()) + QStringLiteral(".png");
     const auto written =
         files.makePrivateFolder(folder).and_then([&] { return files.writeAtomically(file, png); });
     if (written)

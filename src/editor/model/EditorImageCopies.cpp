@@ -5,6 +5,8 @@
 #include "editor/model/EditorImageClipboard.h"
 
 #include <QDir>
+#include <QMimeData>
+#include <QUrl>
 
 #include <utility>
 
@@ -46,6 +48,10 @@ Result<void> EditorImageCopies::write(const QByteArray &png, const QString &file
 
 void EditorImageCopies::clipboardChanged() {
     if (m_current.isEmpty() || m_services.pasteboard.changeCount() == m_changeCount)
+        return;
+    // Some desktops tell of our own change again.
+    const QMimeData *content = m_services.pasteboard.content();
+    if (content && content->hasUrls() && content->urls().contains(QUrl::fromLocalFile(m_current)))
         return;
     discard(std::exchange(m_current, {}));
 }

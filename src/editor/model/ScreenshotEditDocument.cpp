@@ -13,8 +13,9 @@ namespace tembra {
 // Replaces annotations and crop together, forth and back.
 class ScreenshotEditDocument::Change final : public QUndoCommand {
 public:
-    Change(ScreenshotEditDocument &document, ScreenshotEdits before, ScreenshotEdits after,
-           const QString &name)
+    using State = std::shared_ptr<const ScreenshotEdits>;
+
+    Change(ScreenshotEditDocument &document, State before, State after, const QString &name)
         : QUndoCommand(name), m_document(document), m_before(std::move(before)), m_after(std::move(after)) {}
 
     void undo() override { m_document.set(m_before); }
@@ -22,8 +23,8 @@ public:
 
 private:
     ScreenshotEditDocument &m_document;
-    const ScreenshotEdits m_before;
-    const ScreenshotEdits m_after;
+    const State m_before;
+    const State m_after;
 };
 
 namespace {
@@ -48,8 +49,8 @@ ScreenshotEditDocument::ScreenshotEditDocument(const ScreenshotEditLoaded &loade
       m_openingCropRect(loaded.record.cropRect),
       m_savedFingerprint(loaded.expectedHash),
       m_originalSize(loaded.size),
-      m_annotations(loaded.record.annotations),
-      m_cropRect(loaded.record.cropRect) {}
+      m_edits(std::make_shared<const ScreenshotEdits>(
+          ScreenshotEdits{loaded.record.annotations, loaded.record.cropRect})) {}
 
 void ScreenshotEditDocument::setSelectedIDs(const QSet<QUuid> &ids) {
     requireMainThread();
@@ -62,18 +63,18 @@ void ScreenshotEditDocument::setSelectedIDs(const QSet<QUuid> &ids) {
 
 std::vector<ScreenshotAnnotation> ScreenshotEditDocument::selectedAnnotations() const {
     std::vector<ScreenshotAnnotation> selected;
-    std::ranges::copy_if(m_annotations, std::back_inserter(selected),
+    std::ranges::copy_if(annotations(), std::back_inserter(selected),
                          [this](const ScreenshotAnnotation &one) { return m_selectedIDs.contains(one.id); });
     return selected;
 }
 
 bool ScreenshotEditDocument::isDirty() const {
-    return m_annotations != m_savedRecord.annotations || m_cropRect != m_savedRecord.cropRect;
+    return annotations() != m_savedRecord.annotations || cropRect() != m_savedRecord.cropRect;
 }
 
 bool ScreenshotEditDocument::matchesSavedImage(const ScreenshotEditLoaded &loaded) const {
-    return loaded.expectedHash == m_savedFingerprint && loaded.record.annotations == m_annotations &&
-           loaded.record.cropRect == m_cropRect;
+    return loaded.expectedHash == m_savedFingerprint && loaded.record.annotations == annotations() &&
+           loaded.record.cropRect == cropRect();
 }
 
 void ScreenshotEditDocument::refreshBaseline(const ScreenshotEditLoaded &loaded) {
@@ -84,7 +85,7 @@ void ScreenshotEditDocument::refreshBaseline(const ScreenshotEditLoaded &loaded)
 
 std::int64_t ScreenshotEditDocument::nextNumber() const {
     std::optional<std::int64_t> largest;
-    for (const ScreenshotAnnotation &annotation : m_annotations) {
+    for (const ScreenshotAnnotation &annotation : annotations()) {
         if (annotation.number)
             largest = std::max(largest.value_or(annotation.number->value), annotation.number->value);
     }
@@ -122,18 +123,18 @@ ScreenshotEditDocument::numberedCopies(const std::vector<ScreenshotAnnotation> &
 
 void ScreenshotEditDocument::deleteSelection() {
     std::vector<ScreenshotAnnotation> remaining;
-    std::ranges::copy_if(m_annotations, std::back_inserter(remaining),
+    std::ranges::copy_if(annotations(), std::back_inserter(remaining),
                          [this](const ScreenshotAnnotation &one) { return !m_selectedIDs.contains(one.id); });
-    const std::size_t count = m_annotations.size() - remaining.size();
+    const std::size_t count = annotations().size() - remaining.size();
     if (count == 0)
         return;
-    apply(std::move(remaining), m_cropRect,
+    apply(std::move(remaining), cropRect(),
           count == 1 ? QCoreApplication::translate("ScreenshotEdit", "Delete annotation")
                      : QCoreApplication::translate("ScreenshotEdit", "Delete annotations"));
 }
 
 void ScreenshotEditDocument::applyCrop(const std::optional<QRectF> &crop) {
-    apply(m_annotations, crop, QCoreApplication::translate("ScreenshotEdit", "Crop"));
+    apply(annotations(), crop, QCoreApplication::translate("ScreenshotEdit", "Crop"));
 }
 
 void ScreenshotEditDocument::apply(std::vector<ScreenshotAnnotation> annotations, std::optional<QRectF> crop,
@@ -141,13 +142,14 @@ void ScreenshotEditDocument::apply(std::vector<ScreenshotAnnotation> annotations
     requireMainThread();
     m_editingBegan = true;
     // Pushing does the change.
-    m_history.push(new Change(*this, {m_annotations, m_cropRect}, {std::move(annotations), crop}, name));
+    m_history.push(new Change(
+        *this, m_edits,
+        std::make_shared<const ScreenshotEdits>(ScreenshotEdits{std::move(annotations), crop}), name));
 }
 
-void ScreenshotEditDocument::set(const ScreenshotEdits &edits) {
-    m_annotations = edits.annotations;
-    m_cropRect = edits.cropRect;
-    m_selectedIDs.intersect(idsOf(m_annotations));
+void ScreenshotEditDocument::set(std::shared_ptr<const ScreenshotEdits> edits) {
+    m_edits = std::move(edits);
+    m_selectedIDs.intersect(idsOf(annotations()));
     if (onChange)
         onChange();
 }

@@ -9,6 +9,7 @@
 #include <QUndoStack>
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -26,8 +27,10 @@ public:
     // After every change of annotations, crop or selection.
     std::function<void()> onChange;
 
-    [[nodiscard]] const std::vector<ScreenshotAnnotation> &annotations() const { return m_annotations; }
-    [[nodiscard]] const std::optional<QRectF> &cropRect() const { return m_cropRect; }
+    [[nodiscard]] const std::vector<ScreenshotAnnotation> &annotations() const {
+        return m_edits->annotations;
+    }
+    [[nodiscard]] const std::optional<QRectF> &cropRect() const { return m_edits->cropRect; }
     [[nodiscard]] const std::vector<ScreenshotAnnotation> &openingAnnotations() const {
         return m_openingAnnotations;
     }
@@ -68,7 +71,7 @@ public:
 private:
     class Change;
 
-    void set(const ScreenshotEdits &edits);
+    void set(std::shared_ptr<const ScreenshotEdits> edits);
     [[nodiscard]] std::vector<std::int64_t>
     numbersFor(const std::vector<ScreenshotAnnotation> &originals) const;
 
@@ -77,8 +80,8 @@ private:
     const std::optional<QRectF> m_openingCropRect;
     QString m_savedFingerprint;
     const QSizeF m_originalSize;
-    std::vector<ScreenshotAnnotation> m_annotations;
-    std::optional<QRectF> m_cropRect;
+    // Shared with the undo stack.
+    std::shared_ptr<const ScreenshotEdits> m_edits;
     bool m_editingBegan = false;
     QSet<QUuid> m_selectedIDs;
     QUndoStack m_history;

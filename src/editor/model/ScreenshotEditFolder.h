@@ -14,7 +14,8 @@ namespace tembra {
 //   <record id>/record.json    the record
 //   <record id>/pending.json   the record of a save in progress, or of one that was interrupted
 //   <record id>/original       the image file's bytes from before the first edit
-// Every file is written whole or not at all. Any thread.
+// Every file is written whole or not at all. Any thread. Errors are the file system's: a file that is there
+// but cannot be read now is never taken for one that is missing.
 class ScreenshotEditFolder {
 public:
     // How the names of the files begin that saves write beside screenshots.
@@ -23,7 +24,7 @@ public:
     // What a save in progress had in mind.
     struct Pending {
         ScreenshotEditRecord record;
-        // The file beside the screenshot; empty when it is not known.
+        // The name of the file beside the screenshot; empty when it is not known.
         QString temporary;
     };
 
@@ -32,21 +33,24 @@ public:
 
     [[nodiscard]] std::vector<QUuid> ids() const;
     // Nothing when there is none or it is no record.
-    [[nodiscard]] std::optional<ScreenshotEditRecord::Reading> record(const QUuid &id) const;
-    [[nodiscard]] std::optional<Pending> pending(const QUuid &id) const;
+    [[nodiscard]] Result<std::optional<ScreenshotEditRecord::Reading>> record(const QUuid &id) const;
+    [[nodiscard]] Result<std::optional<Pending>> pending(const QUuid &id) const;
     [[nodiscard]] Result<QByteArray> original(const QUuid &id) const;
 
-    // Also removes what a save left pending.
     [[nodiscard]] Result<void> writeRecord(const ScreenshotEditRecord &record) const;
+    // Fails for a record that would not be read again as it is.
     [[nodiscard]] Result<void> writePending(const ScreenshotEditRecord &record,
                                             const QString &temporary) const;
     void removePending(const QUuid &id) const;
     // Once the screenshot was saved, the original stays as it is.
     [[nodiscard]] Result<void> keepOriginal(const QUuid &id, const QByteArray &bytes) const;
+    // What writing left when the program was killed.
+    void removeLeftovers(const QUuid &id) const;
 
 private:
-    [[nodiscard]] QString file(const QUuid &id, const QString &name) const;
-    [[nodiscard]] bool hasSavedOriginal(const QUuid &id) const;
+    [[nodiscard]] QString folder(const QUuid &id) const;
+    [[nodiscard]] Result<std::optional<QByteArray>> content(const QUuid &id, const QString &name) const;
+    [[nodiscard]] Result<void> makeFolder(const QUuid &id) const;
 
     const QString m_root;
     const FileCoordinator &m_files;

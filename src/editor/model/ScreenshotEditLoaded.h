@@ -30,10 +30,8 @@ struct ScreenshotEditLoaded {
     QSize size;
     // "public.png" or "public.jpeg".
     QString type;
-    // Kept through every save.
+    // Kept through every save, as the file's permissions are.
     std::optional<Instant> createdAt;
-    // POSIX, kept through every save.
-    std::optional<unsigned> permissions;
     ScreenshotEditRecord record;
 };
 

@@ -22,7 +22,7 @@ struct ScreenshotEditRecord {
     int schema = currentSchema;
     // Also the name of its folder.
     QUuid id;
-    // Where the screenshot was when it was last written.
+    // Where the screenshot was when it was last written, as `storedPath` has it.
     QString path;
     std::optional<QByteArray> bookmark;
     // SHA-256 of the screenshot as last written, in lower-case hexadecimal.
@@ -41,6 +41,9 @@ struct ScreenshotEditRecord {
         bool operator==(const Foreign &) const = default;
     };
     using Reading = std::variant<ScreenshotEditRecord, Foreign>;
+
+    // A path as far as text can carry it: JSON holds no names that are not UTF-8.
+    [[nodiscard]] static QString storedPath(const QString &path) { return QString::fromUtf8(path.toUtf8()); }
 
     // JSON. `temporary` names the file that a save in progress writes beside the screenshot.
     [[nodiscard]] QByteArray encode(const QString &temporary = {}) const;

@@ -27,11 +27,6 @@ public:
     // What belongs to the file of this path, these facts and this content (SHA-256, lower-case hexadecimal).
     // Errors: ScreenshotEditError.
     [[nodiscard]] Result<Match> match(const QString &path, const FileFacts &facts, const QString &hash) const;
-    // Brings the record of a save that was interrupted to match the screenshot at this path with this
-    // content.
-    void settlePending(const QString &path, const QString &hash) const;
-    // The same for all screenshots that are where they were.
-    void settleEveryPending() const;
     // The record with what is to be told of the file that was just written there.
     [[nodiscard]] Record finished(Record record, const QString &path) const;
 
@@ -41,12 +36,9 @@ public:
     [[nodiscard]] static std::optional<QString> revision(const Record &record);
 
 private:
-    [[nodiscard]] bool belongs(const QString &recordPath, const std::optional<QByteArray> &bookmark,
-                               const QString &path, const FileFacts &facts) const;
+    [[nodiscard]] bool belongs(const Record::Reading &reading, const QString &path,
+                               const FileFacts &facts) const;
     [[nodiscard]] QString fileOf(const Record &record) const;
-    [[nodiscard]] std::optional<QString> hashOf(const QString &path) const;
-    void settle(const ScreenshotEditFolder::Pending &pending, const QString &path, const QString &hash) const;
-    void clearTemporary(const ScreenshotEditFolder::Pending &pending) const;
 
     const ScreenshotEditFolder &m_folder;
     const ScreenshotEditServices &m_services;

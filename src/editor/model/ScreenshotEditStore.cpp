@@ -47,6 +47,18 @@ QString extensionOf(const QString &path) {
     return suffix.isEmpty() ? QString() : u'.' + suffix;
 }
 
+// Names have an end, and some files have very long ones.
+QString shortExtensionOf(const QString &path) {
+    constexpr int longest = 16;
+    const QString extension = extensionOf(path);
+    return extension.toUtf8().size() <= longest ? extension : QString();
+}
+
+// A folder that is not for looking at, such as the Trash.
+bool isHidden(const QString &path) {
+    return path.contains(QStringLiteral("/."));
+}
+
 Result<void> check(const ScreenshotEditRecord &record, QSize size) {
     if (!std::ranges::all_of(record.annotations, &ScreenshotAnnotation::hasValidPayload))
         return editFailure(Code::unreadableAnnotation);
@@ -64,7 +76,10 @@ bool isForbidden(const QString &name) {
 } // namespace
 
 ScreenshotEditStore::ScreenshotEditStore(const QString &root, Services services)
-    : m_services(services), m_folder(root, m_services.coordinator), m_records(m_folder, m_services) {}
+    : m_services(services),
+      m_folder(root, m_services.coordinator),
+      m_records(m_folder, m_services),
+      m_recovery(m_folder, m_records, m_services) {}
 
 Result<ScreenshotEditLoaded> ScreenshotEditStore::load(const QString &path,
                                                        const std::optional<PreviewRequest> &preview) {
@@ -82,8 +97,7 @@ Result<ScreenshotEditLoaded> ScreenshotEditStore::load(const QString &path,
     if (!header || !header->isSingleImage)
         return editFailure(Code::unsupportedType);
     const QString hash = sha256Hex(*bytes);
-    m_records.settlePending(path, hash);
-    auto match = m_records.match(path, *facts, hash);
+    auto match = m_recovery.settle(path, hash).and_then([&] { return m_records.match(path, *facts, hash); });
     if (!match)
         return failure(match.error());
 
@@ -119,7 +133,11 @@ Result<ScreenshotEditSaved> ScreenshotEditStore::save(const Loaded &loaded,
                                                       const std::vector<ScreenshotAnnotation> &annotations,
                                                       const std::optional<QRectF> &cropRect) {
     const std::lock_guard lock(m_mutex);
-    if (const auto kept = m_folder.keepOriginal(loaded.record.id, loaded.original); !kept)
+    const QString path = whereItIs(loaded).path;
+    const auto kept = m_recovery.settle(loaded.record.id, path).and_then([&] {
+        return m_folder.keepOriginal(loaded.record.id, loaded.original);
+    });
+    if (!kept)
         return failure(kept.error());
     const auto rendered = ScreenshotRenderer::render(loaded.original, annotations, cropRect);
     if (!rendered)
@@ -130,24 +148,25 @@ Result<ScreenshotEditSaved> ScreenshotEditStore::save(const Loaded &loaded,
     if (!bytes)
         return failure(bytes.error());
 
-    const QString path = whereItIs(loaded).path;
-    const QString temporary =
-        QFileInfo(path).path() + u'/' + ScreenshotEditFolder::temporaryPrefix + newId() + extensionOf(path);
+    const QString temporary = ScreenshotEditFolder::temporaryPrefix + newId() + shortExtensionOf(path);
     Record record = loaded.record;
     record.path = path;
     record.fingerprint = sha256Hex(*bytes);
     record.annotations = annotations;
     record.cropRect = cropRect;
+    record.fileSize = bytes->size();
+    record.modifiedAt.reset();
     const auto replaced = m_folder.writePending(record, temporary).and_then([&] {
-        return replace(loaded, path, temporary, *bytes);
+        return replace(loaded, path, QFileInfo(path).path() + u'/' + temporary, *bytes);
     });
     if (!replaced) {
-        m_folder.removePending(record.id);
+        m_recovery.settleFailure(record.id, path);
         return failure(replaced.error());
     }
     // The screenshot is saved: should the record not be written now, it is by the next load.
     record = m_records.finished(std::move(record), path);
-    static_cast<void>(m_folder.writeRecord(record));
+    if (m_folder.writeRecord(record))
+        m_folder.removePending(record.id);
     m_services.thumbnails.renew(path, *rendered);
     return Saved{.path = path,
                  .record = record,
@@ -159,19 +178,21 @@ Result<ScreenshotEditSaved> ScreenshotEditStore::save(const Loaded &loaded,
 
 // A file that was moved since is followed; what took its place is for whoever writes to notice.
 ScreenshotEditLoaded ScreenshotEditStore::whereItIs(Loaded loaded) const {
-    if (loaded.reference && !m_services.files.facts(loaded.path))
-        loaded.path = loaded.reference->path().value_or(loaded.path);
+    const auto facts = m_services.files.facts(loaded.path);
+    const bool isGone = !facts && facts.error().domain == posixErrorDomain && facts.error().code == ENOENT;
+    const auto found = isGone && loaded.reference ? loaded.reference->path() : std::nullopt;
+    // Nobody would find again what is saved into the Trash.
+    if (found && (isHidden(loaded.path) || !isHidden(*found)))
+        loaded.path = *found;
     return loaded;
 }
 
 Result<void> ScreenshotEditStore::replace(const Loaded &loaded, const QString &path, const QString &temporary,
                                           const QByteArray &bytes) const {
-    const auto replaced = m_services.coordinator.writeTemporary(temporary, bytes, path).and_then([&] {
-        // A file system that keeps no attributes keeps no such date either.
-        if (loaded.createdAt)
-            static_cast<void>(m_services.files.recordCreationDate(temporary, *loaded.createdAt));
-        return m_services.coordinator.replace(path, temporary, bytes, contentOf(loaded.expectedHash));
-    });
+    auto replaced =
+        m_services.coordinator.writeTemporary(temporary, bytes, path, loaded.createdAt).and_then([&] {
+            return m_services.coordinator.replace(path, temporary, bytes, contentOf(loaded.expectedHash));
+        });
     if (!replaced && tellsOfChange(replaced.error()))
         return editFailure(Code::changedBeforeSaving);
     return replaced;
@@ -251,7 +272,7 @@ void ScreenshotEditStore::loadBadges(std::function<void()> completion) {
         m_services.queue, m_services.scheduler, m_generation.ticket(),
         [this] {
             const std::lock_guard lock(m_mutex);
-            m_records.settleEveryPending();
+            m_recovery.settleAll();
             return m_records.revisions();
         },
         [this, completion = std::move(completion)](const QHash<ScreenshotFileIdentity, QString> &revisions) {

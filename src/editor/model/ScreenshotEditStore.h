@@ -5,6 +5,7 @@
 #include "editor/model/ScreenshotEditLoaded.h"
 #include "editor/model/ScreenshotEditPreviewRequest.h"
 #include "editor/model/ScreenshotEditRecords.h"
+#include "editor/model/ScreenshotEditRecovery.h"
 #include "editor/model/ScreenshotEditSaved.h"
 #include "editor/model/ScreenshotEditServices.h"
 #include "platform/StandardFolders.h"
@@ -77,6 +78,7 @@ private:
     const Services m_services;
     const ScreenshotEditFolder m_folder;
     const ScreenshotEditRecords m_records;
+    const ScreenshotEditRecovery m_recovery;
     // One load, save or rename at a time.
     std::mutex m_mutex;
     Badges m_badges;

@@ -11,6 +11,8 @@
 
 #include <QPainter>
 
+#include <algorithm>
+
 namespace tembra {
 
 namespace {
@@ -19,13 +21,22 @@ constexpr double jpegQuality = 0.95;
 
 // Multiplying colours by their alpha and back loses bits, so where nothing was drawn the pixels stay as they
 // were.
-void takeChanges(QImage &image, const QImage &painted) {
+void takeChanges(QImage &image, const QImage &painted, std::span<const QRect> hidden) {
     for (int y = 0; y < image.height(); ++y) {
         auto *pixels = reinterpret_cast<QRgb *>(image.scanLine(y));
         const auto *drawn = reinterpret_cast<const QRgb *>(painted.constScanLine(y));
         for (int x = 0; x < image.width(); ++x) {
             if (drawn[x] != qPremultiply(pixels[x]))
                 pixels[x] = qUnpremultiply(drawn[x]);
+        }
+    }
+    // What cannot be seen may still be told by its colour.
+    for (const QRect area : hidden) {
+        for (int y = area.top(); y <= area.bottom(); ++y) {
+            auto *pixels = reinterpret_cast<QRgb *>(image.scanLine(y));
+            const auto *drawn = reinterpret_cast<const QRgb *>(painted.constScanLine(y));
+            std::transform(drawn + area.left(), drawn + area.right() + 1, pixels + area.left(),
+                           [](QRgb pixel) { return qUnpremultiply(pixel); });
         }
     }
 }
@@ -76,7 +87,7 @@ Result<QImage> ScreenshotRenderer::render(QByteArrayView original,
         return editFailure(ScreenshotEditError::notEnoughMemory);
     if (!paint(painted, visible.topLeft(), *blurred, annotations))
         return editFailure(ScreenshotEditError::notPrepared);
-    takeChanges(output, painted);
+    takeChanges(output, painted, blurred->areas(visible.topLeft()));
     return output;
 }
 

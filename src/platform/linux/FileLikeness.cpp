@@ -37,7 +37,7 @@ bool isUnsupported(int code) {
 }
 
 // Who has the file and what they may do.
-Result<void> copyPermissions(int file, const struct stat &model) {
+Result<void> copyPermissions(int file, int modelFile, const struct stat &model) {
     struct stat own {};
     if (::fstat(file, &own) != 0)
         return failure(posixError());
@@ -53,6 +53,10 @@ Result<void> copyPermissions(int file, const struct stat &model) {
         // Another group gets no more than everybody does.
         mode = (mode & ~static_cast<mode_t>(S_ISGID | S_IRWXG)) | ((mode & S_IRWXO) << 3);
     }
+    // A list that the folder gives to new files, which the permissions would bring to life.
+    if (::fgetxattr(modelFile, accessList, nullptr, 0) < 0 && ::fremovexattr(file, accessList) != 0 &&
+        errno != ENODATA && !isUnsupported(errno))
+        return failure(posixError());
     if (::fchmod(file, mode) != 0)
         return failure(posixError());
     return {};
@@ -75,7 +79,7 @@ Result<void> copyAttributes(int file, int model) {
     if (!names)
         return isUnsupported(names.error().code) ? Result<void>() : failure(names.error());
     for (const QByteArray &name : names->split('\0')) {
-        if (!name.startsWith("user.") && name != accessList)
+        if (!name.startsWith("user."))
             continue;
         if (auto copied = copyAttribute(file, model, name.constData()); !copied)
             return copied;
@@ -89,9 +93,12 @@ Result<void> makeLike(int file, int model) {
     struct stat status {};
     if (::fstat(model, &status) != 0)
         return failure(posixError());
-    if (auto permitted = copyPermissions(file, status); !permitted)
+    // While the file may still be written.
+    if (auto copied = copyAttributes(file, model); !copied)
+        return copied;
+    if (auto permitted = copyPermissions(file, model, status); !permitted)
         return permitted;
-    return copyAttributes(file, model);
+    return copyAttribute(file, model, accessList);
 }
 
 } // namespace tembra

@@ -7,6 +7,7 @@
 #include "platform/linux/ExclusiveRename.h"
 #include "platform/linux/FileCoordinatorError.h"
 #include "platform/linux/FileLikeness.h"
+#include "platform/linux/LinuxFileFacts.h"
 #include "platform/linux/PosixError.h"
 
 #include <QUuid>
@@ -118,10 +119,16 @@ Result<void> LinuxFileCoordinator::remove(const QString &path) const {
 }
 
 Result<void> LinuxFileCoordinator::writeTemporary(const QString &path, QByteArrayView bytes,
-                                                  const QString &like) const {
+                                                  const QString &like,
+                                                  const std::optional<Instant> &createdAt) const {
     const FilePlace place(path);
     return DurableFolder::open(place.folder).and_then([&](const DurableFolder &folder) {
-        return writeNew(folder, place.name, bytes, [&](int file) { return finishLike(file, like); });
+        return writeNew(folder, place.name, bytes, [&](int file) {
+            // A file system that keeps no attributes keeps no such date either.
+            if (createdAt)
+                static_cast<void>(recordCreationDate(file, *createdAt));
+            return finishLike(file, like);
+        });
     });
 }
 

@@ -11,8 +11,8 @@ public:
     [[nodiscard]] Result<void> makePrivateFolder(const QString &path) const override;
     [[nodiscard]] Result<void> writeAtomically(const QString &path, QByteArrayView bytes) const override;
     [[nodiscard]] Result<void> remove(const QString &path) const override;
-    [[nodiscard]] Result<void> writeTemporary(const QString &path, QByteArrayView bytes,
-                                              const QString &like) const override;
+    [[nodiscard]] Result<void> writeTemporary(const QString &path, QByteArrayView bytes, const QString &like,
+                                              const std::optional<Instant> &createdAt) const override;
     [[nodiscard]] Result<void> replace(const QString &path, const QString &temporary, QByteArrayView bytes,
                                        const ContentCheck &isExpected) const override;
     [[nodiscard]] Result<void> clearTemporary(const QString &path, const QString &temporary,

@@ -49,6 +49,10 @@ std::uint64_t generation(const Place &place) {
     return stableHash({storage.data() + sizeof(file_handle), handle->handle_bytes});
 }
 
+QByteArray creationDigits(Instant createdAt) {
+    return QByteArray::number(static_cast<qlonglong>(createdAt.time_since_epoch().count()));
+}
+
 std::optional<Instant> recordedCreation(const Place &place) {
     std::array<char, 32> digits{};
     const auto read = place.followsLinks ? ::getxattr : ::lgetxattr;
@@ -153,10 +157,17 @@ Result<void> LinuxFileFactsReader::canReadFolder(const QString &path, bool enume
 }
 
 Result<void> LinuxFileFactsReader::recordCreationDate(const QString &path, Instant createdAt) const {
-    const QByteArray digits =
-        QByteArray::number(static_cast<qlonglong>(createdAt.time_since_epoch().count()));
+    const QByteArray digits = creationDigits(createdAt);
     if (::setxattr(pathBytes(path).constData(), creationAttribute, digits.constData(),
                    static_cast<std::size_t>(digits.size()), 0) != 0)
+        return failure(posixError());
+    return {};
+}
+
+Result<void> recordCreationDate(int descriptor, Instant createdAt) {
+    const QByteArray digits = creationDigits(createdAt);
+    if (::fsetxattr(descriptor, creationAttribute, digits.constData(),
+                    static_cast<std::size_t>(digits.size()), 0) != 0)
         return failure(posixError());
     return {};
 }

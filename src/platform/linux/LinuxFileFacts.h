@@ -38,6 +38,9 @@ private:
     mutable LinuxVolumes m_volumes;
 };
 
+// Notes an open file's date of creation, as LinuxFileFactsReader does by its path.
+Result<void> recordCreationDate(int descriptor, Instant createdAt);
+
 // What statx tells by itself, shared with the reading of whole folders.
 [[nodiscard]] FileKind fileKind(const struct statx &status);
 [[nodiscard]] Instant modificationTime(const struct statx &status);

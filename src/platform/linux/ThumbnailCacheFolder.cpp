@@ -6,6 +6,7 @@
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QImageReader>
 #include <QStandardPaths>
 #include <QTemporaryFile>
@@ -53,12 +54,15 @@ bool makePrivateFolder(const QString &path) {
 }
 
 // The names by which programs know a file: GLib's way to write it, and Qt's, which differs in a few
-// characters.
+// characters; and the same of where links on the way lead.
 QByteArrayList namesOf(const QString &path) {
     QByteArrayList names{ThumbnailCacheFolder::uri(path)};
     const QByteArray other = QUrl::fromLocalFile(path).toEncoded();
     if (path.isValidUtf16() && other != names.first())
         names.append(other);
+    const QString canonical = QFileInfo(path).canonicalFilePath();
+    if (!canonical.isEmpty() && canonical != path)
+        names += namesOf(canonical);
     return names;
 }
 
