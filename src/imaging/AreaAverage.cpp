@@ -84,6 +84,7 @@ void AreaAverage::averageColumns() {
     std::ranges::transform(m_weighted, m_sums.begin(), [](std::uint32_t sum) {
         return static_cast<float>(static_cast<std::int32_t>(sum));
     });
+    constexpr float half = 0.5F;
     unsigned char *result = m_result.data() + m_resultSize;
     for (const Column &column : m_columns) {
         const float *first = m_sums.data() + std::size_t{column.first} * channels;
@@ -94,7 +95,7 @@ void AreaAverage::averageColumns() {
                 between += sum[channel];
             *result++ =
                 static_cast<unsigned char>(first[channel] * column.firstShare + between * m_wholeShare +
-                                           last[channel] * column.lastShare + 0.5F);
+                                           last[channel] * column.lastShare + half);
         }
     }
 }

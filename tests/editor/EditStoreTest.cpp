@@ -35,7 +35,9 @@ QByteArray contentOf(const QString &path) {
 
 int modeOf(const QString &path) {
     struct stat status {};
-    return ::stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & 07777 : -1;
+    return ::stat(QFile::encodeName(path).constData(), &status) == 0
+               ? static_cast<int>(status.st_mode & 07777U)
+               : -1;
 }
 
 class EditStoreTest : public testing::Test {
@@ -120,7 +122,7 @@ TEST_F(EditStoreTest, savesTurnedJpegsUprightAndAsTheyAre) {
     EXPECT_EQ(loaded.size, QSize(90, 120));
     EXPECT_EQ(loaded.type, QStringLiteral("public.jpeg"));
     const auto saved = save(loaded, arrow);
-    QImageReader reader(photo);
+    const QImageReader reader(photo);
     EXPECT_EQ(reader.format(), "jpeg");
     EXPECT_EQ(reader.transformation(), QImageIOHandler::TransformationNone);
     EXPECT_EQ(reader.size(), QSize(90, 120));

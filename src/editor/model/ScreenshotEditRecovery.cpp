@@ -58,7 +58,8 @@ void ScreenshotEditRecovery::settleAll() const {
         if (const auto hash = hashOf(path))
             static_cast<void>(settle(**pending, path, *hash));
         else if (!QFileInfo::exists(path))
-            // It may be found elsewhere, and with it what was pending; what lies here is of no use to anybody.
+            // It may be found elsewhere, and with it what was pending; what lies here is of no use to
+            // anybody.
             static_cast<void>(clearTemporary(**pending, false));
     }
 }
@@ -78,8 +79,8 @@ Result<void> ScreenshotEditRecovery::settle(const Pending &pending, const QStrin
 }
 
 // What lies beside the screenshot is one of the two versions that are known, or, before it took the
-// screenshot's place, a part of the new one. Else it is what another program wrote in that moment, which nobody
-// has seen yet.
+// screenshot's place, a part of the new one. Else it is what another program wrote in that moment, which
+// nobody has seen yet.
 bool ScreenshotEditRecovery::clearTemporary(const Pending &pending, bool wasReplaced) const {
     const QString &name = pending.temporary;
     if (!name.startsWith(ScreenshotEditFolder::temporaryPrefix) || name.contains(u'/'))

@@ -21,7 +21,8 @@ public:
     [[nodiscard]] Result<void> settle(const QString &path, const QString &hash) const;
     // Of the record of the screenshot that is there now.
     [[nodiscard]] Result<void> settle(const QUuid &id, const QString &path) const;
-    // After a save that failed: what it left pending goes, unless the screenshot or a file beside it needs it.
+    // After a save that failed: what it left pending goes, unless the screenshot or a file beside it needs
+    // it.
     void settleFailure(const QUuid &id, const QString &path) const;
     // Of all screenshots that are where they were, with everything else that was left.
     void settleAll() const;
