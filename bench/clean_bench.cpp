@@ -3,6 +3,7 @@
 
 #include "BareLoop.h"
 #include "CaptureFolder.h"
+#include "Scratch.h"
 #include "base/QtScheduler.h"
 #include "base/ThreadQueue.h"
 #include "platform/Platform.h"
@@ -201,7 +202,7 @@ void measureRemoval(const QDir &scratch, Platform &platform, QtScheduler &schedu
 } // namespace
 
 int main(int argc, char **argv) {
-    const QTemporaryDir home(QDir::currentPath() + QStringLiteral("/clean-bench-XXXXXX"));
+    const QTemporaryDir home(scratchTemplate("clean-bench"));
     qputenv("TEMBRA_HOME", QFile::encodeName(home.path()));
     qputenv("XDG_DATA_HOME", QFile::encodeName(home.filePath(QStringLiteral("share"))));
     const QApplication application(argc, argv);

@@ -3,6 +3,7 @@
 
 #include "CaptureFolder.h"
 #include "Row.h"
+#include "Scratch.h"
 #include "base/QtScheduler.h"
 #include "base/ThreadQueue.h"
 #include "platform/Platform.h"
@@ -73,7 +74,7 @@ void rename(const QDir &folder, int number) {
 } // namespace
 
 int main(int argc, char **argv) {
-    const QTemporaryDir home(QDir::currentPath() + QStringLiteral("/latency-bench-XXXXXX"));
+    const QTemporaryDir home(scratchTemplate("latency-bench"));
     qputenv("TEMBRA_HOME", QFile::encodeName(home.path()));
     const QApplication application(argc, argv);
     const QDir folder(home.filePath(QStringLiteral("captures")));

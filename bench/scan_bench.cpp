@@ -4,6 +4,7 @@
 #include "BareLoop.h"
 #include "CaptureFolder.h"
 #include "Row.h"
+#include "Scratch.h"
 #include "platform/linux/LinuxCaptureMarkers.h"
 #include "platform/linux/LinuxFileFacts.h"
 #include "platform/linux/LinuxFolderFiles.h"
@@ -92,7 +93,7 @@ Medians measure(const QString &folder, int count, int rounds) {
 
 int main(int argc, char **argv) {
     const QCoreApplication application(argc, argv);
-    const QTemporaryDir scratch(QDir::currentPath() + QStringLiteral("/scan-bench-XXXXXX"));
+    const QTemporaryDir scratch(scratchTemplate("scan-bench"));
     const QString small = scratch.filePath(QStringLiteral("small"));
     const QString large = scratch.filePath(QStringLiteral("large"));
     fill(small, 10'000);

@@ -6,6 +6,7 @@
 #include "CaptureFolder.h"
 #include "FrameWatch.h"
 #include "Row.h"
+#include "Scratch.h"
 #include "ShelfMeasurement.h"
 
 #include <QDir>
@@ -36,7 +37,7 @@ void print(const Figures &figures) {
 
 // A process of its own for each number of captures, because of the memory.
 int measure(int argc, char **argv, int count) {
-    const QTemporaryDir home(QDir::currentPath() + QStringLiteral("/shelf-bench-XXXXXX"));
+    const QTemporaryDir home(scratchTemplate("shelf-bench"));
     qputenv("HOME", QFile::encodeName(home.path()));
     qputenv("TEMBRA_HOME", QFile::encodeName(home.filePath(QStringLiteral("tembra"))));
     qputenv("TEMBRA_SCREENSHOT_TOOL", "generic");

@@ -3,6 +3,7 @@
 
 #include "InterfacePictures.h"
 #include "Row.h"
+#include "Scratch.h"
 #include "base/QtScheduler.h"
 #include "platform/linux/FreedesktopThumbnails.h"
 
@@ -150,7 +151,7 @@ double programs(const QStringList &captures, const QDir &folder) {
 int main(int argc, char **argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
-    const QTemporaryDir scratch(QDir::currentPath() + QStringLiteral("/thumbnail-bench-XXXXXX"));
+    const QTemporaryDir scratch(scratchTemplate("thumbnail-bench"));
     const QDir folder(scratch.path());
     const QStringList captures = writeCaptures(folder);
     require(folder.mkdir(QStringLiteral("programs")), "cannot write");

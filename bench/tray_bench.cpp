@@ -3,6 +3,7 @@
 
 #include "CaptureFolder.h"
 #include "Row.h"
+#include "Scratch.h"
 #include "base/QtScheduler.h"
 #include "base/ThreadQueue.h"
 #include "platform/linux/InotifyFolderEvents.h"
@@ -157,7 +158,7 @@ void measureEvents(const QStringList &paths) {
 int main(int argc, char **argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
-    const QTemporaryDir folder(QDir::currentPath() + QStringLiteral("/tray-bench-XXXXXX"));
+    const QTemporaryDir folder(scratchTemplate("tray-bench"));
     if (!fillWithCaptures(folder.path(), fileCount)) {
         std::fputs("cannot write files\n", stderr);
         return EXIT_FAILURE;
