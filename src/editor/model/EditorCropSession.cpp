@@ -1,5 +1,7 @@
 #include "editor/model/EditorCropSession.h"
 
+#include "editor/model/RectHandles.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -62,11 +64,10 @@ std::optional<int> EditorCropSession::handleAt(QPointF point, const std::array<Q
 }
 
 std::array<QPointF, 8> EditorCropSession::handlePositions(const QRectF &rect) {
-    const QPointF centre = rect.center();
-    return {rect.topLeft(),     QPointF(centre.x(), rect.top()),
-            rect.topRight(),    QPointF(rect.right(), centre.y()),
-            rect.bottomRight(), QPointF(centre.x(), rect.bottom()),
-            rect.bottomLeft(),  QPointF(rect.left(), centre.y())};
+    std::array<QPointF, 8> positions;
+    for (int handle = 0; handle < rectHandles::count; ++handle)
+        positions.at(static_cast<std::size_t>(handle)) = rectHandles::position(rect, handle);
+    return positions;
 }
 
 EditorCropSession::EditorCropSession(QSizeF imageSize, const std::optional<QRectF> &crop)

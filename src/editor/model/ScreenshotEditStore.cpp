@@ -101,8 +101,8 @@ Result<ScreenshotEditLoaded> ScreenshotEditStore::load(const QString &path,
     if (!match)
         return failure(match.error());
 
+    const auto originalHeader = match->original ? readPictureHeader(*match->original) : header;
     const QByteArray original = std::move(match->original).value_or(*bytes);
-    const auto originalHeader = readPictureHeader(original);
     if (!originalHeader)
         return editFailure(Code::unreadableOriginal);
     const bool isNew = !match->record;
