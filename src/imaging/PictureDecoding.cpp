@@ -2,6 +2,7 @@
 
 #include "imaging/AreaAverage.h"
 #include "imaging/JpegDecoder.h"
+#include "imaging/Opacity.h"
 #include "imaging/PageBuffer.h"
 #include "imaging/PictureLimits.h"
 #include "imaging/PngInfo.h"
@@ -34,16 +35,6 @@ QSize reducedSize(QSize size, int side) {
         return static_cast<int>(std::max<qint64>(1, (qint64{length} * side + longest / 2) / longest));
     };
     return {reduced(size.width()), reduced(size.height())};
-}
-
-bool isOpaque(const QImage &image) {
-    QRgb alphas = 0xffff'ffff;
-    for (int y = 0; y < image.height(); ++y) {
-        const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
-        for (int x = 0; x < image.width(); ++x)
-            alphas &= line[x];
-    }
-    return qAlpha(alphas) == 255;
 }
 
 QImage upright(const QImage &image, int orientation) {

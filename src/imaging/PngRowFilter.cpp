@@ -1,5 +1,7 @@
 #include "imaging/PngRowFilter.h"
 
+#include "imaging/Opacity.h"
+
 #include <QtEndian>
 
 #include <algorithm>
@@ -18,20 +20,6 @@ using Byte = unsigned char;
 constexpr double mostlyUneven = 0.5;
 constexpr double hardlyUneven = 0.08;
 constexpr double unevenRow = 0.2;
-
-bool isOpaque(const QImage &image) {
-    if (!image.hasAlphaChannel())
-        return true;
-    for (int y = 0; y < image.height(); ++y) {
-        const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
-        QRgb alphas = 0xffff'ffff;
-        for (int x = 0; x < image.width(); ++x)
-            alphas &= line[x];
-        if (qAlpha(alphas) != 255)
-            return false;
-    }
-    return true;
-}
 
 // The share of a row's pixels that differ from both the left and the upper neighbour.
 double unevenness(const QImage &image, int y) {

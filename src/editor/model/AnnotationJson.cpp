@@ -1,5 +1,7 @@
 #include "editor/model/AnnotationJson.h"
 
+#include "editor/model/UuidText.h"
+
 #include <algorithm>
 #include <array>
 #include <string>
@@ -128,7 +130,7 @@ void insert(Json &json, const char *key, const std::optional<Value> &value) {
 } // namespace
 
 Json toJson(const QUuid &id) {
-    return id.toString(QUuid::WithoutBraces).toUpper().toStdString();
+    return uuidText(id).toStdString();
 }
 
 Json toJson(const ScreenshotAnnotation &annotation) {

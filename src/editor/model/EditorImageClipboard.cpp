@@ -1,8 +1,9 @@
 #include "editor/model/EditorImageClipboard.h"
 
+#include "editor/model/UuidText.h"
+
 #include <QDir>
 #include <QFileInfo>
-#include <QUuid>
 
 namespace tembra {
 
@@ -22,7 +23,7 @@ QString shortened(QString name) {
 
 Result<QString> EditorImageClipboard::prepare(const QByteArray &png, const QString &source,
                                               const QString &root, const FileCoordinator &files) {
-    const QString id = QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper();
+    const QString id = uuidText(QUuid::createUuid());
     const QString folder = root + u'/' + folderPrefix + id;
     const QString file =
         folder + u'/' + shortened(QFileInfo(source).completeBaseName()) + QStringLiteral(".png");

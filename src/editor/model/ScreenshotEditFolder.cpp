@@ -1,6 +1,7 @@
 #include "editor/model/ScreenshotEditFolder.h"
 
 #include "editor/model/ScreenshotEditError.h"
+#include "editor/model/UuidText.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -15,10 +16,6 @@ namespace {
 const QString recordName = QStringLiteral("record.json");
 const QString pendingName = QStringLiteral("pending.json");
 const QString originalName = QStringLiteral("original");
-
-QString folderName(const QUuid &id) {
-    return id.toString(QUuid::WithoutBraces).toUpper();
-}
 
 // The file is not there, or nobody here may ever read it: what is said of others stands.
 bool isAbsence(const Error &error) {
@@ -39,7 +36,7 @@ ScreenshotEditFolder::ScreenshotEditFolder(QString root, const FileCoordinator &
     : m_root(std::move(root)), m_files(files) {}
 
 QString ScreenshotEditFolder::folder(const QUuid &id) const {
-    return m_root + u'/' + folderName(id);
+    return m_root + u'/' + uuidText(id);
 }
 
 std::vector<QUuid> ScreenshotEditFolder::ids() const {
@@ -47,7 +44,7 @@ std::vector<QUuid> ScreenshotEditFolder::ids() const {
     const QStringList names = QDir(m_root).entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks);
     for (const QString &name : names) {
         const QUuid id = QUuid::fromString(name);
-        if (!id.isNull() && folderName(id) == name)
+        if (!id.isNull() && uuidText(id) == name)
             ids.push_back(id);
     }
     return ids;

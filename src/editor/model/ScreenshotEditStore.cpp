@@ -5,6 +5,7 @@
 #include "editor/model/EditorCropSession.h"
 #include "editor/model/ScreenshotEditError.h"
 #include "editor/model/ScreenshotRenderer.h"
+#include "editor/model/UuidText.h"
 #include "imaging/PictureHeader.h"
 #include "imaging/Sha256.h"
 #include "settings/CocoaError.h"
@@ -36,10 +37,6 @@ bool tellsOfChange(const Error &error) {
 
 FileCoordinator::ContentCheck contentOf(const QString &hash) {
     return [hash](QByteArrayView bytes) { return sha256Hex(bytes) == hash; };
-}
-
-QString newId() {
-    return QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper();
 }
 
 QString extensionOf(const QString &path) {
@@ -148,7 +145,8 @@ Result<ScreenshotEditSaved> ScreenshotEditStore::save(const Loaded &loaded,
     if (!bytes)
         return failure(bytes.error());
 
-    const QString temporary = ScreenshotEditFolder::temporaryPrefix + newId() + shortExtensionOf(path);
+    const QString temporary =
+        ScreenshotEditFolder::temporaryPrefix + uuidText(QUuid::createUuid()) + shortExtensionOf(path);
     Record record = loaded.record;
     record.path = path;
     record.fingerprint = sha256Hex(*bytes);
