@@ -1,4 +1,5 @@
 #include "editor/model/AnnotationOutline.h"
+#include "editor/model/GrownRect.h"
 #include "editor/model/NumberBadge.h"
 #include "editor/model/RectHandles.h"
 #include "editor/model/ScreenshotAnnotation.h"
@@ -30,10 +31,6 @@ bool isNear(const QPainterPath &path, QPointF point, double tolerance) {
         }
     }
     return false;
-}
-
-QRectF grown(const QRectF &rect, double margin) {
-    return rect.adjusted(-margin, -margin, margin, margin);
 }
 
 // A rectangle moved as little as it must be to lie within others; centred where it is larger.

@@ -1,6 +1,7 @@
 #include "editor/model/MarkPainting.h"
 
 #include "editor/model/ContrastColor.h"
+#include "editor/model/GrownRect.h"
 
 #include <QImage>
 #include <QPaintDevice>
@@ -36,8 +37,8 @@ QPolygonF cut(const QPolygonF &polygon, Depth depth) {
 // The same where it is seen, for a shape that reaches so far that the rasteriser would take its time.
 QPainterPath withinReach(const QPainterPath &shape, const QRectF &visible) {
     const double margin = std::max(visible.width(), visible.height());
-    const QRectF kept = visible.adjusted(-margin, -margin, margin, margin);
-    const QRectF tolerated = kept.adjusted(-4 * margin, -4 * margin, 4 * margin, 4 * margin);
+    const QRectF kept = grown(visible, margin);
+    const QRectF tolerated = grown(kept, 4 * margin);
     if (tolerated.contains(shape.boundingRect()))
         return shape;
     QPainterPath result;
@@ -79,8 +80,7 @@ QRect deviceRect(const QPainter &painter) {
 }
 
 QRectF reach(const Mark &mark) {
-    const double margin = mark.haloWidth;
-    return mark.shape.boundingRect().adjusted(-margin, -margin, margin, margin);
+    return grown(mark.shape.boundingRect(), mark.haloWidth);
 }
 
 // The halo without what lies beneath the shape, made on a layer of its own.

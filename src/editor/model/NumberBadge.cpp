@@ -1,6 +1,7 @@
 #include "editor/model/NumberBadge.h"
 
 #include "editor/model/AnnotationFont.h"
+#include "editor/model/GrownRect.h"
 
 #include <QString>
 #include <QTransform>
@@ -35,10 +36,6 @@ QPainterPath pill(const QRectF &rect) {
     return path;
 }
 
-QRectF around(const QRectF &rect, double margin) {
-    return rect.adjusted(-margin, -margin, margin, margin);
-}
-
 } // namespace
 
 NumberBadge NumberBadge::of(const EditorNumber &number, QPointF center) {
@@ -67,7 +64,7 @@ QPainterPath NumberBadge::outline() const {
 }
 
 QPainterPath NumberBadge::rim(double growth) const {
-    QPainterPath path = pill(around(body, rimWidth + growth));
+    QPainterPath path = pill(grown(body, rimWidth + growth));
     path.addPath(outline().toReversed());
     return path;
 }

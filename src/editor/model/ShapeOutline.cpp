@@ -1,5 +1,6 @@
 #include "editor/model/ShapeOutline.h"
 
+#include "editor/model/GrownRect.h"
 #include "editor/model/StrokeOutline.h"
 
 #include <QPainterPathStroker>
@@ -24,10 +25,6 @@ QPainterPath rounded(const QRectF &rect, double radius) {
     QPainterPath path = empty();
     path.addRoundedRect(rect, radius, radius);
     return path;
-}
-
-QRectF grown(const QRectF &rect, double margin) {
-    return rect.adjusted(-margin, -margin, margin, margin);
 }
 
 double shorterSide(const QRectF &rect) {
