@@ -18,13 +18,6 @@ namespace {
 // A file that was made longer ago than this was moved here, it is no new capture.
 constexpr auto fresh = 2min;
 
-QString stampOf(const FileVersion &version) {
-    return QStringLiteral("%1-%2-%3")
-        .arg(Shot::revision(version.size, version.modifiedAt))
-        .arg(version.changedAt.time_since_epoch().count(), 0, 16)
-        .arg(version.inode, 0, 16);
-}
-
 QStringView lastPart(QStringView path) {
     return path.sliced(path.lastIndexOf(u'/') + 1);
 }
@@ -107,7 +100,7 @@ void FolderReader::judge(Entry &entry, const FolderFiles::Listed &listed, const 
     const FileFacts facts = (*file)->facts();
     entry.shot = {.location = location,
                   .identity = ScreenshotFileIdentity::of(location, facts),
-                  .stamp = stampOf(entry.version),
+                  .stamp = Shot::stampOf(entry.version),
                   .createdAt = facts.createdAt.value_or(entry.version.modifiedAt)};
     entry.isFresh = std::max(entry.shot.createdAt, entry.version.modifiedAt) > request.now - fresh;
 }

@@ -2,6 +2,7 @@
 
 #include "platform/FileFacts.h"
 #include "platform/FileReferences.h"
+#include "platform/FileVersion.h"
 
 namespace tembra {
 
@@ -26,6 +27,13 @@ QString Shot::currentPath(const FileFactsReader &facts, const FileReferences &re
 
 QString Shot::revision(std::uint64_t size, Instant modifiedAt) {
     return QStringLiteral("%1-%2").arg(size, 0, 16).arg(modifiedAt.time_since_epoch().count(), 0, 16);
+}
+
+QString Shot::stampOf(const FileVersion &version) {
+    return QStringLiteral("%1-%2-%3")
+        .arg(revision(version.size, version.modifiedAt))
+        .arg(version.changedAt.time_since_epoch().count(), 0, 16)
+        .arg(version.inode, 0, 16);
 }
 
 bool Shot::hasRevision(QStringView revision) const {

@@ -10,6 +10,7 @@ namespace tembra {
 
 class FileFactsReader;
 class FileReferences;
+struct FileVersion;
 
 // One screenshot or recording. A value, one per file.
 struct Shot {
@@ -28,6 +29,8 @@ struct Shot {
 
     // Of a file's content, as far as its size in bytes and its date tell it.
     [[nodiscard]] static QString revision(std::uint64_t size, Instant modifiedAt);
+    // Of a version of a file.
+    [[nodiscard]] static QString stampOf(const FileVersion &version);
     [[nodiscard]] bool hasRevision(QStringView revision) const;
 
     bool operator==(const Shot &) const = default;

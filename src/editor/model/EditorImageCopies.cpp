@@ -12,6 +12,12 @@
 
 namespace tembra {
 
+namespace {
+
+constexpr std::size_t keptDrags = 8;
+
+} // namespace
+
 EditorImageCopies::EditorImageCopies(QString root, Services services)
     : m_root(std::move(root)), m_services(services) {
     m_services.pasteboard.onChanged = [this] { clipboardChanged(); };
@@ -19,6 +25,9 @@ EditorImageCopies::EditorImageCopies(QString root, Services services)
 
 EditorImageCopies::~EditorImageCopies() {
     m_services.pasteboard.onChanged = {};
+    // The queue may end before it comes to this.
+    for (const QString &file : m_dragged)
+        EditorImageClipboard::discard(file);
 }
 
 void EditorImageCopies::copy(const QByteArray &png, const QString &source,
@@ -32,6 +41,29 @@ void EditorImageCopies::copy(const QByteArray &png, const QString &source,
         [this, png, completion = std::move(completion)](const Result<QString> &file) {
             completion(file ? write(png, *file) : failure(file.error()));
         });
+}
+
+void EditorImageCopies::prepareDrag(const QByteArray &png, const QString &source,
+                                    std::function<void(Result<QString>)> completion) {
+    requireMainThread();
+    performInBackground(
+        m_services.queue, m_services.scheduler, m_generation.ticket(),
+        [png, source, root = m_root, &files = m_services.files] {
+            return EditorImageClipboard::prepare(png, source, root, files);
+        },
+        [this, completion = std::move(completion)](const Result<QString> &file) {
+            if (file)
+                keepDragged(*file);
+            completion(file);
+        });
+}
+
+void EditorImageCopies::keepDragged(const QString &file) {
+    m_dragged.push_back(file);
+    if (m_dragged.size() <= keptDrags)
+        return;
+    discard(m_dragged.front());
+    m_dragged.pop_front();
 }
 
 Result<void> EditorImageCopies::write(const QByteArray &png, const QString &file) {

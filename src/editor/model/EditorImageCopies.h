@@ -11,12 +11,14 @@
 #include <QString>
 
 #include <cstdint>
+#include <deque>
 #include <functional>
 
 namespace tembra {
 
 // The prepared copies of rendered images: made when one is copied, and discarded as soon as something else is
-// on the clipboard. Main thread; made by the composition root.
+// on the clipboard; and made when one is dragged, and kept for a while, since a program may read what was
+// dropped on it much later. Main thread; made by the composition root.
 class EditorImageCopies {
 public:
     struct Services {
@@ -41,11 +43,15 @@ public:
 
     // Puts the PNG of the screenshot at `source` on the clipboard.
     void copy(const QByteArray &png, const QString &source, std::function<void(Result<void>)> completion);
+    // Gives a file with the PNG of the screenshot at `source` to be dragged into other programs.
+    void prepareDrag(const QByteArray &png, const QString &source,
+                     std::function<void(Result<QString>)> completion);
     // What an earlier run of the program left.
     void discardAll();
 
 private:
     [[nodiscard]] Result<void> write(const QByteArray &png, const QString &file);
+    void keepDragged(const QString &file);
     void discard(const QString &file);
     void clipboardChanged();
 
@@ -55,6 +61,8 @@ private:
     QString m_current;
     // Of the clipboard, when that was put there.
     std::int64_t m_changeCount = 0;
+    // The last ones, until the end of the program.
+    std::deque<QString> m_dragged;
     Generation m_generation;
 };
 
