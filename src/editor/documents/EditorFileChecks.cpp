@@ -39,6 +39,8 @@ void EditorFileChecks::checked(EditorDocumentId id, const ScreenshotEditLoaded &
     // We have written or renamed it in between; then what was looked for is no more.
     const bool isOutdated =
         document.loaded.path != asked.path || document.loaded.expectedHash != asked.expectedHash;
+    if (!isOutdated && found.finding != EditorFileCheck::Finding::unknown)
+        document.seen = found.version;
     if (isOutdated || m_isAskedAgain)
         check();
     if (!isOutdated)
@@ -50,7 +52,6 @@ void EditorFileChecks::apply(EditorDocument &document, const EditorFileCheck &fo
     using State = EditorDocument::FileState;
     if (found.finding == Finding::unknown)
         return;
-    document.seen = found.version;
     const auto life = m_generation.ticket();
     if (found.path != document.loaded.path) {
         document.follow(found.path);
