@@ -188,10 +188,6 @@ void EditorDocuments::discardAll() {
     }
 }
 
-bool EditorDocuments::canClose() const {
-    return unsavedDocuments().empty() && m_tasks.isIdle() && m_exports.isIdle();
-}
-
 void EditorDocuments::save(Completion completion) {
     save(current() ? current()->id : Id::none, std::move(completion));
 }

@@ -76,8 +76,10 @@ public:
     // Gives up the unsaved edits with the document; when it is the current one, none is current.
     void discard(Id id);
     void discardAll();
+    // Something is being written, rendered or copied.
+    [[nodiscard]] bool isBusy() const { return !m_tasks.isIdle() || !m_exports.isIdle(); }
     // Nothing would be lost.
-    [[nodiscard]] bool canClose() const;
+    [[nodiscard]] bool canClose() const { return !isBusy() && unsavedDocuments().empty(); }
 
     // The current document; what is edited meanwhile stays unsaved.
     void save(Completion completion = {});

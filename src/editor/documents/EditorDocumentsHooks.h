@@ -10,7 +10,7 @@
 
 namespace tembra {
 
-// What the shelf is told and asked. Main thread.
+// What the shelf is told and asked, at the latest by the end of EditorDocuments. Main thread.
 struct EditorDocumentsHooks {
     // A file is about to be written for the screenshot. Always followed by `finishWrite`, before the next.
     std::function<void(const Shot &)> beginSave;

@@ -68,6 +68,8 @@ TEST_F(EditorDocumentsTest, showsTheLastOfThoseThatAreOpenedAtOnce) {
     EXPECT_EQ(documents->name(), QStringLiteral("c"));
     EXPECT_EQ(switches, 2);
     EXPECT_TRUE(failures.empty());
+    EXPECT_EQ(QDir(path(QStringLiteral("edits"))).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 2)
+        << "b was not even read";
 
     documents->open(shot(QStringLiteral("b.png")), {});
     documents->open(shot(QStringLiteral("c.png")), {});
