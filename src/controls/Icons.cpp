@@ -15,22 +15,54 @@ namespace {
 
 QString fileName(Icon icon) {
     switch (icon) {
+    case Icon::arrow:
+        return QStringLiteral("arrow");
+    case Icon::blur:
+        return QStringLiteral("blur");
+    case Icon::close:
+        return QStringLiteral("close");
+    case Icon::crop:
+        return QStringLiteral("crop");
+    case Icon::cursor:
+        return QStringLiteral("cursor");
     case Icon::document:
         return QStringLiteral("document");
+    case Icon::dragOut:
+        return QStringLiteral("drag-out");
+    case Icon::ellipse:
+        return QStringLiteral("ellipse");
+    case Icon::fill:
+        return QStringLiteral("fill");
     case Icon::film:
         return QStringLiteral("film");
     case Icon::folder:
         return QStringLiteral("folder");
     case Icon::gear:
         return QStringLiteral("gear");
-    case Icon::statusBar:
-        return QStringLiteral("status-bar");
+    case Icon::line:
+        return QStringLiteral("line");
+    case Icon::more:
+        return QStringLiteral("more");
+    case Icon::number:
+        return QStringLiteral("number");
+    case Icon::pencil:
+        return QStringLiteral("pencil");
     case Icon::photo:
         return QStringLiteral("photo");
     case Icon::pin:
         return QStringLiteral("pin");
+    case Icon::rectangle:
+        return QStringLiteral("rectangle");
+    case Icon::statusBar:
+        return QStringLiteral("status-bar");
+    case Icon::text:
+        return QStringLiteral("text");
+    case Icon::textBackground:
+        return QStringLiteral("text-background");
     case Icon::textViewfinder:
         return QStringLiteral("text-viewfinder");
+    case Icon::warning:
+        return QStringLiteral("warning");
     }
     Q_UNREACHABLE();
 }

@@ -9,7 +9,32 @@ class QRectF;
 namespace tembra {
 
 // The program's own drawings, made on a field of 16 points.
-enum class Icon { document, film, folder, gear, photo, pin, statusBar, textViewfinder };
+enum class Icon {
+    arrow,
+    blur,
+    close,
+    crop,
+    cursor,
+    document,
+    dragOut,
+    ellipse,
+    fill,
+    film,
+    folder,
+    gear,
+    line,
+    more,
+    number,
+    pencil,
+    photo,
+    pin,
+    rectangle,
+    statusBar,
+    text,
+    textBackground,
+    textViewfinder,
+    warning
+};
 
 // The icon in one colour, rendered for the exact number of device pixels; kept by size, scale and colour.
 // Main thread.

@@ -1,6 +1,6 @@
 #include "controls/ShelfMenu.h"
 
-#include "controls/Palette.h"
+#include "controls/Theme.h"
 #include "controls/Typography.h"
 
 namespace tembra {
@@ -15,15 +15,15 @@ QString css(const QColor &color) {
         .arg(color.alpha());
 }
 
-QString shelfStyle() {
+QString menuStyle(const Theme &theme) {
     return QStringLiteral("QMenu { background: %1; border: 1px solid %2; border-radius: 10px; padding: 5px; }"
                           "QMenu::item { color: %3; padding: 5px 22px 5px 12px; border-radius: 6px; }"
                           "QMenu::item:selected { background: %4; color: %5; }"
                           "QMenu::item:disabled { color: %6; background: transparent; }"
                           "QMenu::icon { padding-left: 8px; }"
                           "QMenu::separator { height: 1px; background: %2; margin: 5px 10px; }")
-        .arg(css(palette::menu), css(palette::menuBorder), css(palette::text), css(palette::accent),
-             css(palette::onAccent), css(palette::secondaryText));
+        .arg(css(theme.popup), css(theme.popupBorder), css(theme.text), css(theme.accent),
+             css(theme.onAccent), css(theme.secondaryText));
 }
 
 } // namespace
@@ -33,7 +33,7 @@ ShelfMenu::ShelfMenu(QWidget *parent) : QMenu(parent) {
     setWindowFlag(Qt::FramelessWindowHint);
     setWindowFlag(Qt::NoDropShadowWindowHint);
     setFont(typography::font(typography::itemSize));
-    setStyleSheet(shelfStyle());
+    setStyleSheet(menuStyle(Theme::of(*this)));
 }
 
 QAction *ShelfMenu::add(const QString &title, const std::function<void()> &action) {

@@ -6,8 +6,8 @@
 
 namespace tembra {
 
-// A menu in the shelf's colours. The program's own, so that it is dark beside the dark panel whatever the
-// desktop's style is.
+// A menu in the colours of the widget that it belongs to, the shelf's where it belongs to none. The program's
+// own, so that it is dark beside the dark panel whatever the desktop's style is.
 class ShelfMenu final : public QMenu {
     Q_OBJECT
 

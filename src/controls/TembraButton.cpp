@@ -22,6 +22,8 @@ Measures measures(TembraButton::Size size) {
     switch (size) {
     case TembraButton::Size::compact:
         return {27, 12, 7, typography::itemSize};
+    case TembraButton::Size::bar:
+        return {28, 14, 8, typography::bodySize};
     case TembraButton::Size::regular:
         return {30, 14, 8, typography::bodySize};
     case TembraButton::Size::large:

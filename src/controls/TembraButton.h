@@ -11,8 +11,8 @@ class TembraButton final : public PaintedButton {
 public:
     // `primary` stands out; `plain` stands back; `accent` is the one that keeps what was done.
     enum class Kind { primary, plain, accent };
-    // `compact` fits a settings row or a window's header; `large` is the only one on its page.
-    enum class Size { compact, regular, large };
+    // `compact` fits a settings row, `bar` the bar along a window's top; `large` is the only one on its page.
+    enum class Size { compact, bar, regular, large };
 
     explicit TembraButton(Kind kind = Kind::primary, QWidget *parent = nullptr);
     TembraButton(Kind kind, Size size, const QString &title, QWidget *parent = nullptr);

@@ -49,7 +49,13 @@ Theme darkTheme() {
             .popup{44, 44, 49},
             .popupBorder{66, 66, 73},
             .scroller = palette::scrollerKnob,
-            .scrollerActive = palette::scrollerKnobActive};
+            .scrollerActive = palette::scrollerKnobActive,
+            .dock{38, 38, 43, 247},
+            .dockBorder{255, 255, 255, 10},
+            .dockSeparator{58, 59, 63},
+            .dockIcon{184, 186, 193},
+            .edge{0, 0, 0},
+            .unsaved{251, 160, 52}};
 }
 
 Theme lightTheme() {
@@ -88,7 +94,13 @@ Theme lightTheme() {
             .popup{255, 255, 255},
             .popupBorder{209, 209, 215},
             .scroller{0, 0, 0, 70},
-            .scrollerActive{0, 0, 0, 120}};
+            .scrollerActive{0, 0, 0, 120},
+            .dock{255, 255, 255, 247},
+            .dockBorder{0, 0, 0, 26},
+            .dockSeparator{222, 222, 228},
+            .dockIcon{72, 72, 80},
+            .edge{212, 212, 219},
+            .unsaved{217, 119, 6}};
 }
 
 Theme shelfTheme() {

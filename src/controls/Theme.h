@@ -24,6 +24,9 @@ struct Theme {
     QColor link, focusRing, selection;
     QColor popup, popupBorder;
     QColor scroller, scrollerActive;
+    // What floats over a canvas and what lies beside it.
+    QColor dock, dockBorder, dockSeparator, dockIcon;
+    QColor edge, unsaved;
 
     static constexpr qreal disabledOpacity = 0.4;
 

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QPixmap>
+#include <QWidget>
+
+namespace tembra {
+
+// The soft shadow of a widget with round corners that floats over others: lies right below it in the same
+// parent, follows it, and lets the pointer through. Owned by that parent; goes with the widget.
+class FloatingShadow final : public QWidget {
+public:
+    FloatingShadow(QWidget &owner, qreal radius);
+
+    // The part of the owner that casts it.
+    void setBody(const QRect &body);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void follow();
+    [[nodiscard]] QPixmap render(qreal scale, qreal strength) const;
+
+    QWidget &m_owner;
+    const qreal m_radius;
+    QRect m_body;
+};
+
+} // namespace tembra
