@@ -23,6 +23,7 @@ struct Theme {
     QColor toolTip, toolTipText;
     QColor link, focusRing, selection;
     QColor popup, popupBorder;
+    QColor canvas;
     QColor scroller, scrollerActive;
     // What floats over a canvas and what lies beside it.
     QColor dock, dockBorder, dockSeparator, dockIcon;

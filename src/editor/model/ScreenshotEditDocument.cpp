@@ -15,16 +15,30 @@ class ScreenshotEditDocument::Change final : public QUndoCommand {
 public:
     using State = std::shared_ptr<const ScreenshotEdits>;
 
-    Change(ScreenshotEditDocument &document, State before, State after, const QString &name)
-        : QUndoCommand(name), m_document(document), m_before(std::move(before)), m_after(std::move(after)) {}
+    Change(ScreenshotEditDocument &document, State before, State after, const QString &name, QString series)
+        : QUndoCommand(name),
+          m_document(document),
+          m_before(std::move(before)),
+          m_after(std::move(after)),
+          m_series(std::move(series)) {}
 
     void undo() override { m_document.set(m_before); }
     void redo() override { m_document.set(m_after); }
 
+    int id() const override { return m_series.isEmpty() ? -1 : 1; }
+    bool mergeWith(const QUndoCommand *next) override {
+        const auto &change = static_cast<const Change &>(*next);
+        if (change.m_series != m_series)
+            return false;
+        m_after = change.m_after;
+        return true;
+    }
+
 private:
     ScreenshotEditDocument &m_document;
     const State m_before;
-    const State m_after;
+    State m_after;
+    const QString m_series;
 };
 
 namespace {
@@ -138,13 +152,14 @@ void ScreenshotEditDocument::applyCrop(const std::optional<QRectF> &crop) {
 }
 
 void ScreenshotEditDocument::apply(std::vector<ScreenshotAnnotation> annotations, std::optional<QRectF> crop,
-                                   const QString &name) {
+                                   const QString &name, const QString &series) {
     requireMainThread();
     m_editingBegan = true;
     // Pushing does the change.
     m_history.push(new Change(
         *this, m_edits,
-        std::make_shared<const ScreenshotEdits>(ScreenshotEdits{std::move(annotations), crop}), name));
+        std::make_shared<const ScreenshotEdits>(ScreenshotEdits{std::move(annotations), crop}), name,
+        series));
 }
 
 void ScreenshotEditDocument::set(std::shared_ptr<const ScreenshotEdits> edits) {

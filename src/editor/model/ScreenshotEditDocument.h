@@ -64,9 +64,10 @@ public:
 
     void deleteSelection();
     void applyCrop(const std::optional<QRectF> &crop);
-    // Every change goes through this and can be undone under its name. The selection keeps what remains.
-    void apply(std::vector<ScreenshotAnnotation> annotations, std::optional<QRectF> crop,
-               const QString &name);
+    // Every change goes through this and can be undone under its name. Changes of the same series that follow
+    // each other are one step. The selection keeps what remains.
+    void apply(std::vector<ScreenshotAnnotation> annotations, std::optional<QRectF> crop, const QString &name,
+               const QString &series = {});
 
 private:
     class Change;

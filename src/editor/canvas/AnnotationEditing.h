@@ -1,0 +1,43 @@
+#pragma once
+
+#include "editor/model/EditorStyle.h"
+#include "editor/model/EditorStyleChange.h"
+#include "editor/model/ScreenshotAnnotation.h"
+
+#include <QSizeF>
+
+#include <optional>
+#include <utility>
+
+// How annotations are made and changed, as functions of values. Image space.
+namespace tembra::annotationEditing {
+
+// The least and the greatest size (EditorStyle.h) that an annotation of a kind can have.
+[[nodiscard]] std::pair<double, double> sizeLimits(ScreenshotAnnotation::Kind kind);
+// How many pixels of an image stand for one of an ordinary window's, so that what is drawn looks as large on
+// a large image.
+[[nodiscard]] double imageUnit(QSizeF image);
+// The next size from one, by so many steps of a twelfth and at least a pixel.
+[[nodiscard]] double steppedSize(double size, int steps);
+
+// With an id of its own, and no points yet.
+[[nodiscard]] ScreenshotAnnotation made(ScreenshotAnnotation::Kind kind, const EditorStyle &style);
+[[nodiscard]] EditorStyle styleOf(const ScreenshotAnnotation &annotation);
+// A change has no effect on what the kind does not have. A badge stays within `limits`.
+[[nodiscard]] ScreenshotAnnotation restyled(const ScreenshotAnnotation &annotation,
+                                            const EditorStyleChange &change, const QRectF &limits);
+[[nodiscard]] ScreenshotAnnotation moved(const ScreenshotAnnotation &annotation, QPointF delta);
+// A rectangle, or an end, moved as keys do; others stay.
+[[nodiscard]] ScreenshotAnnotation grownBy(const ScreenshotAnnotation &annotation, QPointF delta,
+                                           const QRectF &limits);
+// An end of a line or arrow there, or its bend; the bend keeps its place between the ends.
+[[nodiscard]] ScreenshotAnnotation withPoint(const ScreenshotAnnotation &annotation, std::size_t index,
+                                             QPointF point);
+
+// The nearest point to `point` that lies from `origin` at a multiple of 45°.
+[[nodiscard]] QPointF constrainedTo45(QPointF origin, QPointF point);
+// The point that makes a square with `origin`, as large as the longer side.
+[[nodiscard]] QPointF constrainedToSquare(QPointF origin, QPointF point);
+[[nodiscard]] QPointF clampedTo(QPointF point, const QRectF &limits);
+
+} // namespace tembra::annotationEditing

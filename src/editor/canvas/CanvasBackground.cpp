@@ -1,0 +1,81 @@
+#include "editor/canvas/CanvasBackground.h"
+
+#include "editor/model/GrownRect.h"
+
+#include <cmath>
+
+namespace tembra {
+
+namespace {
+
+constexpr int dotDistance = 22;
+constexpr int chequerSide = 8;
+// The display's pixels for a pixel of the image.
+constexpr double gridScale = 10;
+
+void drawDots(QPainter &painter, QSizeF view, const QColor &color) {
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(color);
+    for (int y = dotDistance / 2; y < view.height(); y += dotDistance) {
+        for (int x = dotDistance / 2; x < view.width(); x += dotDistance)
+            painter.fillRect(QRectF(x, y, 1, 1), color);
+    }
+}
+
+void drawShadow(QPainter &painter, const QRectF &image) {
+    constexpr int reach = 16;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(Qt::NoBrush);
+    for (int distance = 1; distance <= reach; ++distance) {
+        const double rest = 1 - static_cast<double>(distance) / (reach + 1);
+        painter.setPen(QPen(QColor::fromRgbF(0, 0, 0, static_cast<float>(0.16 * rest * rest)), 1));
+        painter.drawRoundedRect(grown(image.translated(0, 3), distance - 0.5), distance, distance);
+    }
+    painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
+void drawChequerboard(QPainter &painter, const QRectF &area) {
+    QImage tile(2 * chequerSide, 2 * chequerSide, QImage::Format_RGB32);
+    tile.fill(QColor(255, 255, 255));
+    QPainter tilePainter(&tile);
+    tilePainter.fillRect(0, 0, chequerSide, chequerSide, QColor(226, 226, 230));
+    tilePainter.fillRect(chequerSide, chequerSide, chequerSide, chequerSide, QColor(226, 226, 230));
+    tilePainter.end();
+    painter.setBrushOrigin(area.topLeft());
+    painter.fillRect(area, QBrush(tile));
+}
+
+} // namespace
+
+void drawCanvasBackground(QPainter &painter, const CanvasScene &scene) {
+    const QSizeF view = scene.viewport.viewSize();
+    painter.fillRect(QRectF(QPointF(), view), scene.background);
+    drawDots(painter, view, scene.dots);
+    const QRectF image = scene.viewport.toView(scene.viewport.content());
+    drawShadow(painter, image);
+    const bool isTransparent =
+        scene.image && !scene.image->isNull() && scene.image->level(0).image.hasAlphaChannel();
+    if (isTransparent)
+        drawChequerboard(painter, image & QRectF(QPointF(), view));
+}
+
+void drawPixelGrid(QPainter &painter, const CanvasViewport &viewport, const QRectF &exposed) {
+    if (viewport.scale() < gridScale)
+        return;
+    const QRectF seen = viewport.toImage(exposed) & viewport.content();
+    const double least = 1 / viewport.displayScale();
+    for (const QColor &color : {QColor(0, 0, 0, 38), QColor(255, 255, 255, 26)}) {
+        const double shift = color.red() == 0 ? 0 : least;
+        for (double x = std::ceil(seen.left()); x <= seen.right(); ++x) {
+            const QPointF top = viewport.toView(QPointF(x, seen.top()));
+            painter.fillRect(QRectF(top.x() + shift, top.y(), least, seen.height() * viewport.zoom()), color);
+        }
+        for (double y = std::ceil(seen.top()); y <= seen.bottom(); ++y) {
+            const QPointF left = viewport.toView(QPointF(seen.left(), y));
+            painter.fillRect(QRectF(left.x(), left.y() + shift, seen.width() * viewport.zoom(), least),
+                             color);
+        }
+    }
+}
+
+} // namespace tembra

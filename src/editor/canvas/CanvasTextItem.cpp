@@ -1,0 +1,139 @@
+#include "editor/canvas/CanvasTextItem.h"
+
+#include "editor/model/AnnotationFont.h"
+#include "editor/model/AnnotationText.h"
+
+#include <QClipboard>
+#include <QGraphicsSceneMouseEvent>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QTextCursor>
+#include <QTextDocument>
+
+#include <algorithm>
+#include <cmath>
+
+namespace tembra {
+
+namespace {
+
+constexpr int longestText = 100'000;
+
+} // namespace
+
+CanvasTextItem::CanvasTextItem(ScreenshotAnnotation annotation) : m_annotation(std::move(annotation)) {
+    setTextInteractionFlags(Qt::TextEditorInteraction);
+    setTabChangesFocus(true);
+    document()->setDocumentMargin(0);
+    document()->setUndoRedoEnabled(false);
+    setPlainText(m_annotation.text->string);
+    document()->setUndoRedoEnabled(true);
+    applyStyle();
+    connect(document(), &QTextDocument::contentsChanged, this, [this] { typed(); });
+}
+
+void CanvasTextItem::restyle(const ScreenshotAnnotation &annotation) {
+    const QString string = m_annotation.text->string;
+    m_annotation = annotation;
+    m_annotation.text->string = string;
+    applyStyle();
+    Q_EMIT boxChanged();
+}
+
+void CanvasTextItem::applyStyle() {
+    const double size = m_annotation.text->fontSize;
+    const int pixelSize = std::max(1, qRound(size));
+    const QSignalBlocker blocker(document());
+    setFont(annotationFont(pixelSize));
+    setDefaultTextColor(m_annotation.color.toColor());
+    setScale(size / pixelSize);
+    QTextOption option = document()->defaultTextOption();
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    option.setUseDesignMetrics(true);
+    option.setTabStopDistance(pixelSize * 2.0);
+    document()->setDefaultTextOption(option);
+    layOut();
+}
+
+void CanvasTextItem::typed() {
+    QString string = toPlainText();
+    if (string.size() > longestText) {
+        const QSignalBlocker blocker(document());
+        QTextCursor surplus(document());
+        surplus.setPosition(longestText);
+        surplus.movePosition(QTextCursor::End, QTextCursor::KeepAnchor);
+        surplus.removeSelectedText();
+        string = toPlainText();
+    }
+    m_annotation.text->string = string;
+    layOut();
+    Q_EMIT boxChanged();
+}
+
+// As wide as the widest line, so that lines which begin on the right do so at the edge of the box.
+void CanvasTextItem::layOut() {
+    const AnnotationText text(*m_annotation.text);
+    const double size = m_annotation.text->fontSize;
+    const double padding = AnnotationText::horizontalPadding(size);
+    const QSignalBlocker blocker(document());
+    constexpr double slack = 0.75;
+    setTextWidth((text.size().width() - 2 * padding + slack) / scale());
+    m_boxSize = text.size();
+    setPos(m_annotation.points[0].toPointF() + QPointF(padding, AnnotationText::verticalPadding(size)));
+}
+
+void CanvasTextItem::keyPressEvent(QKeyEvent *event) {
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (event->key() == Qt::Key_Escape || (isReturn && event->modifiers() & Qt::ControlModifier)) {
+        Q_EMIT finished();
+    } else if (event->matches(QKeySequence::Paste)) {
+        insertPlain(QGuiApplication::clipboard()->mimeData());
+    } else if (event->key() == Qt::Key_Y && event->modifiers() == Qt::ControlModifier) {
+        document()->redo();
+    } else {
+        QGraphicsTextItem::keyPressEvent(event);
+    }
+    event->accept();
+}
+
+void CanvasTextItem::mousePressEvent(QGraphicsSceneMouseEvent *event) {
+    if (event->button() == Qt::MiddleButton)
+        return event->accept();
+    QGraphicsTextItem::mousePressEvent(event);
+}
+
+void CanvasTextItem::mouseReleaseEvent(QGraphicsSceneMouseEvent *event) {
+    if (event->button() == Qt::MiddleButton)
+        return insertPlain(QGuiApplication::clipboard()->mimeData(QClipboard::Selection));
+    QGraphicsTextItem::mouseReleaseEvent(event);
+}
+
+void CanvasTextItem::contextMenuEvent(QGraphicsSceneContextMenuEvent *event) {
+    event->accept();
+}
+
+void CanvasTextItem::dropEvent(QGraphicsSceneDragDropEvent *event) {
+    insertPlain(event->mimeData());
+    event->acceptProposedAction();
+}
+
+void CanvasTextItem::insertPlain(const QMimeData *data) {
+    if (!data || !data->hasText())
+        return;
+    QTextCursor cursor = textCursor();
+    cursor.insertText(data->text(), QTextCharFormat());
+    setTextCursor(cursor);
+}
+
+// A menu or another window may only borrow the focus.
+void CanvasTextItem::focusOutEvent(QFocusEvent *event) {
+    QGraphicsTextItem::focusOutEvent(event);
+    const bool isBorrowed = event->reason() == Qt::PopupFocusReason ||
+                            event->reason() == Qt::ActiveWindowFocusReason ||
+                            event->reason() == Qt::MenuBarFocusReason;
+    if (!isBorrowed && event->reason() == Qt::TabFocusReason)
+        Q_EMIT finished();
+}
+
+} // namespace tembra

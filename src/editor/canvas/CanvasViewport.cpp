@@ -1,0 +1,118 @@
+#include "editor/canvas/CanvasViewport.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace tembra {
+
+namespace {
+
+// How far the content's edge may be pulled into the view.
+constexpr double pullMargin = 48;
+
+double placed(double origin, double size, double room, double marginAfter) {
+    if (size <= room)
+        return (room - size) / 2;
+    return std::clamp(origin, room - size - marginAfter, pullMargin);
+}
+
+} // namespace
+
+void CanvasViewport::setView(QSizeF size, double displayScale) {
+    const QPointF middle = toImage(center());
+    m_view = size.expandedTo({1, 1});
+    m_displayScale = displayScale;
+    if (m_isFit)
+        return fit();
+    place(center() - (middle - m_content.topLeft()) * zoom());
+}
+
+void CanvasViewport::setContent(const QRectF &content) {
+    const QPointF shown = toView(content.topLeft());
+    m_content = content;
+    if (m_isFit)
+        return fit();
+    place(shown);
+}
+
+double CanvasViewport::fitScale() const {
+    const double width = std::max(m_view.width() - 2 * sideMargin, 1.0);
+    const double height = std::max(m_view.height() - sideMargin - bottomMargin, 1.0);
+    return std::min(
+        {width / m_content.width() * m_displayScale, height / m_content.height() * m_displayScale, 1.0});
+}
+
+double CanvasViewport::smallestScale() const {
+    return std::min(fitScale(), 0.05);
+}
+
+void CanvasViewport::fit() {
+    m_isFit = true;
+    m_scale = fitScale();
+    const QSizeF size = m_content.size() * zoom();
+    const double left = (m_view.width() - size.width()) / 2;
+    const double room = m_view.height() - sideMargin - bottomMargin;
+    const double top = sideMargin + std::max((room - size.height()) / 2, 0.0);
+    const auto onPixel = [this](double value) { return std::round(value * m_displayScale) / m_displayScale; };
+    m_origin = {onPixel(left), onPixel(top)};
+}
+
+void CanvasViewport::setScale(double scale, QPointF anchor) {
+    const QPointF kept = toImage(anchor);
+    m_isFit = false;
+    m_scale = std::clamp(scale, smallestScale(), largestScale);
+    place(anchor - (kept - m_content.topLeft()) * zoom());
+}
+
+void CanvasViewport::pan(QPointF delta) {
+    m_isFit = false;
+    place(m_origin + delta);
+}
+
+void CanvasViewport::reveal(const QRectF &rect) {
+    const QRectF room(sideMargin, sideMargin, m_view.width() - 2 * sideMargin,
+                      m_view.height() - sideMargin - bottomMargin);
+    const QRectF shown = toView(rect);
+    const auto way = [](double low, double high, double least, double most) {
+        if (low >= least && high <= most)
+            return 0.0;
+        return high - low > most - least || low < least ? least - low : most - high;
+    };
+    const QPointF delta(way(shown.left(), shown.right(), room.left(), room.right()),
+                        way(shown.top(), shown.bottom(), room.top(), room.bottom()));
+    if (!delta.isNull())
+        pan(delta);
+}
+
+void CanvasViewport::place(QPointF origin) {
+    const QSizeF size = m_content.size() * zoom();
+    const double x = placed(origin.x(), size.width(), m_view.width(), pullMargin);
+    const double y = placed(origin.y(), size.height(), m_view.height(), bottomMargin);
+    m_origin = {std::round(x * m_displayScale) / m_displayScale,
+                std::round(y * m_displayScale) / m_displayScale};
+}
+
+QPointF CanvasViewport::toImage(QPointF view) const {
+    return m_content.topLeft() + (view - m_origin) / zoom();
+}
+
+QPointF CanvasViewport::toView(QPointF image) const {
+    return m_origin + (image - m_content.topLeft()) * zoom();
+}
+
+QRectF CanvasViewport::toView(const QRectF &image) const {
+    return {toView(image.topLeft()), image.size() * zoom()};
+}
+
+QRectF CanvasViewport::toImage(const QRectF &view) const {
+    return {toImage(view.topLeft()), view.size() / zoom()};
+}
+
+QTransform CanvasViewport::imageToView() const {
+    const QPointF origin = toView(QPointF());
+    QTransform transform = QTransform::fromTranslate(origin.x(), origin.y());
+    transform.scale(zoom(), zoom());
+    return transform;
+}
+
+} // namespace tembra

@@ -1,0 +1,71 @@
+#include "editor/canvas/DrawingGesture.h"
+
+#include "editor/canvas/AnnotationEditing.h"
+
+#include <QCoreApplication>
+#include <QLineF>
+
+#include <algorithm>
+#include <cmath>
+
+namespace tembra {
+
+namespace {
+
+// On the way from the origin, as far as the limits let it.
+QPointF shortenedInto(QPointF origin, QPointF point, const QRectF &limits) {
+    const auto part = [](double from, double to, double least, double most) {
+        if (to < least)
+            return (least - from) / (to - from);
+        return to > most ? (most - from) / (to - from) : 1;
+    };
+    const double kept = std::min(part(origin.x(), point.x(), limits.left(), limits.right()),
+                                 part(origin.y(), point.y(), limits.top(), limits.bottom()));
+    return origin + (point - origin) * kept;
+}
+
+} // namespace
+
+DrawingGesture::DrawingGesture(ScreenshotAnnotation prototype, QPointF start, const QRectF &limits,
+                               double leastLength)
+    : m_annotation(std::move(prototype)),
+      m_start(annotationEditing::clampedTo(start, limits)),
+      m_limits(limits),
+      m_leastLength(leastLength) {}
+
+CanvasDraft DrawingGesture::drag(QPointF point, Qt::KeyboardModifiers modifiers) {
+    using namespace annotationEditing;
+    QPointF end = clampedTo(point, m_limits);
+    if (modifiers & Qt::ShiftModifier) {
+        end = m_annotation.hasRectHandles() ? constrainedToSquare(m_start, point)
+                                            : constrainedTo45(m_start, point);
+        end = shortenedInto(m_start, end, m_limits);
+    }
+    QPointF start = m_start;
+    if (modifiers & Qt::AltModifier) {
+        start = shortenedInto(m_start, 2 * m_start - end, m_limits);
+        end = 2 * m_start - start;
+    }
+    if (QLineF(start, end).length() < m_leastLength)
+        return {};
+    m_annotation.points = {EditorPoint::from(start), EditorPoint::from(end)};
+    return {.annotations = {m_annotation}};
+}
+
+QString DrawingGesture::actionName() const {
+    using Kind = ScreenshotAnnotation::Kind;
+    switch (m_annotation.kind) {
+    case Kind::arrow:
+        return QCoreApplication::translate("ScreenshotEdit", "Draw arrow");
+    case Kind::line:
+        return QCoreApplication::translate("ScreenshotEdit", "Draw line");
+    case Kind::rectangle:
+        return QCoreApplication::translate("ScreenshotEdit", "Draw rectangle");
+    case Kind::ellipse:
+        return QCoreApplication::translate("ScreenshotEdit", "Draw ellipse");
+    default:
+        return QCoreApplication::translate("ScreenshotEdit", "Blur");
+    }
+}
+
+} // namespace tembra

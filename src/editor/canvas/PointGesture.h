@@ -1,0 +1,28 @@
+#pragma once
+
+#include "editor/canvas/CanvasGesture.h"
+
+namespace tembra {
+
+// Drags one of the points of an arrow or a line, as editingPoints() numbers them: an end, which Shift keeps
+// at a multiple of 45° from the other, or the middle, which bends an arrow and straightens it near its
+// chord; or the right edge of a text, which says where it wraps.
+class PointGesture final : public CanvasGesture {
+public:
+    // Within `straightening` of the middle of its chord an arrow is straight.
+    PointGesture(ScreenshotAnnotation annotation, std::size_t index, const QRectF &limits,
+                 double straightening);
+
+    [[nodiscard]] CanvasDraft drag(QPointF point, Qt::KeyboardModifiers modifiers) override;
+    [[nodiscard]] QString actionName() const override;
+
+private:
+    [[nodiscard]] ScreenshotAnnotation bent(QPointF point) const;
+
+    const ScreenshotAnnotation m_annotation;
+    const std::size_t m_index;
+    const QRectF m_limits;
+    const double m_straightening;
+};
+
+} // namespace tembra

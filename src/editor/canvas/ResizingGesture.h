@@ -1,0 +1,27 @@
+#pragma once
+
+#include "editor/canvas/CanvasGesture.h"
+
+namespace tembra {
+
+// Drags one of the eight handles (RectHandles.h) of a shape or blur: Shift keeps its aspect, Alt its middle.
+// Its edges come into line with `targets` within `tolerance`, unless Ctrl or Shift is held.
+class ResizingGesture final : public CanvasGesture {
+public:
+    struct Surroundings {
+        QRectF limits;
+        std::vector<QRectF> targets;
+        double tolerance = 0;
+    };
+    ResizingGesture(ScreenshotAnnotation annotation, int handle, Surroundings surroundings);
+
+    [[nodiscard]] CanvasDraft drag(QPointF point, Qt::KeyboardModifiers modifiers) override;
+    [[nodiscard]] QString actionName() const override;
+
+private:
+    const ScreenshotAnnotation m_annotation;
+    const int m_handle;
+    const Surroundings m_surroundings;
+};
+
+} // namespace tembra
