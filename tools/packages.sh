@@ -7,11 +7,12 @@ build_packages=(
   libxcb1-dev libxcb-xfixes0-dev libxcb-xinput-dev libxcb-shape0-dev libxcb-xtest0-dev
   libwayland-dev
   nlohmann-json3-dev libheif-dev libcanberra-dev libdeflate-dev libturbojpeg0-dev libexif-dev libssl-dev qt6-multimedia-dev
+  libtesseract-dev libleptonica-dev
   libgtest-dev libgmock-dev libbenchmark-dev
 )
 
-# What the program uses when it runs: image formats, its typeface, gsettings' storage.
-run_packages=(qt6-image-formats-plugins qt6-qpa-plugins fonts-inter dconf-gsettings-backend)
+# What the program uses when it runs: image formats, its typeface, gsettings' storage, the language it reads in pictures.
+run_packages=(qt6-image-formats-plugins qt6-qpa-plugins fonts-inter dconf-gsettings-backend tesseract-ocr-eng)
 
 # A private desktop to run on, and real tools to take captures with and to drive it.
 desktop_packages=(
@@ -24,7 +25,7 @@ desktop_packages=(
 fuzz_packages=(clang-16 libclang-rt-16-dev llvm-16)
 
 # What other programs are measured against.
-bench_packages=(libgdk-pixbuf2.0-bin ffmpegthumbnailer libopencv-imgproc-dev)
+bench_packages=(libgdk-pixbuf2.0-bin ffmpegthumbnailer libopencv-imgproc-dev tesseract-ocr)
 
 # Installs those of the named packages that are missing, with sudo where needed.
 install_missing() {

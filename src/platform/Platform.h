@@ -19,6 +19,7 @@
 #include "platform/SingleInstance.h"
 #include "platform/Sounds.h"
 #include "platform/StandardFolders.h"
+#include "platform/TextRecognizer.h"
 #include "platform/ThumbnailCache.h"
 #include "platform/Thumbnails.h"
 #include "platform/Trash.h"
@@ -49,6 +50,7 @@ struct Platform {
     std::unique_ptr<Trash> trash;
     std::unique_ptr<PictureDecoder> pictureDecoder;
     std::unique_ptr<ThumbnailCache> thumbnailCache;
+    std::unique_ptr<TextRecognizer> textRecognizer;
     // The services below need a display and are absent in commands that run without one.
     std::unique_ptr<Displays> displays;
     std::unique_ptr<Workspace> workspace;

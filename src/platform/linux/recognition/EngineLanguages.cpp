@@ -1,0 +1,43 @@
+#include "platform/linux/recognition/EngineLanguages.h"
+
+namespace tembra {
+
+namespace {
+
+// ISO 639-3 but for a few.
+QString engineLanguage(const QLocale &locale) {
+    switch (locale.language()) {
+    case QLocale::Chinese:
+        return locale.script() == QLocale::TraditionalHanScript ? QStringLiteral("chi_tra")
+                                                                : QStringLiteral("chi_sim");
+    case QLocale::NorwegianBokmal:
+    case QLocale::NorwegianNynorsk:
+        return QStringLiteral("nor");
+    case QLocale::Serbian:
+        return locale.script() == QLocale::LatinScript ? QStringLiteral("srp_latn") : QStringLiteral("srp");
+    case QLocale::C:
+    case QLocale::AnyLanguage:
+        return {};
+    default:
+        return QLocale::languageToCode(locale.language(), QLocale::ISO639Part3);
+    }
+}
+
+} // namespace
+
+QStringList engineLanguages(const QStringList &localeNames) {
+    // Each one makes reading slower.
+    constexpr qsizetype most = 3;
+    QStringList languages;
+    for (const QString &name : localeNames) {
+        const QString language = engineLanguage(QLocale(name));
+        if (!language.isEmpty() && !languages.contains(language) && languages.size() < most)
+            languages += language;
+    }
+    const QString english = QStringLiteral("eng");
+    if (!languages.contains(english))
+        languages += english;
+    return languages;
+}
+
+} // namespace tembra

@@ -1,0 +1,97 @@
+#include "platform/linux/recognition/worker/PageReader.h"
+
+#include "platform/linux/recognition/worker/InkPicture.h"
+#include "platform/linux/recognition/worker/ReadingOrder.h"
+#include "platform/linux/recognition/worker/Stripes.h"
+#include "platform/linux/recognition/worker/TextEngine.h"
+
+#include <thread>
+
+namespace tembra::recognition {
+
+namespace {
+
+using StripeLines = tl::expected<std::vector<ReadLine>, ExitCode>;
+
+// Letters that are this high on average are read well as they are.
+constexpr int readableHeight = 14;
+// More than the height of a line.
+constexpr int overlap = 48;
+constexpr int smallestStripe = 240;
+constexpr int mostEngines = 4;
+
+struct Page {
+    PixOwner ink;
+    int scale = 1;
+};
+
+// Pixels of a dense display are told by the size of its letters.
+Page pageOf(Pix *grey) {
+    Page page{inkPicture(grey, 1), 2};
+    if (page.ink && usualInkHeight(page.ink.get()) >= readableHeight)
+        page = {inkPicture(grey, 2), 1};
+    return page;
+}
+
+std::vector<Stripe> stripesOf(Pix *ink) {
+    const int height = pixGetHeight(ink);
+    const int processors = std::min(mostEngines, static_cast<int>(std::thread::hardware_concurrency()));
+    const int count = std::clamp(height / smallestStripe, 1, std::max(1, processors));
+    std::vector<float> rowInk(static_cast<size_t>(height));
+    Numa *sums = pixAverageByRow(ink, nullptr, L_BLACK_IS_MAX);
+    for (int y = 0; sums && y < height; ++y)
+        numaGetFValue(sums, y, &rowInk[static_cast<size_t>(y)]);
+    numaDestroy(&sums);
+    return stripes(rowInk, count, overlap);
+}
+
+// The stripe's part of the page, in the size in which it is read.
+PixOwner partOf(const Page &page, const Stripe &stripe) {
+    Box *box = boxCreate(0, stripe.top, pixGetWidth(page.ink.get()), stripe.bottom - stripe.top);
+    const PixOwner part(pixClipRectangle(page.ink.get(), box, nullptr));
+    boxDestroy(&box);
+    const auto scale = static_cast<float>(page.scale);
+    return PixOwner(part ? pixScale(part.get(), scale, scale) : nullptr);
+}
+
+StripeLines readStripe(const Page &page, const Stripe &stripe, const std::string &languages) {
+    TextEngine engine(languages);
+    if (!engine.isUsable())
+        return tl::unexpected(noLanguage);
+    const PixOwner part = partOf(page, stripe);
+    auto lines = part ? engine.read(part.get()) : std::nullopt;
+    if (!lines)
+        return tl::unexpected(unusable);
+    const double scale = page.scale;
+    for (ReadLine &line : *lines) {
+        for (ReadWord &word : line)
+            word.box = {word.box.left / scale, word.box.top / scale + stripe.top, word.box.right / scale,
+                        word.box.bottom / scale + stripe.top};
+    }
+    return std::move(*lines);
+}
+
+} // namespace
+
+tl::expected<std::vector<ReadLine>, ExitCode> readPage(Pix *grey, const std::string &languages) {
+    const Page page = pageOf(grey);
+    if (!page.ink)
+        return tl::unexpected(unusable);
+    const std::vector<Stripe> parts = stripesOf(page.ink.get());
+    std::vector<StripeLines> read(parts.size());
+    {
+        std::vector<std::jthread> others;
+        for (size_t i = 1; i < parts.size(); ++i)
+            others.emplace_back([&, i] { read[i] = readStripe(page, parts[i], languages); });
+        read[0] = readStripe(page, parts[0], languages);
+    }
+    std::vector<std::vector<ReadLine>> lines;
+    for (StripeLines &part : read) {
+        if (!part)
+            return tl::unexpected(part.error());
+        lines.push_back(std::move(*part));
+    }
+    return inReadingOrder(joined(parts, std::move(lines)));
+}
+
+} // namespace tembra::recognition

@@ -1,0 +1,183 @@
+#include "platform/linux/recognition/TesseractRecognizer.h"
+
+#include "platform/linux/recognition/EngineLanguages.h"
+#include "platform/linux/recognition/RecognizedText.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QTemporaryDir>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <thread>
+
+using namespace tembra;
+using namespace std::chrono_literals;
+using Word = TextRecognizer::Word;
+
+namespace {
+
+const QString worker = QStringLiteral(TEMBRA_RECOGNITION_WORKER);
+const QStringList english{QStringLiteral("eng")};
+
+struct Look {
+    int pixelSize = 13;
+    QColor ink = Qt::black;
+    QColor paper = Qt::white;
+    double scale = 1;
+};
+
+void PrintTo(const Look &look, std::ostream *out) {
+    *out << look.pixelSize << " px, " << look.ink.name().toStdString() << " on "
+         << look.paper.name().toStdString() << ", scale " << look.scale;
+}
+
+// Words as they were drawn, each box around the ink.
+struct Page {
+    QImage image;
+    std::vector<Word> words;
+};
+
+Page page(const Look &look, const QStringList &lines, QSize size = QSize(360, 130)) {
+    Page result{QImage(size * look.scale, QImage::Format_RGB32), {}};
+    result.image.fill(look.paper);
+    QPainter painter(&result.image);
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPixelSize(qRound(look.pixelSize * look.scale));
+    painter.setFont(font);
+    painter.setPen(look.ink);
+    const QFontMetricsF metrics(font, &result.image);
+    QPointF baseline(20 * look.scale, 40 * look.scale);
+    for (const QString &line : lines) {
+        for (const QString &text : line.split(u' ')) {
+            painter.drawText(baseline, text);
+            result.words.push_back({text, metrics.tightBoundingRect(text).translated(baseline)});
+            baseline.rx() += metrics.horizontalAdvance(text + u' ');
+        }
+        baseline = {20 * look.scale, baseline.y() + 2 * look.pixelSize * look.scale};
+    }
+    return result;
+}
+
+MATCHER_P2(IsAbout, box, tolerance, "") {
+    return std::abs(arg.left() - box.left()) <= tolerance && std::abs(arg.top() - box.top()) <= tolerance &&
+           std::abs(arg.right() - box.right()) <= tolerance &&
+           std::abs(arg.bottom() - box.bottom()) <= tolerance;
+}
+
+void expectFound(const Page &drawn, const std::vector<TextRecognizer::Line> &lines, double tolerance) {
+    std::vector<Word> words;
+    for (const TextRecognizer::Line &line : lines)
+        words.insert(words.end(), line.words.begin(), line.words.end());
+    ASSERT_EQ(words.size(), drawn.words.size());
+    for (size_t i = 0; i < words.size(); ++i) {
+        EXPECT_EQ(words[i].text, drawn.words[i].text);
+        EXPECT_THAT(words[i].box, IsAbout(drawn.words[i].box, tolerance)) << words[i].text.toStdString();
+    }
+}
+
+class ReadsText : public testing::TestWithParam<Look> {};
+
+// A program in the worker's place.
+class FaultyWorker : public testing::Test {
+protected:
+    [[nodiscard]] QString program(const QByteArray &script) const {
+        QFile file(folder.filePath(QStringLiteral("worker")));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write("#!/bin/sh\n" + script + "\n");
+        file.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+        return file.fileName();
+    }
+    [[nodiscard]] int errorOf(const QString &file, std::chrono::milliseconds limit = 1min) const {
+        const TesseractRecognizer recognizer({file, english, limit});
+        const auto lines = recognizer.recognize(QImage(8, 8, QImage::Format_RGB32), cancellation);
+        return lines || lines.error().message.isEmpty() ? 0 : lines.error().code;
+    }
+
+    const QTemporaryDir folder;
+    const Cancellation cancellation;
+};
+
+} // namespace
+
+INSTANTIATE_TEST_SUITE_P(Looks, ReadsText,
+                         testing::Values(Look{13, Qt::black, Qt::white}, Look{20, Qt::black, Qt::white},
+                                         Look{13, QColor(225, 225, 228), QColor(32, 33, 37)},
+                                         Look{20, QColor(225, 225, 228), QColor(32, 33, 37)},
+                                         Look{13, QColor(190, 190, 190), Qt::white},
+                                         Look{13, Qt::white, QColor(30, 110, 235)},
+                                         Look{13, Qt::black, Qt::white, 2}));
+
+TEST_P(ReadsText, inTheSizesAndColoursOfInterfaces) {
+    const Page drawn =
+        page(GetParam(), {QStringLiteral("Move old screenshots"), QStringLiteral("to Trash after 30 days.")});
+    const auto lines = TesseractRecognizer({worker, english}).recognize(drawn.image, {});
+    ASSERT_TRUE(lines) << lines.error().message.toStdString();
+    EXPECT_EQ(lines->size(), 2u);
+    expectFound(drawn, *lines, 2.5 * GetParam().scale);
+}
+
+TEST(TesseractRecognizer, readsEveryLineOfATallPageOnce) {
+    QStringList text;
+    for (int i = 0; i < 30; ++i)
+        text += QStringLiteral("Line number %1 of the list").arg(100 + i);
+    const Page drawn = page({}, text, QSize(300, 840));
+    const auto lines = TesseractRecognizer({worker, english}).recognize(drawn.image, {});
+    ASSERT_TRUE(lines);
+    EXPECT_EQ(lines->size(), 30u);
+    expectFound(drawn, *lines, 2.5);
+}
+
+TEST(TesseractRecognizer, findsNothingWhereNothingIsWritten) {
+    QImage transparent(300, 200, QImage::Format_ARGB32_Premultiplied);
+    transparent.fill(Qt::transparent);
+    const auto lines = TesseractRecognizer({worker, english}).recognize(transparent, {});
+    ASSERT_TRUE(lines);
+    EXPECT_TRUE(lines->empty());
+    EXPECT_TRUE(TesseractRecognizer({worker, english}).recognize(transparent.copy(0, 0, 1, 1), {}));
+}
+
+TEST_F(FaultyWorker, isOneErrorWhateverItsFault) {
+    EXPECT_EQ(errorOf({}), TextRecognizer::unavailable);
+    EXPECT_EQ(errorOf(folder.filePath(QStringLiteral("none"))), TextRecognizer::unavailable);
+    EXPECT_EQ(errorOf(program("kill -9 $$")), TextRecognizer::notRecognized);
+    EXPECT_EQ(errorOf(program("echo '1 2 3 4 half'")), TextRecognizer::notRecognized);
+    EXPECT_EQ(errorOf(program("exec sleep 100"), 100ms), TextRecognizer::notRecognized);
+    EXPECT_EQ(errorOf(program("exec yes"), 200ms), TextRecognizer::notRecognized);
+    const TesseractRecognizer foreign({worker, {QStringLiteral("nolanguage")}});
+    EXPECT_EQ(foreign.recognize(QImage(8, 8, QImage::Format_RGB32), {}).error().code,
+              TextRecognizer::noLanguage);
+}
+
+TEST_F(FaultyWorker, isEndedWhenItIsCancelled) {
+    const QString sleeper = program("exec sleep 100");
+    const std::jthread user([this] {
+        std::this_thread::sleep_for(50ms);
+        cancellation.cancel();
+    });
+    EXPECT_EQ(errorOf(sleeper), TextRecognizer::cancelled);
+}
+
+TEST(RecognizedText, takesOnlyWhatIsWhole) {
+    const auto lines = recognizedText("1.0 2.0 11.5 9.0 caf\xc3\xa9\n12 2 20 9 a b\n\nend\n");
+    ASSERT_TRUE(lines);
+    EXPECT_EQ(*lines, (std::vector<TextRecognizer::Line>{{{{QStringLiteral("café"), QRectF(1, 2, 10.5, 7)},
+                                                           {QStringLiteral("a b"), QRectF(12, 2, 8, 7)}}}}));
+    EXPECT_TRUE(recognizedText("end\n"));
+    for (const char *output : {"", "end", "1 2 3 4 word\nend\n", "1 2 3 4 word\n\n", "\nend\n", "end\nend\n",
+                               "1 2 3 word\n\nend\n", "1 2 3 4 \n\nend\n", "1 2 3 nan word\n\nend\n",
+                               "9 2 3 4 word\n\nend\n", "1 2 3 1e300 word\n\nend\n"})
+        EXPECT_FALSE(recognizedText(output)) << output;
+}
+
+TEST(EngineLanguages, areTheUsersAndEnglish) {
+    const auto languages = [](const char *locales) {
+        return engineLanguages(QString::fromLatin1(locales).split(u' ')).join(u' ');
+    };
+    EXPECT_EQ(languages("de-AT de en-US"), QStringLiteral("deu eng"));
+    EXPECT_EQ(languages("zh-Hant-TW nb"), QStringLiteral("chi_tra nor eng"));
+    EXPECT_EQ(languages("C"), QStringLiteral("eng"));
+}
