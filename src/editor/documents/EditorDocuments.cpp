@@ -197,14 +197,14 @@ void EditorDocuments::save(Id id, Completion completion) {
     m_saving.save(id, std::move(completion));
 }
 
-void EditorDocuments::saveAll(Completion completion) {
+void EditorDocuments::saveAll(const Completion &completion) {
     requireMainThread();
     std::vector<Id> ids;
     for (const EditorDocument *document : m_documents.all()) {
         if (isNeeded(*document))
             ids.push_back(document->id);
     }
-    m_saving.saveAll(ids, std::move(completion));
+    m_saving.saveAll(ids, completion);
 }
 
 void EditorDocuments::rename(const QString &name, Completion completion) {

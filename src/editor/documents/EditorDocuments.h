@@ -24,7 +24,7 @@ namespace tembra {
 // The documents of an editor window: opens them, keeps those with unsaved edits when others become current,
 // and does everything with their files, in the background and one thing after the other. Shows nothing. Main
 // thread; owned by the window's controller, which hangs its callbacks on it; none comes after its end. Any of
-// them may begin the next thing.
+// them may begin the next thing; a completion may end this.
 class EditorDocuments {
 public:
     using Services = EditorDocumentsServices;
@@ -85,7 +85,7 @@ public:
     void save(Completion completion = {});
     void save(Id id, Completion completion = {});
     // Everything that is unsaved or being saved; tells the first failure.
-    void saveAll(Completion completion);
+    void saveAll(const Completion &completion);
     // The name without the extension.
     void rename(const QString &name, Completion completion = {});
     void renameKeepingBoth(const QString &name, Completion completion = {});

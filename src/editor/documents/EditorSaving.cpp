@@ -66,7 +66,7 @@ std::optional<Write> EditorSaving::saveOf(EditorDocumentId id) {
                  }};
 }
 
-void EditorSaving::saveAll(const std::vector<EditorDocumentId> &documents, Completion completion) {
+void EditorSaving::saveAll(const std::vector<EditorDocumentId> &documents, const Completion &completion) {
     struct Progress {
         std::size_t left;
         Result<void> outcome;
@@ -125,7 +125,7 @@ void EditorSaving::written(EditorDocumentId id, const EditorWritten &written) {
         m_store.updateBadge(*written.loaded, written.before);
 }
 
-void EditorSaving::failed(EditorFailure failed, const Completion &completion) {
+void EditorSaving::failed(const EditorFailure &failed, const Completion &completion) {
     const auto life = m_life.ticket();
     if (onFailure)
         onFailure(failed);

@@ -26,7 +26,7 @@ public:
     // Succeeds at once when there is nothing to save.
     void save(EditorDocumentId document, Completion completion);
     // One after the other; a failure does not keep the others from it. Tells the first one.
-    void saveAll(const std::vector<EditorDocumentId> &documents, Completion completion);
+    void saveAll(const std::vector<EditorDocumentId> &documents, const Completion &completion);
     // The name without the extension.
     void rename(EditorDocumentId document, const QString &name, bool keepsBoth, Completion completion);
 
@@ -35,7 +35,7 @@ private:
     [[nodiscard]] std::optional<EditorFileTasks::Write> renameOf(EditorDocumentId id, const QString &name,
                                                                  bool keepsBoth);
     void written(EditorDocumentId id, const EditorWritten &written);
-    void failed(EditorFailure failure, const Completion &completion);
+    void failed(const EditorFailure &failed, const Completion &completion);
     [[nodiscard]] QString fileName(EditorDocumentId id);
 
     EditorDocumentList &m_documents;

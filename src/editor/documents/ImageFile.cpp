@@ -30,8 +30,8 @@ bool ImageFile::isFile(const QString &path) const {
 // Beside `path`; gives its path.
 Result<QString> ImageFile::writeTemporary(const QString &path, QByteArrayView bytes,
                                           const QStringList &models) const {
-    const QString temporary = QFileInfo(path).path() + u'/' + FileCoordinator::temporaryPrefix +
-                              QUuid::createUuid().toString(QUuid::WithoutBraces);
+    QString temporary = QFileInfo(path).path() + u'/' + FileCoordinator::temporaryPrefix +
+                        QUuid::createUuid().toString(QUuid::WithoutBraces);
     const auto model =
         std::ranges::find_if(models, [this](const QString &candidate) { return isFile(candidate); });
     const auto written = model == models.end() ? m_coordinator.writeAtomically(temporary, bytes)

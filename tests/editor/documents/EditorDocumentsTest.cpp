@@ -243,5 +243,17 @@ TEST_F(EditorDocumentsTest, endsWhileEverythingIsUnderWay) {
     EXPECT_EQ(edits().annotations().size(), 1);
 }
 
+TEST_F(EditorDocumentsTest, mayEndOnceEverythingIsSaved) {
+    draw();
+    documents->saveAll([this](const Result<void> &saved) {
+        EXPECT_TRUE(saved);
+        EXPECT_TRUE(documents->canClose());
+        documents.reset();
+    });
+    settle();
+    EXPECT_EQ(documents, nullptr);
+    EXPECT_EQ(told, QStringList({QStringLiteral("begin a.png"), QStringLiteral("finish a.png")}));
+}
+
 } // namespace
 } // namespace tembra
