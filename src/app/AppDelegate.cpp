@@ -3,6 +3,7 @@
 #include "app/Alert.h"
 #include "app/AppFlowCoordinator.h"
 #include "app/CommandService.h"
+#include "app/ScreenshotEditing.h"
 #include "editor/model/EditorImageCopies.h"
 #include "editor/model/ScreenshotEditStore.h"
 #include "playback/PlaybackModule.h"
@@ -32,7 +33,9 @@ AppDelegate::AppDelegate(Platform &platform, Scheduler &scheduler)
       m_screenshotCopyQueue(QStringLiteral("local.dova.Tembra.screenshot-copy")),
       m_clipboardQueue(QStringLiteral("Tembra.Clipboard.IO")),
       m_previewQueue(QStringLiteral("Tembra.Preview")),
-      m_editorQueue(QStringLiteral("Tembra.Editor.IO")) {}
+      m_editorQueue(QStringLiteral("Tembra.Editor.IO")),
+      m_editorImageQueue(QStringLiteral("Tembra.Editor.Images")),
+      m_wordQueue(QStringLiteral("Tembra.Editor.WordRecognition")) {}
 
 AppDelegate::~AppDelegate() = default;
 
@@ -45,10 +48,11 @@ void AppDelegate::applicationDidFinishLaunching() {
                                     m_scheduler});
     m_coordinator = std::make_unique<AppFlowCoordinator>(*m_settings, *m_platform.workspace,
                                                          makeShelfController(), [this] { terminate(); });
-    m_commands = std::make_unique<CommandService>(
-        m_coordinator->shelfController(), [this] { applicationShouldHandleReopen(); },
-        [this] { terminate(); });
     m_coordinator->start();
+    m_editing = makeEditing();
+    m_commands = std::make_unique<CommandService>(
+        m_coordinator->shelfController(), [this] { return m_editing->status(); },
+        [this] { applicationShouldHandleReopen(); }, [this] { terminate(); });
     ShelfController &shelf = m_coordinator->shelfController();
     m_editStore->onBadgesChanged = [this, &shelf] { shelf.setEditedScreenshots(m_editStore->badges()); };
     m_editStore->loadBadges({});
@@ -88,6 +92,24 @@ std::unique_ptr<ScreenshotEditStore> AppDelegate::makeEditStore() {
                                .thumbnails = *m_platform.thumbnailCache,
                                .queue = m_editorQueue,
                                .scheduler = m_scheduler});
+}
+
+std::unique_ptr<ScreenshotEditing> AppDelegate::makeEditing() {
+    const ScreenshotEditorServices services{.documents = {.store = *m_editStore,
+                                                          .copies = *m_imageCopies,
+                                                          .coordinator = *m_platform.fileCoordinator,
+                                                          .files = *m_platform.fileFacts,
+                                                          .io = m_editorQueue,
+                                                          .images = m_editorImageQueue,
+                                                          .scheduler = m_scheduler},
+                                            .defaults = *m_platform.defaults,
+                                            .pasteboard = *m_platform.pasteboard,
+                                            .thumbnails = *m_platform.thumbnails,
+                                            .workspace = *m_platform.workspace,
+                                            .recognizer = *m_platform.textRecognizer,
+                                            .wordQueue = m_wordQueue};
+    return std::make_unique<ScreenshotEditing>(services, m_coordinator->shelfController(),
+                                               m_coordinator->mainMenu(), [this] { terminate(); });
 }
 
 std::unique_ptr<ShelfController> AppDelegate::makeShelfController() {
@@ -184,8 +206,8 @@ bool AppDelegate::applicationShouldHandleReopen() {
     return false;
 }
 
-bool AppDelegate::applicationShouldTerminate() const {
-    return true;
+bool AppDelegate::applicationShouldTerminate() {
+    return !m_editing || m_editing->canTerminate();
 }
 
 void AppDelegate::applicationWillTerminate() {

@@ -16,6 +16,7 @@ class CommandService;
 class EditorImageCopies;
 class FileWatcherService;
 class ScreenshotEditStore;
+class ScreenshotEditing;
 class ScreenshotLocationMonitor;
 class ShelfController;
 class ShelfSession;
@@ -32,7 +33,8 @@ public:
     void applicationDidFinishLaunching();
     // Whether the system should do anything further.
     bool applicationShouldHandleReopen();
-    [[nodiscard]] bool applicationShouldTerminate() const;
+    // Asks the user where something would be lost: then the program ends later, by itself.
+    [[nodiscard]] bool applicationShouldTerminate();
     void applicationWillTerminate();
     // Ends the program if it may end.
     void terminate();
@@ -44,6 +46,7 @@ private:
     [[nodiscard]] std::unique_ptr<AppSettings> makeSettings();
     [[nodiscard]] std::unique_ptr<ShelfController> makeShelfController();
     [[nodiscard]] std::unique_ptr<ScreenshotEditStore> makeEditStore();
+    [[nodiscard]] std::unique_ptr<ScreenshotEditing> makeEditing();
     [[nodiscard]] std::unique_ptr<ShelfSession> makeSession();
     [[nodiscard]] std::unique_ptr<FileWatcherService> makeFileWatcher();
     // Asks the screenshot tool how names begin, on the queue that the function is used on.
@@ -67,9 +70,12 @@ private:
     ThreadQueue m_clipboardQueue;
     ThreadQueue m_previewQueue;
     ThreadQueue m_editorQueue;
+    ThreadQueue m_editorImageQueue;
+    ThreadQueue m_wordQueue;
     std::unique_ptr<EditorImageCopies> m_imageCopies;
     std::unique_ptr<AppSettings> m_settings;
     std::unique_ptr<AppFlowCoordinator> m_coordinator;
+    std::unique_ptr<ScreenshotEditing> m_editing;
     std::unique_ptr<CommandService> m_commands;
 };
 

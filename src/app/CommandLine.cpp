@@ -23,12 +23,13 @@ tl::unexpected<Error> wrongUsage(const QString &message) {
 std::optional<CommandLine::Verb> verbNamed(const QString &word) {
     using Verb = CommandLine::Verb;
     static const QHash<QString, Verb> verbs{
-        {QStringLiteral("open"), Verb::open},     {QStringLiteral("close"), Verb::close},
-        {QStringLiteral("toggle"), Verb::toggle}, {QStringLiteral("status"), Verb::status},
-        {QStringLiteral("add"), Verb::add},       {QStringLiteral("scan"), Verb::scan},
-        {QStringLiteral("render"), Verb::render}, {QStringLiteral("quit"), Verb::quit},
-        {QStringLiteral("help"), Verb::help},     {QStringLiteral("--help"), Verb::help},
-        {QStringLiteral("-h"), Verb::help},       {QStringLiteral("--version"), Verb::version}};
+        {QStringLiteral("open"), Verb::open},        {QStringLiteral("close"), Verb::close},
+        {QStringLiteral("toggle"), Verb::toggle},    {QStringLiteral("status"), Verb::status},
+        {QStringLiteral("add"), Verb::add},          {QStringLiteral("edit"), Verb::edit},
+        {QStringLiteral("scan"), Verb::scan},        {QStringLiteral("render"), Verb::render},
+        {QStringLiteral("quit"), Verb::quit},        {QStringLiteral("help"), Verb::help},
+        {QStringLiteral("--help"), Verb::help},      {QStringLiteral("-h"), Verb::help},
+        {QStringLiteral("--version"), Verb::version}};
     const auto found = verbs.constFind(word);
     return found == verbs.cend() ? std::nullopt : std::optional(*found);
 }
@@ -58,7 +59,7 @@ Result<void> takeWord(CommandLine &line, QStringList &words) {
         (word == u"-o" ? line.output : line.edits) = words.takeFirst();
         return {};
     }
-    const bool takesPath = line.verb == Verb::scan || line.verb == Verb::render;
+    const bool takesPath = line.verb == Verb::scan || line.verb == Verb::render || line.verb == Verb::edit;
     if (takesPath && line.path.isEmpty() && !word.startsWith(u'-')) {
         line.path = word;
         return {};
@@ -85,6 +86,8 @@ Result<CommandLine> CommandLine::parse(const QStringList &words) {
         return wrongUsage(translated("scan takes the folder to look at."));
     if (line.verb == Verb::add && line.files.isEmpty())
         return wrongUsage(translated("add takes the files to put into the file tray."));
+    if (line.verb == Verb::edit && line.path.isEmpty())
+        return wrongUsage(translated("edit takes the image to open."));
     if (line.verb == Verb::render && (line.path.isEmpty() || line.edits.isEmpty() || line.output.isEmpty()))
         return wrongUsage(translated("render takes an image, --edits and -o with a file each."));
     return line;
@@ -98,6 +101,7 @@ QString CommandLine::usage() {
                       "  tembra close                 close the shelf\n"
                       "  tembra toggle                open or close the shelf\n"
                       "  tembra add FILE...           put files into the file tray\n"
+                      "  tembra edit FILE             open a screenshot in the editor\n"
                       "  tembra status [--json]       tell the state of the running one\n"
                       "  tembra scan FOLDER [--json]  tell what is recognised as a capture, and why\n"
                       "  tembra render FILE --edits EDITS.json -o OUT\n"

@@ -9,10 +9,10 @@ namespace tembra {
 
 // What the words of the command line ask for. A value; parsing has no effects.
 struct CommandLine {
-    enum class Verb { start, open, close, toggle, add, status, scan, render, quit, help, version };
+    enum class Verb { start, open, close, toggle, add, edit, status, scan, render, quit, help, version };
 
     Verb verb = Verb::start;
-    // The folder of `scan`, the image of `render`.
+    // The folder of `scan`, the image of `render` and `edit`.
     QString path;
     // What `render` is to draw, and where the result goes.
     QString edits;

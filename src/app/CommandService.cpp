@@ -2,6 +2,7 @@
 
 #include "app/StatusReport.h"
 #include "base/FileUri.h"
+#include "editor/window/EditorStatus.h"
 #include "shelf/ShelfController.h"
 
 #include <QCoreApplication>
@@ -16,9 +17,12 @@ tl::unexpected<Error> refused(const QString &message) {
 
 } // namespace
 
-CommandService::CommandService(ShelfController &shelf, std::function<void()> reopen,
-                               std::function<void()> quit)
-    : m_shelf(shelf), m_reopen(std::move(reopen)), m_quit(std::move(quit)) {}
+CommandService::CommandService(ShelfController &shelf, std::function<EditorStatus()> editorStatus,
+                               std::function<void()> reopen, std::function<void()> quit)
+    : m_shelf(shelf),
+      m_editorStatus(std::move(editorStatus)),
+      m_reopen(std::move(reopen)),
+      m_quit(std::move(quit)) {}
 
 Result<QString> CommandService::perform(const QString &command, const QStringList &arguments) {
     if (command == u"open")
@@ -27,6 +31,8 @@ Result<QString> CommandService::perform(const QString &command, const QStringLis
         return status(arguments);
     if (command == u"add")
         return add(arguments);
+    if (command == u"edit")
+        return edit(arguments);
     if (command == u"reopen")
         m_reopen();
     else if (command == u"close")
@@ -60,10 +66,17 @@ Result<QString> CommandService::add(const QStringList &files) {
     return QString();
 }
 
+Result<QString> CommandService::edit(const QStringList &files) {
+    const QString file = files.value(0);
+    return m_shelf.openScreenshotEditor(pathOfFileUri(file.toUtf8()).value_or(file)).map([] {
+        return QString();
+    });
+}
+
 Result<QString> CommandService::status(const QStringList &arguments) const {
     const ShelfStatus now = m_shelf.status();
     if (arguments.contains(QStringLiteral("--json")))
-        return QString::fromUtf8(statusJson(now, QCoreApplication::applicationVersion()));
+        return QString::fromUtf8(statusJson(now, m_editorStatus(), QCoreApplication::applicationVersion()));
     return statusText(now);
 }
 

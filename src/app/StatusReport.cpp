@@ -1,6 +1,7 @@
 #include "app/StatusReport.h"
 
 #include "app/IsoDate.h"
+#include "editor/window/EditorStatus.h"
 #include "shelf/ShelfStatus.h"
 
 #include <QCoreApplication>
@@ -60,9 +61,25 @@ QJsonObject autoCleanObject(const ShelfStatus &status) {
             {QStringLiteral("nextCheckSeconds"), next}};
 }
 
+QJsonObject editorObject(const EditorStatus &editor) {
+    return {{QStringLiteral("open"), editor.isOpen},
+            {QStringLiteral("path"), editor.path.isEmpty() ? QJsonValue() : QJsonValue(editor.path)},
+            {QStringLiteral("dirty"), editor.isDirty},
+            {QStringLiteral("annotations"), editor.annotationCount},
+            {QStringLiteral("selected"), editor.selectedCount},
+            {QStringLiteral("tool"), editor.tool},
+            {QStringLiteral("zoom"), editor.zoom},
+            {QStringLiteral("image"), QJsonArray{editor.imageX, editor.imageY}},
+            {QStringLiteral("message"), editor.message},
+            {QStringLiteral("words"), editor.words},
+            {QStringLiteral("wordCount"), editor.wordCount},
+            {QStringLiteral("busy"), editor.isBusy},
+            {QStringLiteral("fullImage"), editor.hasFullImage}};
+}
+
 } // namespace
 
-QByteArray statusJson(const ShelfStatus &status, const QString &version) {
+QByteArray statusJson(const ShelfStatus &status, const EditorStatus &editor, const QString &version) {
     const QJsonObject report{
         {QStringLiteral("version"), version},
         {QStringLiteral("shelf"), shelfObject(status)},
@@ -76,6 +93,7 @@ QByteArray statusJson(const ShelfStatus &status, const QString &version) {
                                                      {QStringLiteral("detail"), status.notificationDetail},
                                                      {QStringLiteral("count"), status.notificationCount}}},
         {QStringLiteral("tray"), trayObject(status)},
+        {QStringLiteral("editor"), editorObject(editor)},
         {QStringLiteral("lastCapture"), lastCaptureValue(status)},
         {QStringLiteral("autoClean"), autoCleanObject(status)},
         {QStringLiteral("undo"), QJsonArray::fromStringList(status.undo)},

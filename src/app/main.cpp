@@ -70,6 +70,8 @@ Result<QString> sendToRunning(const CommandLine &line) {
         return instance->send(QStringLiteral("close"), {}, false);
     case Verb::add:
         return instance->send(QStringLiteral("add"), uris(line.files), true);
+    case Verb::edit:
+        return instance->send(QStringLiteral("edit"), uris({line.path}), true);
     case Verb::status:
         return instance->send(QStringLiteral("status"),
                               line.json ? QStringList{QStringLiteral("--json")} : QStringList(), false);

@@ -17,6 +17,8 @@ struct CaptureMedia {
     [[nodiscard]] static QString extension(QStringView fileName);
     [[nodiscard]] static bool isImageExtension(QStringView extension);
     [[nodiscard]] static bool isVideoExtension(QStringView extension);
+    // Narrower than what counts as an image: what the editor opens, by the file's name.
+    [[nodiscard]] static bool isEditable(QStringView fileName);
     // Whether the ending of a name, in the file system's bytes, is as long as those of images and recordings
     // are: most other files need no closer look.
     [[nodiscard]] static bool mayBeMedia(std::string_view fileName);

@@ -10,16 +10,6 @@
 
 namespace tembra {
 
-namespace {
-
-// Narrower than what counts as an image: what the editor opens.
-bool isEditable(QStringView path) {
-    const QString extension = CaptureMedia::extension(path);
-    return extension == u"png" || extension == u"jpg" || extension == u"jpeg";
-}
-
-} // namespace
-
 ScreenshotAutoOpen::ScreenshotAutoOpen(std::function<bool(const QString &)> isCapture)
     : m_isCapture(std::move(isCapture)) {}
 
@@ -44,7 +34,7 @@ std::vector<Shot> ScreenshotAutoOpen::take(const std::vector<Shot> &shots) {
 }
 
 bool ScreenshotAutoOpen::qualifies(const Shot &shot) const {
-    return m_folder && shot.createdAt >= m_enabledSince && isEditable(shot.location) &&
+    return m_folder && shot.createdAt >= m_enabledSince && CaptureMedia::isEditable(shot.location) &&
            !m_taken.contains(shot.location) &&
            ScreenshotAutoCleanScan::isSafeDescendant(shot.location, *m_folder, true) &&
            m_isCapture(shot.location);

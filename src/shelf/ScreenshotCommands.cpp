@@ -1,5 +1,6 @@
 #include "shelf/ScreenshotCommands.h"
 
+#include "screenshots/CaptureMedia.h"
 #include "screenshots/ScreenshotTimeline.h"
 #include "session/ShelfSession.h"
 #include "settings/AppSettings.h"
@@ -107,8 +108,10 @@ std::unique_ptr<QMenu> ScreenshotCommands::menu() {
     const auto count = static_cast<int>(paths.size());
     const ScreenshotMenuState state{.selectedCount = count,
                                     .pinnedCount = count - static_cast<int>(removableSelectedShots().size()),
+                                    .canEdit = std::ranges::any_of(paths, CaptureMedia::isEditable),
                                     .applications = m_workspace.applicationsFor(paths)};
     return screenshotMenu(state, {.copy = [this] { copySelectedScreenshots(); },
+                                  .openInEditor = onOpenInEditor,
                                   .openWith = [this](const QString &id) { openScreenshotsWith(id); },
                                   .reveal = [this] { revealSelectedScreenshots(); },
                                   .togglePins = [this] { toggleSelectedScreenshotPins(); },

@@ -7,6 +7,7 @@
 
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -26,6 +27,8 @@ public:
     ScreenshotCommands(AppSettings &settings, ShelfSession &session, Workspace &workspace, WallClock now);
 
     ShowFailure onError;
+    // The selected ones are to open in the editor.
+    std::function<void()> onOpenInEditor;
 
     // As the shelf shows them now.
     [[nodiscard]] std::vector<ScreenshotSection> sections() const;

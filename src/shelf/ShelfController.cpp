@@ -56,6 +56,7 @@ ShelfController::ShelfController(AppSettings &settings, std::unique_ptr<ShelfSes
           [](QStringList &phrases) { std::ranges::shuffle(phrases, *QRandomGenerator::global()); }),
       m_screenshotAutoOpen(services.isCapture) {
     m_commands->onError = [this](const QString &title, const QString &message) { onError(title, message); };
+    m_commands->onOpenInEditor = [this] { openSelectedScreenshotsInEditor(); };
     m_preview.onOpenWith = [this](const QStringList &paths, QPoint position) {
         const auto open = [this, paths](const QString &id) { m_commands->openFiles(paths, id); };
         showMenu(screenshotApplicationsMenu(m_services.workspace.applicationsFor(paths), open), position);
@@ -164,8 +165,7 @@ void ShelfController::connectFiles() {
             m_session->selected = m_content->selection();
         updatePreview();
     });
-    connect(content, &ShelfContent::activated, this,
-            [this](const FileTile &tile) { m_commands->openFiles({tile.path}, QString()); });
+    connect(content, &ShelfContent::activated, this, [this](const FileTile &tile) { openTile(tile.path); });
     connect(content, &ShelfContent::contextMenuRequested, this,
             [this](QPoint position) { showMenu(m_commands->menu(), position); });
     connect(content, &ShelfContent::backgroundMenuRequested, this,
@@ -210,7 +210,10 @@ void ShelfController::connectAnnouncer() {
 void ShelfController::connectSession() {
     m_session->onFolderChange = [this](FolderShelf &shelf, bool, int) { receiveFolderChange(shelf); };
     m_session->onNewFiles = [this](const std::vector<Shot> &shots) { receiveNewFiles(shots); };
-    m_session->onChange = [this] { render(); };
+    m_session->onChange = [this] {
+        render();
+        shotsChanged();
+    };
     m_session->clipboard.onChange = [this] { trayChanged(); };
     m_session->onBeforeRemoval = [this] { removalBegins(); };
     m_session->onError = [this](const QString &title, const QString &message) { onError(title, message); };
@@ -343,6 +346,7 @@ void ShelfController::setEditedScreenshots(const QHash<ScreenshotFileIdentity, Q
     requireMainThread();
     m_editedScreenshots = revisions;
     render();
+    shotsChanged();
 }
 
 // Nothing is drawn for a shelf that nobody sees: opening renders it, if anything has changed since.

@@ -67,13 +67,19 @@ public:
     std::function<void(int count, int pinnedCount, std::function<void()> clear)> askForClearing;
     // The user wants the program to end.
     std::function<void()> onQuit;
-    // New captures that are to open in the editor by themselves.
-    std::function<void(const std::vector<Shot> &)> onOpenInEditor;
+    // A screenshot is to be opened in the editor, on the display that has the shelf.
+    std::function<void(const Shot &, const ScreenRect &display)> onOpenInEditor;
+    // Screenshots came, went or changed.
+    std::function<void()> onShotsChanged;
     // Where the screenshot tool saves was read.
     std::function<void(const ScreenshotDestination &)> onDestinationRead;
 
     void start();
     void stop();
+
+    [[nodiscard]] ShelfSession &session() { return *m_session; }
+    // In display order.
+    [[nodiscard]] std::vector<Shot> shots() const;
 
     // Which screenshots carry edits, each with the revision that the editor wrote.
     void setEditedScreenshots(const QHash<ScreenshotFileIdentity, QString> &revisions);
@@ -98,6 +104,10 @@ public:
 
     // Shows the selected files large, or not any more.
     void togglePreview();
+    // Opens the screenshot at a path in the editor. Error: why it is none.
+    Result<void> openScreenshotEditor(const QString &path);
+    // The first of the selected ones that the editor opens.
+    void openSelectedScreenshotsInEditor();
     // All screenshots, after a question.
     void clearScreenshots();
     void revealFolder();
@@ -117,6 +127,11 @@ private:
     void connectAnnouncer();
     void connectSession();
     void startObserving();
+    void shotsChanged();
+    void openInEditor(const Shot &shot);
+    // What a double click or Return does.
+    void openTile(const QString &path);
+    [[nodiscard]] ScreenRect editorDisplay() const;
     // Made when it is first shown: a shelf that nobody opens costs nothing.
     ShelfContent &content();
 

@@ -28,9 +28,10 @@ void ShelfController::receiveNewFiles(const std::vector<Shot> &shots) {
     const bool isFirst = !m_settings.state().hasCaughtFirstScreenshot;
     m_settings.markFirstScreenshotCaught();
     announce(shots, isFirst);
+    // The others of a series stand beside it.
     const std::vector<Shot> taken = m_screenshotAutoOpen.take(shots);
-    if (!taken.empty() && onOpenInEditor)
-        onOpenInEditor(taken);
+    if (!taken.empty())
+        openInEditor(taken.front());
 }
 
 void ShelfController::announce(const std::vector<Shot> &shots, bool isFirst) {

@@ -26,6 +26,7 @@ void ShelfController::receiveFolderChange(const FolderShelf &shelf) {
         rereadDestination();
     }
     updateFolderState();
+    shotsChanged();
 }
 
 // What was read, or is being read, may still be the old place.

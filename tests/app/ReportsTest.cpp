@@ -1,5 +1,6 @@
 #include "app/ScanReport.h"
 #include "app/StatusReport.h"
+#include "editor/window/EditorStatus.h"
 #include "platform/linux/LinuxCaptureMarkers.h"
 #include "platform/linux/LinuxFolderFiles.h"
 #include "screenshots/ScreenshotCaptureDetector.h"
@@ -65,7 +66,8 @@ TEST(ScanReport, saysOfEachFileWhatItIsAndWhy) {
 
 TEST(StatusReport, givesScriptsEveryKeyAlsoOfAShelfThatKnowsNothing) {
     ShelfStatus status;
-    const QJsonObject empty = QJsonDocument::fromJson(statusJson(status, QStringLiteral("1.2"))).object();
+    const QJsonObject empty =
+        QJsonDocument::fromJson(statusJson(status, EditorStatus(), QStringLiteral("1.2"))).object();
     EXPECT_EQ(empty[u"version"].toString(), QStringLiteral("1.2"));
     EXPECT_TRUE(empty[u"folder"][u"path"].isNull());
     EXPECT_EQ(empty[u"folder"][u"state"].toString(), QStringLiteral("none"));
@@ -76,7 +78,10 @@ TEST(StatusReport, givesScriptsEveryKeyAlsoOfAShelfThatKnowsNothing) {
     status.sections = {{QStringLiteral("Today"), 3}};
     status.lastCapture =
         ShelfStatus::Capture{QStringLiteral("/shots/a.png"), Instant(std::chrono::seconds(1))};
-    const QJsonObject full = QJsonDocument::fromJson(statusJson(status, {})).object();
+    const QJsonObject full =
+        QJsonDocument::fromJson(
+            statusJson(status, EditorStatus{.isOpen = true, .path = QStringLiteral("/a.png")}, {}))
+            .object();
     EXPECT_EQ(full[u"shelf"][u"frame"].toArray(), QJsonArray({268, 0, 744, 256}));
     EXPECT_EQ(full[u"screenshots"][u"sections"][0][u"count"].toInt(), 3);
     EXPECT_EQ(full[u"lastCapture"][u"at"].toString(), QStringLiteral("1970-01-01T00:00:01.000Z"));

@@ -24,12 +24,15 @@ void drawDots(QPainter &painter, QSizeF view, const QColor &color) {
 
 void drawShadow(QPainter &painter, const QRectF &image) {
     constexpr int reach = 16;
+    constexpr double strength = 0.16;
+    const QRectF place = image.translated(0, 3);
+    painter.fillRect(place, QColor::fromRgbF(0, 0, 0, static_cast<float>(strength)));
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(Qt::NoBrush);
     for (int distance = 1; distance <= reach; ++distance) {
         const double rest = 1 - static_cast<double>(distance) / (reach + 1);
-        painter.setPen(QPen(QColor::fromRgbF(0, 0, 0, static_cast<float>(0.16 * rest * rest)), 1));
-        painter.drawRoundedRect(grown(image.translated(0, 3), distance - 0.5), distance, distance);
+        painter.setPen(QPen(QColor::fromRgbF(0, 0, 0, static_cast<float>(strength * rest * rest)), 1));
+        painter.drawRoundedRect(grown(place, distance - 0.5), distance, distance);
     }
     painter.setRenderHint(QPainter::Antialiasing, false);
 }

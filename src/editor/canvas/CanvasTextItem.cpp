@@ -8,6 +8,7 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QStyleOptionGraphicsItem>
 #include <QTextCursor>
 #include <QTextDocument>
 
@@ -81,6 +82,12 @@ void CanvasTextItem::layOut() {
     setTextWidth((text.size().width() - 2 * padding + slack) / scale());
     m_boxSize = text.size();
     setPos(m_annotation.points[0].toPointF() + QPointF(padding, AnnotationText::verticalPadding(size)));
+}
+
+void CanvasTextItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) {
+    QStyleOptionGraphicsItem plain = *option;
+    plain.state &= ~(QStyle::State_HasFocus | QStyle::State_Selected);
+    QGraphicsTextItem::paint(painter, &plain, widget);
 }
 
 void CanvasTextItem::keyPressEvent(QKeyEvent *event) {

@@ -20,6 +20,9 @@ public:
     void restyle(const ScreenshotAnnotation &annotation);
     [[nodiscard]] QSizeF boxSize() const { return m_boxSize; }
 
+    // Without the frame of an item that has the focus: the editor draws its own.
+    void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
+
 Q_SIGNALS:
     void boxChanged();
     void finished();

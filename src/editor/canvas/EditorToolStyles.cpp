@@ -18,11 +18,11 @@ double usualSize(Kind kind) {
     case Kind::arrow:
         return 7;
     case Kind::text:
-        return 22;
+        return 24;
     case Kind::number:
-        return 44;
+        return 48;
     default:
-        return 5;
+        return 6;
     }
 }
 
