@@ -117,7 +117,7 @@ void EditorStyleRow::apply(const EditorDockState &state) {
         showChoice(*m_blurMode, std::ranges::find(blurModes, *state.blurMode) - blurModes.begin());
     if (state.strength)
         showChoice(*m_strength,
-             std::ranges::find(EditorBlur::strengths, *state.strength) - EditorBlur::strengths.begin());
+                   std::ranges::find(EditorBlur::strengths, *state.strength) - EditorBlur::strengths.begin());
     if (state.number)
         m_number->setNumber(*state.number);
 }
