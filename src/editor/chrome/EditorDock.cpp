@@ -17,7 +17,8 @@ namespace tembra {
 
 namespace {
 
-constexpr qreal radius = 16;
+constexpr int radius = 16;
+constexpr int shadowReach = 30;
 constexpr int padding = 8;
 constexpr int separatorGap = 10;
 constexpr int separatorHeight = 26;
@@ -35,7 +36,7 @@ EditorDock::EditorDock(QWidget *parent)
       m_style(new EditorStyleRow(this)),
       m_crop(new EditorCropRow(this)),
       m_notice(new EditorNotice(this)),
-      m_shadow(new FloatingShadow(*this, radius)) {
+      m_shadow(new FloatingShadow(*this, radius, shadowReach)) {
     installAccessibleEditorChrome();
     setAccessibleName(tr("Tools and style"));
     setCursor(Qt::ArrowCursor);

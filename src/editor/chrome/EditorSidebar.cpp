@@ -5,6 +5,7 @@
 #include "editor/chrome/EditorSidebarDelegate.h"
 #include "editor/chrome/EditorSidebarModel.h"
 
+#include <QMouseEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
@@ -118,6 +119,12 @@ void EditorSidebar::showEvent(QShowEvent *event) {
 void EditorSidebar::hideEvent(QHideEvent *event) {
     QListView::hideEvent(event);
     requestPictures();
+}
+
+// A press that slides over other tiles chooses none of them.
+void EditorSidebar::mouseMoveEvent(QMouseEvent *event) {
+    if (event->buttons() == Qt::NoButton)
+        QListView::mouseMoveEvent(event);
 }
 
 void EditorSidebar::enterEvent(QEnterEvent *event) {

@@ -76,6 +76,9 @@ void EditorStyleRow::buildBlur() {
     m_blurMode->setAccessibleName(tr("What to blur"));
     m_strength = new TembraSegmentedControl({tr("Light"), tr("Medium"), tr("Strong")}, this);
     m_strength->setAccessibleName(tr("Strength"));
+    // A click leaves the keyboard to what is being drawn.
+    for (TembraSegmentedControl *segments : {m_blurMode, m_strength})
+        segments->setFocusedByClick(false);
     connect(m_blurMode, &TembraSegmentedControl::currentIndexChanged, this,
             [this](int index) { Q_EMIT blurModeChosen(blurModes[static_cast<size_t>(index)]); });
     connect(m_strength, &TembraSegmentedControl::currentIndexChanged, this, [this](int index) {

@@ -18,7 +18,8 @@ namespace tembra {
 
 namespace {
 
-constexpr qreal radius = 10;
+constexpr int radius = 10;
+constexpr int shadowReach = 14;
 constexpr int sideMargin = 5;
 constexpr int pillHeight = 31;
 
@@ -32,7 +33,7 @@ EditorZoomControl::EditorZoomControl(QWidget *parent) : QWidget(parent), m_row(n
     using Mark = EditorFlatButton::Mark;
     setAccessibleName(tr("Zoom"));
     setCursor(Qt::ArrowCursor);
-    new FloatingShadow(*this, radius);
+    new FloatingShadow(*this, radius, shadowReach);
     auto *out = new EditorFlatButton(QStringLiteral("−"), tr("Zoom out"), Mark::none, m_row);
     m_percent = new EditorFlatButton(percent(1), tr("Zoom"), Mark::none, m_row);
     auto *in = new EditorFlatButton(QStringLiteral("+"), tr("Zoom in"), Mark::none, m_row);
