@@ -52,6 +52,8 @@ EditorNumberControl::EditorNumberControl(QWidget *parent)
     add(less, 0);
     add(m_field, 1);
     add(more, 1);
+    setTabOrder(less, m_field);
+    setTabOrder(m_field, more);
     restore();
 }
 

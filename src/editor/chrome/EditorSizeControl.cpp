@@ -11,7 +11,7 @@ namespace tembra {
 
 namespace {
 
-constexpr int leastWidth = 60;
+constexpr int leastWidth = 52;
 
 QString inPixels(double size) {
     return EditorSizeControl::tr("%1 px").arg(QLocale().toString(size, 'g', 4));

@@ -20,7 +20,7 @@ namespace {
 
 constexpr int radius = 10;
 constexpr int shadowReach = 14;
-constexpr int sideMargin = 5;
+constexpr int sideMargin = 3;
 constexpr int pillHeight = 31;
 
 QString percent(double fraction) {
