@@ -6,6 +6,7 @@
 #include "editor/model/EditorNumber.h"
 
 #include <QKeyEvent>
+#include <QLocale>
 
 namespace tembra {
 

@@ -1,6 +1,7 @@
 #include "editor/chrome/EditorSidebar.h"
 
 #include "controls/ShelfScroller.h"
+#include "controls/TembraToolTip.h"
 #include "controls/Theme.h"
 #include "editor/chrome/EditorSidebarDelegate.h"
 #include "editor/chrome/EditorSidebarModel.h"
@@ -123,8 +124,10 @@ void EditorSidebar::hideEvent(QHideEvent *event) {
 
 // A press that slides over other tiles chooses none of them.
 void EditorSidebar::mouseMoveEvent(QMouseEvent *event) {
-    if (event->buttons() == Qt::NoButton)
-        QListView::mouseMoveEvent(event);
+    if (event->buttons() != Qt::NoButton)
+        return;
+    QListView::mouseMoveEvent(event);
+    TembraToolTip::set(*viewport(), indexAt(event->pos()).data().toString());
 }
 
 void EditorSidebar::enterEvent(QEnterEvent *event) {

@@ -1,8 +1,9 @@
 #include "editor/chrome/EditorSizeControl.h"
 
 #include "controls/DropdownList.h"
-#include "controls/TembraToolTip.h"
 #include "editor/chrome/EditorFlatButton.h"
+
+#include <QLocale>
 
 #include <algorithm>
 #include <array>
@@ -23,7 +24,6 @@ EditorSizeControl::EditorSizeControl(QWidget *parent)
     : EditorControlRow(parent),
       m_button(new EditorFlatButton(inPixels(m_size), tr("Size"), EditorFlatButton::Mark::opens, this)) {
     m_button->setLeastWidth(leastWidth);
-    TembraToolTip::set(*m_button, tr("Size ([ and ])"));
     connect(m_button, &EditorFlatButton::clicked, this, &EditorSizeControl::open);
     connect(m_button, &EditorFlatButton::stepped, this, &EditorSizeControl::stepped);
     add(m_button, 0);
