@@ -46,6 +46,7 @@ EditorDock::EditorDock(QWidget *parent)
     connect(m_style, &EditorStyleRow::changed, this, &EditorDock::styleChanged);
     connect(m_style, &EditorStyleRow::blurModeChosen, this, &EditorDock::blurModeChosen);
     connect(m_style, &EditorStyleRow::customColorRequested, this, &EditorDock::customColorRequested);
+    connect(m_style, &EditorStyleRow::numberEditingEnded, this, &EditorDock::numberEditingEnded);
     connect(m_crop, &EditorCropRow::applied, this, &EditorDock::cropApplied);
     connect(m_crop, &EditorCropRow::cancelled, this, &EditorDock::cropCancelled);
     apply(m_state);

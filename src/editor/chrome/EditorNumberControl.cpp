@@ -104,6 +104,7 @@ bool EditorNumberControl::eventFilter(QObject *watched, QEvent *event) {
         case Qt::Key_Escape:
             restore();
             m_field->clearFocus();
+            Q_EMIT editingEnded();
             return true;
         default:
             break;

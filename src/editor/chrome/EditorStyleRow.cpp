@@ -94,6 +94,7 @@ void EditorStyleRow::buildNumber() {
         new EditorFlatButton(tr("Straighten"), tr("Straighten"), EditorFlatButton::Mark::none, this);
     connect(m_number, &EditorNumberControl::chosen, this,
             [this](std::int64_t number) { Q_EMIT changed({.number = number}); });
+    connect(m_number, &EditorNumberControl::editingEnded, this, &EditorStyleRow::numberEditingEnded);
     connect(m_straighten, &QAbstractButton::clicked, this, [this] { Q_EMIT changed({.straightens = true}); });
     addSeparator();
     add(m_number, gap);
