@@ -36,7 +36,8 @@ struct Dock : testing::Test {
                          [this](const EditorStyleChange &change) { changes.push_back(change); });
         QObject::connect(&dock, &EditorDock::toolChosen, &dock,
                          [this](EditorTool tool) { tools.push_back(tool); });
-        dock.show();
+        window.resize(1200, 200);
+        window.show();
     }
 
     void apply(const EditorDockState &state) {
@@ -54,7 +55,8 @@ struct Dock : testing::Test {
         return found && found->isVisible();
     }
 
-    EditorDock dock;
+    QWidget window;
+    EditorDock dock{&window};
     std::vector<EditorStyleChange> changes;
     std::vector<EditorTool> tools;
 };
@@ -176,8 +178,8 @@ TEST_F(Dock, aNumberIsTypedOrSteppedButNeverZero) {
 
 TEST_F(Dock, tabReachesAGroupOnceAndArrowsMoveWithin) {
     apply({.tool = EditorTool::arrow, .color = red});
-    dock.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&dock));
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     button(dock, QStringLiteral("Arrow"))->setFocus(Qt::TabFocusReason);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
     EXPECT_EQ(QApplication::focusWidget(), button(dock, QStringLiteral("Pencil")));
@@ -190,8 +192,16 @@ TEST_F(Dock, tabReachesAGroupOnceAndArrowsMoveWithin) {
     EXPECT_EQ(QApplication::focusWidget(), button(dock, QStringLiteral("Custom color…")));
 }
 
+TEST_F(Dock, besideTheNoticeThePointerReachesWhatLiesBelow) {
+    apply({.color = red, .size = 7, .notice = QStringLiteral("Saved."), .isBusy = true});
+    dock.move(0, 0);
+    EXPECT_EQ(window.childAt(2, 2), nullptr);
+    EXPECT_NE(window.childAt(dock.width() / 2, 2), nullptr);
+    EXPECT_NE(window.childAt(dock.barRect().center()), nullptr);
+}
+
 TEST_F(Dock, nothingOverlapsWhereverThereIsRoom) {
-    EditorZoomControl zoom;
+    EditorZoomControl zoom(&window);
     const EditorDockState states[] = {{.color = red},
                                       {.color = red, .size = 7, .number = 3, .notice = QStringLiteral("…")},
                                       {.color = red, .size = 7, .canStraighten = true},
