@@ -2,8 +2,9 @@
 
 #include "platform/linux/recognition/EngineLanguages.h"
 #include "platform/linux/recognition/RecognizedText.h"
+#include "support/ChildProgram.h"
+#include "support/EventLoop.h"
 
-#include <QElapsedTimer>
 #include <QFile>
 #include <QFontMetricsF>
 #include <QPainter>
@@ -79,6 +80,12 @@ void expectFound(const Page &drawn, const std::vector<TextRecognizer::Line> &lin
     }
 }
 
+// A process that nobody has asked for its end yet still has its number.
+bool isOver(pid_t id) {
+    QFile status(QStringLiteral("/proc/%1/stat").arg(id));
+    return !status.open(QIODevice::ReadOnly) || status.readAll().contains(") Z ");
+}
+
 class ReadsText : public testing::TestWithParam<Look> {};
 
 // A program in the worker's place.
@@ -124,7 +131,9 @@ TEST(TesseractRecognizer, readsEveryLineOfATallPageOnce) {
     QStringList text;
     for (int i = 0; i < 30; ++i)
         text += QStringLiteral("Line number %1 of the list").arg(100 + i);
-    const Page drawn = page({}, text, QSize(300, 840));
+    Page drawn = page({}, text, QSize(300, 840));
+    // The border of a window: no row is without ink, so the parts that are read at once overlap.
+    QPainter(&drawn.image).fillRect(4, 0, 1, 840, Qt::gray);
     const auto lines = TesseractRecognizer({worker, english}).recognize(drawn.image, {});
     ASSERT_TRUE(lines);
     EXPECT_EQ(lines->size(), 30u);
@@ -159,6 +168,19 @@ TEST_F(FaultyWorker, isEndedWhenItIsCancelled) {
         cancellation.cancel();
     });
     EXPECT_EQ(errorOf(sleeper), TextRecognizer::cancelled);
+}
+
+TEST_F(FaultyWorker, diesWithTheProgram) {
+    const QString sleeper = program("echo $$ >\"$0.new\"; mv \"$0.new\" \"$0.id\"; exec sleep 100");
+    QFile file(sleeper + QStringLiteral(".id"));
+    {
+        const ChildProgram user{TEMBRA_RECOGNITION_USER, QFile::encodeName(sleeper).constData()};
+        ASSERT_TRUE(eventually([&] { return file.exists(); }));
+    }
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const pid_t id = file.readAll().trimmed().toInt();
+    ASSERT_GT(id, 0);
+    EXPECT_TRUE(eventually([&] { return isOver(id); }));
 }
 
 TEST(RecognizedText, takesOnlyWhatIsWhole) {

@@ -19,6 +19,8 @@ constexpr int readableHeight = 14;
 constexpr int overlap = 48;
 constexpr int smallestStripe = 240;
 constexpr int mostEngines = 4;
+// Grey levels below this are ink.
+constexpr int faintestInk = 240;
 
 struct Page {
     PixOwner ink;
@@ -37,11 +39,12 @@ std::vector<Stripe> stripesOf(Pix *ink) {
     const int height = pixGetHeight(ink);
     const int processors = std::min(mostEngines, static_cast<int>(std::thread::hardware_concurrency()));
     const int count = std::clamp(height / smallestStripe, 1, std::max(1, processors));
-    std::vector<float> rowInk(static_cast<size_t>(height));
-    Numa *sums = pixAverageByRow(ink, nullptr, L_BLACK_IS_MAX);
-    for (int y = 0; sums && y < height; ++y)
-        numaGetFValue(sums, y, &rowInk[static_cast<size_t>(y)]);
-    numaDestroy(&sums);
+    std::vector<int> rowInk(static_cast<size_t>(height));
+    const PixOwner marks(pixThresholdToBinary(ink, faintestInk));
+    Numa *counts = marks ? pixCountPixelsByRow(marks.get(), nullptr) : nullptr;
+    for (int y = 0; counts && y < height; ++y)
+        numaGetIValue(counts, y, &rowInk[static_cast<size_t>(y)]);
+    numaDestroy(&counts);
     return stripes(rowInk, count, overlap);
 }
 

@@ -22,7 +22,7 @@ bool counts(const ReadLine &line, const Stripe &stripe) {
 
 } // namespace
 
-std::vector<Stripe> stripes(std::span<const float> rowInk, int count, int overlap) {
+std::vector<Stripe> stripes(std::span<const int> rowInk, int count, int overlap) {
     const int height = static_cast<int>(rowInk.size());
     const int share = height / count;
     const int reach = std::min(2 * overlap, share / 4);
@@ -34,9 +34,12 @@ std::vector<Stripe> stripes(std::span<const float> rowInk, int count, int overla
     }
     cuts.push_back(height);
     std::vector<Stripe> result;
+    const auto reachAt = [&](int cut) {
+        return cut > 0 && cut < height && rowInk[static_cast<size_t>(cut)] > 0 ? overlap : 0;
+    };
     for (size_t i = 0; i + 1 < cuts.size(); ++i)
-        result.push_back(
-            {std::max(0, cuts[i] - overlap), std::min(height, cuts[i + 1] + overlap), cuts[i], cuts[i + 1]});
+        result.push_back({std::max(0, cuts[i] - reachAt(cuts[i])),
+                          std::min(height, cuts[i + 1] + reachAt(cuts[i + 1])), cuts[i], cuts[i + 1]});
     return result;
 }
 
