@@ -96,6 +96,7 @@ private:
     std::optional<EditorColor> m_customColor;
     bool m_isSaving = false;
     bool m_isAsking = false;
+    bool m_isShownDirty = false;
     Generation m_imageGeneration;
 };
 
