@@ -42,6 +42,11 @@ bool EditorHands::hasAnnotations(int count) const {
     return waitFor([count](const QJsonObject &editor) { return editor[u"annotations"].toInt() == count; });
 }
 
+bool EditorHands::says(const QString &sentence) const {
+    return waitFor(
+        [&sentence](const QJsonObject &editor) { return editor[u"message"].toString() == sentence; });
+}
+
 bool EditorHands::save() const {
     press({QStringLiteral("ctrl+s")});
     return waitFor(
@@ -82,20 +87,21 @@ bool EditorHands::sees(const QString &name) const {
 }
 
 bool EditorHands::clickControl(const QString &name) const {
-    const bool isThere = pressControl(name);
-    xdotool({button("mouseup"), QStringLiteral("1")});
-    return isThere;
-}
-
-bool EditorHands::pressControl(const QString &name) const {
     std::optional<QPoint> place;
     const bool isThere = m_tembra.waitFor([&](const QJsonObject &) {
         place = control(name);
         return place.has_value();
     });
     if (isThere)
-        xdotool(moveWords(*place) + QStringList{button("mousedown"), QStringLiteral("1")});
+        xdotool(moveWords(*place) + QStringList{button("click"), QStringLiteral("1")});
     return isThere;
+}
+
+void EditorHands::makeRoomBelow() const {
+    xdotool({QStringLiteral("search"), QStringLiteral("--onlyvisible"), QStringLiteral("--name"),
+             QStringLiteral("^Screenshot from"), QStringLiteral("windowmove"), QStringLiteral("0"),
+             QStringLiteral("0"), QStringLiteral("windowsize"), QStringLiteral("--sync"),
+             QStringLiteral("1200"), QStringLiteral("480")});
 }
 
 std::optional<QPoint> EditorHands::control(const QString &name) const {

@@ -4,11 +4,13 @@
 #include "TembraProcess.h"
 
 #include <QJsonObject>
+#include <QPoint>
 #include <QPointF>
 #include <QStringList>
 
 #include <functional>
 #include <initializer_list>
+#include <optional>
 
 namespace tembra {
 
@@ -24,6 +26,8 @@ public:
     [[nodiscard]] bool open(const QString &path) const;
     [[nodiscard]] bool isShown(const QString &path) const;
     [[nodiscard]] bool hasAnnotations(int count) const;
+    // Whether the banner comes to say this; nothing for no banner.
+    [[nodiscard]] bool says(const QString &sentence) const;
     // Saves by the keys; whether nothing is unsaved any more.
     [[nodiscard]] bool save() const;
 
@@ -37,12 +41,13 @@ public:
     // What is found by its accessible name, be it in the window or in a question about it.
     [[nodiscard]] bool sees(const QString &name) const;
     [[nodiscard]] bool clickControl(const QString &name) const;
-    // Takes hold of a control and stays there.
-    [[nodiscard]] bool pressControl(const QString &name) const;
+    [[nodiscard]] std::optional<QPoint> control(const QString &name) const;
     [[nodiscard]] const AccessibleTree &tree() const { return m_tree; }
 
+    // Makes the window as low as it may be, at the top of the display.
+    void makeRoomBelow() const;
+
 private:
-    [[nodiscard]] std::optional<QPoint> control(const QString &name) const;
     [[nodiscard]] QStringList moveTo(QPointF point, const QJsonObject &editor) const;
     void xdotool(const QStringList &words) const;
 

@@ -1,5 +1,6 @@
 #include "EditorHands.h"
 
+#include "FileManagerWindow.h"
 #include "TembraProcess.h"
 #include "support/Files.h"
 #include "support/Pictures.h"
@@ -9,6 +10,7 @@
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QUrl>
 
 #include <gtest/gtest.h>
 
@@ -89,6 +91,15 @@ protected:
         return !QImage(file).isNull() && QImage(file) == QImage(expected);
     }
 
+    // What is on the clipboard in that form.
+    [[nodiscard]] QByteArray pasted(const char *type) const {
+        const QString file = tembra.home() + text("/pasted");
+        tembra.tool(text("sh"), {text("-c"), text("xclip -selection clipboard -o -t \"$1\" >\"$2\""),
+                                 text("sh"), text(type), file});
+        QFile pasted(file);
+        return pasted.open(QIODevice::ReadOnly) ? pasted.readAll() : QByteArray();
+    }
+
     TembraProcess tembra;
     const EditorHands hands{tembra};
 };
@@ -149,7 +160,7 @@ TEST_F(EditorStories, whatIsDrawnWithEveryToolIsInTheFileAndStaysEditable) {
     restart(1);
     ASSERT_TRUE(hands.open(shot));
     constexpr std::array drawn{
-        Drawn{"arrow", {160, 120}},     Drawn{"pencil", {360, 121}},  Drawn{"line", {460, 160}},
+        Drawn{"arrow", {160, 120}},     Drawn{"pencil", {320, 121}},  Drawn{"line", {460, 160}},
         Drawn{"rectangle", {580, 160}}, Drawn{"ellipse", {680, 160}}, Drawn{"text", {80, 300}},
         Drawn{"number", {320, 300}},    Drawn{"blur", {460, 300}},    Drawn{"blur", {200, 42}}};
     QStringList kinds;
@@ -165,4 +176,195 @@ TEST_F(EditorStories, whatIsDrawnWithEveryToolIsInTheFileAndStaysEditable) {
             << kind;
     }
     EXPECT_EQ(kindsOf(record()), kinds);
+}
+
+TEST_F(EditorStories, theKeyboardAloneMakesMovesStylesAndSavesAnnotations) {
+    const QString shot = shoot(1);
+    start(1);
+    ASSERT_TRUE(hands.open(shot)) << tembra.log().toStdString();
+    hands.press({text("r"), text("Return"), text("Right"), text("Right"), text("shift+Down"),
+                 text("alt+Right"), text("bracketright"), text("3")});
+    hands.press({text("n"), text("Return"), text("Escape"), text("Escape")});
+    EXPECT_TRUE(hands.hasAnnotations(2));
+    QStringList unnamed;
+    QStringList items;
+    for (const AccessibleTree::Node &node : hands.tree().shown(text("Tembra"))) {
+        if (node.isFocusable && node.name.isEmpty())
+            unnamed += node.role;
+        if (node.role == u"list item")
+            items += node.name;
+    }
+    EXPECT_EQ(unnamed, QStringList());
+    EXPECT_TRUE(items.contains(text("Rectangle")) && items.contains(text("Number 1")))
+        << items.join(u',').toStdString();
+
+    hands.press({text("Tab"), text("Tab"), text("Delete")});
+    EXPECT_TRUE(hands.hasAnnotations(1));
+    hands.press({text("ctrl+z")});
+    EXPECT_TRUE(hands.hasAnnotations(2));
+    hands.press({text("ctrl+y")});
+    EXPECT_TRUE(hands.hasAnnotations(1));
+    ASSERT_TRUE(hands.save());
+    const QJsonValue rectangle = record()[u"annotations"][0];
+    EXPECT_EQ(rectangle[u"points"], QJsonArray({QJsonObject{{text("x"), 302}, {text("y"), 190}},
+                                                QJsonObject{{text("x"), 503}, {text("y"), 310}}}));
+    EXPECT_TRUE(showsTheRecord(shot));
+    hands.press({text("ctrl+w")});
+    EXPECT_TRUE(hands.waitFor([](const QJsonObject &editor) { return !editor[u"open"].toBool(); }));
+}
+
+TEST_F(EditorStories, unsavedEditsOfSeveralScreenshotsAreKeptUntilTheyAreSavedOrDiscarded) {
+    const std::array shots{shoot(1), shoot(2)};
+    const std::array before{QImage(shots[0]), QImage(shots[1])};
+    start(2);
+    const auto editBoth = [&] {
+        for (const QString &shot : shots) {
+            ASSERT_TRUE(hands.open(shot)) << tembra.log().toStdString();
+            hands.press({text("a")});
+            hands.drag({{100, 100}, {200, 150}, {300, 200}});
+            ASSERT_TRUE(hands.hasAnnotations(1));
+        }
+    };
+    editBoth();
+    ASSERT_TRUE(hands.clickControl(QFileInfo(shots[0]).fileName()));
+    ASSERT_TRUE(hands.isShown(shots[0]));
+    EXPECT_TRUE(hands.hasAnnotations(1));
+    hands.press({text("ctrl+w")});
+    EXPECT_TRUE(hands.sees(text("Save the edits of 2 screenshots?")));
+    EXPECT_TRUE(hands.sees(QFileInfo(shots[1]).fileName() + u'\n' + QFileInfo(shots[0]).fileName()));
+    EXPECT_TRUE(hands.clickControl(text("Cancel")));
+    EXPECT_EQ(hands.status()[u"unsaved"].toArray().size(), 2);
+    hands.press({text("ctrl+w")});
+    EXPECT_TRUE(hands.clickControl(text("Discard all")));
+    EXPECT_TRUE(hands.waitFor([](const QJsonObject &editor) { return !editor[u"open"].toBool(); }));
+    EXPECT_TRUE(QImage(shots[0]) == before[0] && QImage(shots[1]) == before[1]);
+
+    editBoth();
+    tembra.command({text("quit")});
+    EXPECT_TRUE(hands.clickControl(text("Save all")));
+    EXPECT_TRUE(tembra.waitForEnd());
+    EXPECT_TRUE(QImage(shots[0]) != before[0] && QImage(shots[1]) != before[1]);
+}
+
+TEST_F(EditorStories, aScreenshotIsRenamedAndGoesToTheTrashUnlessItIsPinned) {
+    const QString shot = shoot(1);
+    const QString other = shoot(2);
+    start(2);
+    ASSERT_TRUE(hands.open(shot)) << tembra.log().toStdString();
+    EXPECT_TRUE(hands.clickControl(text("File name")));
+    hands.press({text("ctrl+a")});
+    hands.type(QFileInfo(other).completeBaseName());
+    hands.press({text("Return")});
+    EXPECT_TRUE(hands.clickControl(text("Keep both")));
+    const QString renamed =
+        QFileInfo(other).path() + u'/' + QFileInfo(other).completeBaseName() + text(" 2.png");
+    EXPECT_TRUE(hands.isShown(renamed)) << QJsonDocument(hands.status()).toJson().toStdString();
+    EXPECT_TRUE(QFile::exists(renamed) && !QFile::exists(shot));
+
+    EXPECT_TRUE(hands.clickControl(text("More")));
+    EXPECT_TRUE(hands.clickControl(text("Move to Trash")));
+    EXPECT_TRUE(hands.isShown(other)) << "its neighbour";
+    EXPECT_FALSE(QFile::exists(renamed));
+
+    tembra.command({text("open")});
+    ASSERT_TRUE(
+        tembra.waitFor([](const QJsonObject &status) { return status[u"shelf"][u"expanded"].toBool(); }));
+    hands.press({text("ctrl+a"), text("ctrl+p")});
+    ASSERT_TRUE(tembra.waitFor(
+        [](const QJsonObject &status) { return status[u"screenshots"][u"pinned"].toInt() == 1; }));
+    tembra.command({text("close")});
+    EXPECT_TRUE(hands.clickControl(text("More")));
+    EXPECT_TRUE(hands.clickControl(text("Move to Trash")));
+    EXPECT_TRUE(hands.says(text("This screenshot is pinned. Unpin it before moving it to Trash.")));
+    EXPECT_TRUE(QFile::exists(other));
+}
+
+TEST_F(EditorStories, whatAnotherProgramWritesMeanwhileIsNeitherLostNorLosesEdits) {
+    const QString shot = shoot(1);
+    start(1);
+    ASSERT_TRUE(hands.open(shot)) << tembra.log().toStdString();
+    shoot(1, Qt::yellow);
+    EXPECT_TRUE(hands.says(text("Another program changed this screenshot.")));
+    EXPECT_TRUE(hands.clickControl(text("Reload")));
+    EXPECT_TRUE(hands.says({}));
+    ASSERT_TRUE(hands.isShown(shot));
+
+    hands.press({text("a")});
+    hands.drag({{100, 100}, {200, 150}, {300, 200}});
+    EXPECT_TRUE(hands.hasAnnotations(1));
+    shoot(1, Qt::gray);
+    const QImage theirs(shot);
+    EXPECT_TRUE(hands.says(text("Another program changed this screenshot. Your edits are still here. Save a "
+                                "copy to keep them.")));
+    hands.press({text("ctrl+s")});
+    EXPECT_TRUE(hands.says(text("This image changed outside Tembra. Your edits are still here. Use Save a "
+                                "copy to keep them.")));
+    EXPECT_TRUE(hands.clickControl(text("Save a copy")));
+    EXPECT_TRUE(hands.sees(text("Save a copy")));
+    hands.press({text("ctrl+a")});
+    hands.type(tembra.home() + text("/kept.png"));
+    hands.press({text("Return")});
+    EXPECT_TRUE(hands.says(QString::fromUtf8("A copy was saved as “kept.png”.")));
+    const QImage copy(tembra.home() + text("/kept.png"));
+    EXPECT_EQ(copy.pixelColor(20, 20), QColor(Qt::yellow));
+    EXPECT_NE(copy.pixelColor(200, 150), QColor(Qt::yellow));
+    EXPECT_EQ(QImage(shot), theirs);
+}
+
+TEST_F(EditorStories, imagesAndAnnotationsLeaveTheEditorByTheClipboardAndByADrag) {
+    const QString shot = shoot(1);
+    const QString other = shoot(2, Qt::gray);
+    FileManagerWindow files(tembra);
+    start(2);
+    ASSERT_TRUE(hands.open(shot)) << tembra.log().toStdString();
+    hands.press({text("r")});
+    hands.drag({{100, 100}, {200, 150}, {300, 200}});
+    EXPECT_TRUE(hands.hasAnnotations(1));
+    hands.press({text("ctrl+shift+c")});
+    EXPECT_TRUE(tembra.waitFor([&](const QJsonObject &) { return pasted("TARGETS").contains("image/png"); }));
+    const QImage copied = QImage::fromData(pasted("image/png"));
+    const QUrl file = QUrl::fromEncoded(pasted("text/uri-list").trimmed());
+    EXPECT_EQ(QImage(file.toLocalFile()), copied);
+    hands.press({text("ctrl+a"), text("ctrl+c")});
+    ASSERT_TRUE(hands.save());
+    EXPECT_EQ(copied, QImage(shot));
+
+    ASSERT_TRUE(hands.open(other));
+    hands.press({text("ctrl+v")});
+    EXPECT_TRUE(hands.hasAnnotations(1));
+    ASSERT_TRUE(hands.save());
+
+    ASSERT_TRUE(files.open({}));
+    hands.makeRoomBelow();
+    const auto handle = hands.control(text("Drag image"));
+    ASSERT_TRUE(handle);
+    files.pressAt(*handle);
+    files.dragTo(files.middle() + QPoint(0, 60));
+    files.release();
+    EXPECT_TRUE(files.agreeToCopy());
+    const QDir folder(files.folder());
+    EXPECT_TRUE(tembra.waitFor([&](const QJsonObject &) {
+        return QImage(folder.filePath(folder.entryList(QDir::Files).value(0))) == QImage(other);
+    })) << folder.entryList(QDir::Files).join(u',').toStdString();
+}
+
+TEST_F(EditorStories, theShelfOpensImagesInTheEditorAndANewCaptureByItself) {
+    constexpr QPoint firstTile{340, 100};
+    QDir().mkpath(QFileInfo(tembra.settingsFile()).path());
+    writeFile(tembra.settingsFile(), R"({"automaticallyOpenEditor": true})");
+    start(0);
+    EXPECT_EQ(tembra.tool(text("scrot"), {text("Screenshot from 2026-11-21 10-15-01.png")}).exitStatus, 0);
+    const QString shot = tembra.screenshots() + text("/Screenshot from 2026-11-21 10-15-01.png");
+    EXPECT_TRUE(hands.isShown(shot)) << "a new capture opens by itself";
+    hands.press({text("ctrl+w")});
+    EXPECT_TRUE(hands.waitFor([](const QJsonObject &editor) { return !editor[u"open"].toBool(); }));
+
+    tembra.command({text("open")});
+    ASSERT_TRUE(tembra.waitFor([](const QJsonObject &status) {
+        return status[u"shelf"][u"expanded"].toBool() && status[u"shelf"][u"frame"][3].toInt() == 256;
+    }));
+    tembra.tool(text("xdotool"),
+                {text("mousemove"), QString::number(firstTile.x()), QString::number(firstTile.y()),
+                 text("click"), text("--repeat"), text("2"), text("--delay"), text("20"), text("1")});
+    EXPECT_TRUE(hands.isShown(shot));
 }
