@@ -38,6 +38,10 @@ bool EditorHands::isShown(const QString &path) const {
     });
 }
 
+bool EditorHands::isClosed() const {
+    return waitFor([](const QJsonObject &editor) { return !editor[u"open"].toBool(); });
+}
+
 bool EditorHands::hasAnnotations(int count) const {
     return waitFor([count](const QJsonObject &editor) { return editor[u"annotations"].toInt() == count; });
 }

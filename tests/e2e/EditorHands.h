@@ -25,6 +25,8 @@ public:
     // Opens a screenshot by the command line; whether every pixel of it came to be shown.
     [[nodiscard]] bool open(const QString &path) const;
     [[nodiscard]] bool isShown(const QString &path) const;
+    // Whether the window comes to be gone.
+    [[nodiscard]] bool isClosed() const;
     [[nodiscard]] bool hasAnnotations(int count) const;
     // Whether the banner comes to say this; nothing for no banner.
     [[nodiscard]] bool says(const QString &sentence) const;

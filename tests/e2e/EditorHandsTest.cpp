@@ -11,6 +11,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QUrl>
+#include <QtEndian>
 
 #include <gtest/gtest.h>
 
@@ -71,6 +72,16 @@ protected:
         start(shots);
     }
 
+    // By a double click in the shelf.
+    void openFirstTile() const {
+        tembra.command({text("open")});
+        ASSERT_TRUE(tembra.waitFor([](const QJsonObject &status) {
+            return status[u"shelf"][u"expanded"].toBool() && status[u"shelf"][u"frame"][3].toInt() == 256;
+        }));
+        tembra.tool(text("xdotool"), {text("mousemove"), text("340"), text("100"), text("click"),
+                                      text("--repeat"), text("2"), text("--delay"), text("20"), text("1")});
+    }
+
     // Where the edits of the only edited screenshot are kept.
     [[nodiscard]] QString kept(const char *file) const {
         const QDir store(tembra.home() + text("/tembra/data/ScreenshotEdits"));
@@ -103,6 +114,17 @@ protected:
     TembraProcess tembra;
     const EditorHands hands{tembra};
 };
+
+// The boxes of a recording that is complete.
+QByteArray mp4() {
+    const auto box = [](const char *kind, const QByteArray &content) {
+        QByteArray size(4, 0);
+        qToBigEndian(static_cast<quint32>(content.size() + 8), size.data());
+        return size + kind + content;
+    };
+    return box("ftyp", "isommp42") + box("mdat", QByteArray(1000, 'x')) +
+           box("moov", box("mvhd", QByteArray(100, 0)));
+}
 
 QStringList kindsOf(const QJsonObject &record) {
     QStringList kinds;
@@ -210,7 +232,7 @@ TEST_F(EditorStories, theKeyboardAloneMakesMovesStylesAndSavesAnnotations) {
                                                 QJsonObject{{text("x"), 503}, {text("y"), 310}}}));
     EXPECT_TRUE(showsTheRecord(shot));
     hands.press({text("ctrl+w")});
-    EXPECT_TRUE(hands.waitFor([](const QJsonObject &editor) { return !editor[u"open"].toBool(); }));
+    EXPECT_TRUE(hands.isClosed());
 }
 
 TEST_F(EditorStories, unsavedEditsOfSeveralScreenshotsAreKeptUntilTheyAreSavedOrDiscarded) {
@@ -236,7 +258,7 @@ TEST_F(EditorStories, unsavedEditsOfSeveralScreenshotsAreKeptUntilTheyAreSavedOr
     EXPECT_EQ(hands.status()[u"unsaved"].toArray().size(), 2);
     hands.press({text("ctrl+w")});
     EXPECT_TRUE(hands.clickControl(text("Discard all")));
-    EXPECT_TRUE(hands.waitFor([](const QJsonObject &editor) { return !editor[u"open"].toBool(); }));
+    EXPECT_TRUE(hands.isClosed());
     EXPECT_TRUE(QImage(shots[0]) == before[0] && QImage(shots[1]) == before[1]);
 
     editBoth();
@@ -249,7 +271,8 @@ TEST_F(EditorStories, unsavedEditsOfSeveralScreenshotsAreKeptUntilTheyAreSavedOr
 TEST_F(EditorStories, aScreenshotIsRenamedAndGoesToTheTrashUnlessItIsPinned) {
     const QString shot = shoot(1);
     const QString other = shoot(2);
-    start(2);
+    shoot(3);
+    start(3);
     ASSERT_TRUE(hands.open(shot)) << tembra.log().toStdString();
     EXPECT_TRUE(hands.clickControl(text("File name")));
     hands.press({text("ctrl+a")});
@@ -257,12 +280,12 @@ TEST_F(EditorStories, aScreenshotIsRenamedAndGoesToTheTrashUnlessItIsPinned) {
     hands.press({text("Return")});
     EXPECT_TRUE(hands.clickControl(text("Keep both")));
     const QString renamed =
-        QFileInfo(other).path() + u'/' + QFileInfo(other).completeBaseName() + text(" 2.png");
+        QFileInfo(other).path() + u'/' + QFileInfo(other).completeBaseName() + text(" copy.png");
     EXPECT_TRUE(hands.isShown(renamed)) << QJsonDocument(hands.status()).toJson().toStdString();
     EXPECT_TRUE(QFile::exists(renamed) && !QFile::exists(shot));
 
     EXPECT_TRUE(hands.clickControl(text("More")));
-    EXPECT_TRUE(hands.clickControl(text("Move to Trash")));
+    hands.press({text("Up"), text("Return")});
     EXPECT_TRUE(hands.isShown(other)) << "its neighbour";
     EXPECT_FALSE(QFile::exists(renamed));
 
@@ -271,10 +294,10 @@ TEST_F(EditorStories, aScreenshotIsRenamedAndGoesToTheTrashUnlessItIsPinned) {
         tembra.waitFor([](const QJsonObject &status) { return status[u"shelf"][u"expanded"].toBool(); }));
     hands.press({text("ctrl+a"), text("ctrl+p")});
     ASSERT_TRUE(tembra.waitFor(
-        [](const QJsonObject &status) { return status[u"screenshots"][u"pinned"].toInt() == 1; }));
+        [](const QJsonObject &status) { return status[u"screenshots"][u"pinned"].toInt() == 2; }));
     tembra.command({text("close")});
     EXPECT_TRUE(hands.clickControl(text("More")));
-    EXPECT_TRUE(hands.clickControl(text("Move to Trash")));
+    hands.press({text("Up"), text("Return")});
     EXPECT_TRUE(hands.says(text("This screenshot is pinned. Unpin it before moving it to Trash.")));
     EXPECT_TRUE(QFile::exists(other));
 }
@@ -309,6 +332,9 @@ TEST_F(EditorStories, whatAnotherProgramWritesMeanwhileIsNeitherLostNorLosesEdit
     EXPECT_EQ(copy.pixelColor(20, 20), QColor(Qt::yellow));
     EXPECT_NE(copy.pixelColor(200, 150), QColor(Qt::yellow));
     EXPECT_EQ(QImage(shot), theirs);
+    hands.press({text("ctrl+w")});
+    EXPECT_TRUE(hands.clickControl(text("Discard")));
+    EXPECT_TRUE(hands.isClosed());
 }
 
 TEST_F(EditorStories, imagesAndAnnotationsLeaveTheEditorByTheClipboardAndByADrag) {
@@ -349,22 +375,34 @@ TEST_F(EditorStories, imagesAndAnnotationsLeaveTheEditorByTheClipboardAndByADrag
 }
 
 TEST_F(EditorStories, theShelfOpensImagesInTheEditorAndANewCaptureByItself) {
-    constexpr QPoint firstTile{340, 100};
     QDir().mkpath(QFileInfo(tembra.settingsFile()).path());
     writeFile(tembra.settingsFile(), R"({"automaticallyOpenEditor": true})");
+    // What recordings are played with.
+    const QString applications = tembra.home() + text("/.local/share/applications");
+    QDir().mkpath(applications);
+    writeFile(applications + text("/player.desktop"),
+              "[Desktop Entry]\nType=Application\nName=Player\nExec=cp %f " + tembra.home().toUtf8() +
+                  "/played\nMimeType=video/mp4;\n");
+    QDir().mkpath(tembra.home() + text("/.config"));
+    writeFile(tembra.home() + text("/.config/mimeapps.list"),
+              "[Default Applications]\nvideo/mp4=player.desktop\n");
     start(0);
     EXPECT_EQ(tembra.tool(text("scrot"), {text("Screenshot from 2026-11-21 10-15-01.png")}).exitStatus, 0);
     const QString shot = tembra.screenshots() + text("/Screenshot from 2026-11-21 10-15-01.png");
     EXPECT_TRUE(hands.isShown(shot)) << "a new capture opens by itself";
     hands.press({text("ctrl+w")});
-    EXPECT_TRUE(hands.waitFor([](const QJsonObject &editor) { return !editor[u"open"].toBool(); }));
+    EXPECT_TRUE(hands.isClosed());
 
-    tembra.command({text("open")});
-    ASSERT_TRUE(tembra.waitFor([](const QJsonObject &status) {
-        return status[u"shelf"][u"expanded"].toBool() && status[u"shelf"][u"frame"][3].toInt() == 256;
-    }));
-    tembra.tool(text("xdotool"),
-                {text("mousemove"), QString::number(firstTile.x()), QString::number(firstTile.y()),
-                 text("click"), text("--repeat"), text("2"), text("--delay"), text("20"), text("1")});
+    openFirstTile();
     EXPECT_TRUE(hands.isShown(shot));
+    hands.press({text("ctrl+w")});
+    EXPECT_TRUE(hands.isClosed());
+
+    writeFile(tembra.screenshots() + text("/Screencast from 2026-11-21 10-15-02.mp4"), mp4());
+    EXPECT_TRUE(tembra.waitFor(
+        [](const QJsonObject &status) { return status[u"screenshots"][u"count"].toInt() == 2; }));
+    openFirstTile();
+    EXPECT_TRUE(tembra.waitFor(
+        [this](const QJsonObject &) { return QFile::exists(tembra.home() + text("/played")); }));
+    EXPECT_TRUE(hands.isClosed());
 }
