@@ -53,8 +53,20 @@ bool EditorHands::says(const QString &sentence) const {
 
 bool EditorHands::save() const {
     press({QStringLiteral("ctrl+s")});
+    return isSaved();
+}
+
+bool EditorHands::isSaved() const {
     return waitFor(
         [](const QJsonObject &editor) { return !editor[u"dirty"].toBool() && !editor[u"busy"].toBool(); });
+}
+
+// Keys may be told to assistive programs first, and come after what the pointer does next.
+bool EditorHands::take(const char *letter, const char *tool) const {
+    press({QString::fromLatin1(letter)});
+    return waitFor([tool](const QJsonObject &editor) {
+        return editor[u"tool"].toString() == QString::fromLatin1(tool);
+    });
 }
 
 void EditorHands::press(const QStringList &keys) const {

@@ -30,9 +30,12 @@ public:
     [[nodiscard]] bool hasAnnotations(int count) const;
     // Whether the banner comes to say this; nothing for no banner.
     [[nodiscard]] bool says(const QString &sentence) const;
+    [[nodiscard]] bool isSaved() const;
     // Saves by the keys; whether nothing is unsaved any more.
     [[nodiscard]] bool save() const;
 
+    // Takes a tool by its letter; whether it is in use.
+    [[nodiscard]] bool take(const char *letter, const char *tool) const;
     void press(const QStringList &keys) const;
     void type(const QString &text) const;
     void click(QPointF point, const QString &button = QStringLiteral("1")) const;

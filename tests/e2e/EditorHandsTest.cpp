@@ -141,33 +141,35 @@ TEST_F(EditorStories, whatIsDrawnWithEveryToolIsInTheFileAndStaysEditable) {
     start(1);
     ASSERT_TRUE(hands.open(shot)) << tembra.log().toStdString();
 
-    hands.press({text("a")});
+    EXPECT_TRUE(hands.take("a", "arrow"));
     hands.drag({{60, 200}, {150, 200}, {260, 200}});
     hands.drag({{160, 200}, {160, 150}, {160, 120}});
-    hands.press({text("4"), text("bracketright"), text("p")});
+    hands.press({text("4"), text("bracketright")});
+    EXPECT_TRUE(hands.take("p", "pencil"));
     hands.drag({{320, 120}, {340, 200}, {360, 120}, {380, 200}});
     EXPECT_TRUE(hands.clickControl(text("Line")));
     EXPECT_TRUE(hands.clickControl(text("Green")));
     hands.drag({{420, 120}, {440, 140}, {500, 200}});
-    hands.press({text("r")});
+    EXPECT_TRUE(hands.take("r", "rectangle"));
     hands.drag({{540, 120}, {580, 150}, {640, 200}});
     EXPECT_TRUE(hands.clickControl(text("Filled")));
-    hands.press({text("o")});
+    EXPECT_TRUE(hands.take("o", "ellipse"));
     hands.drag({{680, 120}, {700, 150}, {770, 200}});
-    hands.press({text("t")});
+    EXPECT_TRUE(hands.take("t", "text"));
     hands.click({60, 300});
     EXPECT_TRUE(hands.waitFor([](const QJsonObject &editor) { return editor[u"typing"].toBool(); }));
     hands.type(text("next: a4"));
-    hands.press({text("Escape"), text("n")});
+    hands.press({text("Escape")});
+    EXPECT_TRUE(hands.take("n", "number"));
     hands.click({320, 300});
-    hands.press({text("b")});
+    EXPECT_TRUE(hands.take("b", "blur"));
     hands.drag({{420, 260}, {440, 300}, {500, 340}});
     EXPECT_TRUE(hands.hasAnnotations(8)) << "the letters of a text choose no tools";
     EXPECT_TRUE(hands.clickControl(text("Words")));
     EXPECT_TRUE(hands.waitFor([](const QJsonObject &editor) { return editor[u"wordCount"].toInt() == 3; }));
     hands.drag({{60, 42}, {100, 42}, {300, 42}});
     EXPECT_TRUE(hands.hasAnnotations(9));
-    hands.press({text("c")});
+    EXPECT_TRUE(hands.take("c", "crop"));
     hands.drag({{0, 0}, {5, 3}, {20, 10}});
     hands.drag({{800, 480}, {790, 470}, {790, 440}});
     hands.press({text("Return")});
@@ -242,7 +244,7 @@ TEST_F(EditorStories, unsavedEditsOfSeveralScreenshotsAreKeptUntilTheyAreSavedOr
     const auto editBoth = [&] {
         for (const QString &shot : shots) {
             ASSERT_TRUE(hands.open(shot)) << tembra.log().toStdString();
-            hands.press({text("a")});
+            EXPECT_TRUE(hands.take("a", "arrow"));
             hands.drag({{100, 100}, {200, 150}, {300, 200}});
             ASSERT_TRUE(hands.hasAnnotations(1));
         }
@@ -312,7 +314,7 @@ TEST_F(EditorStories, whatAnotherProgramWritesMeanwhileIsNeitherLostNorLosesEdit
     EXPECT_TRUE(hands.says({}));
     ASSERT_TRUE(hands.isShown(shot));
 
-    hands.press({text("a")});
+    EXPECT_TRUE(hands.take("a", "arrow"));
     hands.drag({{100, 100}, {200, 150}, {300, 200}});
     EXPECT_TRUE(hands.hasAnnotations(1));
     shoot(1, Qt::gray);
@@ -343,7 +345,7 @@ TEST_F(EditorStories, imagesAndAnnotationsLeaveTheEditorByTheClipboardAndByADrag
     FileManagerWindow files(tembra);
     start(2);
     ASSERT_TRUE(hands.open(shot)) << tembra.log().toStdString();
-    hands.press({text("r")});
+    EXPECT_TRUE(hands.take("r", "rectangle"));
     hands.drag({{100, 100}, {200, 150}, {300, 200}});
     EXPECT_TRUE(hands.hasAnnotations(1));
     hands.press({text("ctrl+shift+c")});
@@ -359,6 +361,13 @@ TEST_F(EditorStories, imagesAndAnnotationsLeaveTheEditorByTheClipboardAndByADrag
     hands.press({text("ctrl+v")});
     EXPECT_TRUE(hands.hasAnnotations(1));
     ASSERT_TRUE(hands.save());
+    EXPECT_TRUE(hands.take("t", "text"));
+    hands.click({400, 300});
+    EXPECT_TRUE(hands.waitFor([](const QJsonObject &editor) { return editor[u"typing"].toBool(); }));
+    hands.type(text("typed"));
+    EXPECT_TRUE(hands.clickControl(text("Save")));
+    EXPECT_TRUE(hands.hasAnnotations(2)) << "what is typed can be saved";
+    EXPECT_TRUE(hands.isSaved());
 
     ASSERT_TRUE(files.open({}));
     hands.makeRoomBelow();

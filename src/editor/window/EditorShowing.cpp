@@ -75,6 +75,8 @@ void ScreenshotEditorWindowController::refresh() {
     ScreenshotCanvasView &canvas = m_window->canvas();
     EditorHeaderState header = editorHeaderState(m_documents->current());
     header.isSaving = m_isSaving;
+    // What is typed is saved too.
+    header.canSave = header.canSave || canvas.isTyping();
     m_window->header().apply(header);
     m_window->zoomControl().setZoom(canvas.viewport().scale(), canvas.viewport().isFit());
     m_window->placeOverlays();
