@@ -28,13 +28,18 @@ void drawHandle(QPainter &painter, QPointF center) {
     painter.drawEllipse(center, handleRadius, handleRadius);
 }
 
-// Arrows and lines have the handles at their ends to show that they are selected.
+using Kind = ScreenshotAnnotation::Kind;
+
+// The handles of arrows, lines and rectangles lie on what is drawn, and show alone that it is selected.
 bool hasFrame(const ScreenshotAnnotation &annotation, bool isAlone) {
-    using Kind = ScreenshotAnnotation::Kind;
-    return !isAlone || (annotation.kind != Kind::arrow && annotation.kind != Kind::line);
+    return !isAlone || (annotation.kind != Kind::arrow && annotation.kind != Kind::line &&
+                        annotation.kind != Kind::rectangle);
 }
 
+// Beside the stroke of a rectangle, whose colour is to be seen.
 QRectF frameOf(const ScreenshotAnnotation &annotation) {
+    if (annotation.kind == Kind::rectangle)
+        return annotation.bounds();
     return annotation.hasRectHandles() ? annotation.shapeRect() : annotation.path().boundingRect();
 }
 
