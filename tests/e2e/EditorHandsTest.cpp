@@ -63,7 +63,8 @@ protected:
     void start(int shots) {
         tembra.start();
         EXPECT_TRUE(tembra.waitFor([shots](const QJsonObject &status) {
-            return status[u"screenshots"][u"count"].toInt() == shots;
+            return status[u"screenshots"][u"count"].toInt() == shots &&
+                   status[u"folder"][u"state"].toString() == u"ready";
         })) << tembra.log().toStdString();
     }
     void restart(int shots) {
