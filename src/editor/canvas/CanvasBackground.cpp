@@ -54,11 +54,11 @@ void drawCanvasBackground(QPainter &painter, const CanvasScene &scene) {
     const QSizeF view = scene.viewport.viewSize();
     painter.fillRect(QRectF(QPointF(), view), scene.background);
     drawDots(painter, view, scene.dots);
+    if (!scene.image || scene.image->isNull())
+        return;
     const QRectF image = scene.viewport.toView(scene.viewport.content());
     drawShadow(painter, image);
-    const bool isTransparent =
-        scene.image && !scene.image->isNull() && scene.image->level(0).image.hasAlphaChannel();
-    if (isTransparent)
+    if (scene.image->level(0).image.hasAlphaChannel())
         drawChequerboard(painter, image & QRectF(QPointF(), view));
 }
 

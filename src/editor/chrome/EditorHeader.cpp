@@ -83,6 +83,9 @@ void EditorHeader::apply(const EditorHeaderState &state) {
     setToolTipWithKeys(*m_undo, undo, QKeySequence(Qt::CTRL | Qt::Key_Z));
     setToolTipWithKeys(*m_redo, redo, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
     m_save->setEnabled(state.canSave && !state.isSaving);
+    for (QWidget *control : std::initializer_list<QWidget *>{m_drag, m_more, m_copy, m_saveAs})
+        control->setEnabled(state.hasScreenshot);
+    m_name->setVisible(state.hasScreenshot);
     showSaving(state.isSaving);
 }
 

@@ -16,6 +16,8 @@ struct EditorHeaderState {
     QString redoName;
     bool canSave = false;
     bool isSaving = false;
+    // Without a screenshot there is nothing to do with it.
+    bool hasScreenshot = true;
 
     bool operator==(const EditorHeaderState &) const = default;
 };

@@ -49,7 +49,7 @@ EditorDockState editorDockState(const ScreenshotCanvasView &canvas) {
 
 EditorHeaderState editorHeaderState(EditorDocument *document) {
     if (!document)
-        return {};
+        return {.hasScreenshot = false};
     QUndoStack &history = document->edits.history();
     return {.name = document->name(),
             .extension = document->extension().mid(1),

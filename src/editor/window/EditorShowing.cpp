@@ -140,6 +140,10 @@ void ScreenshotEditorWindowController::say(const QString &text) {
 void ScreenshotEditorWindowController::showFailure(const EditorFailure &failure) {
     using Offer = EditorFailure::Offer;
     EditorBannerMessage message{.text = failure.error.message, .isError = true};
+    const EditorDocument *shown = m_documents->current();
+    // Another screenshot is meant than the one that is seen.
+    if (shown && shown->id != failure.document && !failure.fileName.isEmpty())
+        message.text = tr("“%1”: %2").arg(failure.fileName, failure.error.message);
     switch (failure.offer) {
     case Offer::none:
         break;

@@ -118,6 +118,8 @@ void ScreenshotEditorWindowController::connectWindow() {
         m_documents->moveToTrash();
     });
     connect(header, &EditorHeader::revealRequested, this, [this] {
+        if (!m_documents->current())
+            return;
         if (const auto shown = m_services.workspace.reveal({m_documents->current()->loaded.path}); !shown)
             say(shown.error().message);
     });
