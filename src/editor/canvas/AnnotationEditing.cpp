@@ -164,12 +164,14 @@ ScreenshotAnnotation grownBy(const ScreenshotAnnotation &annotation, QPointF del
         return annotation.resizedShape(4, annotation.shapeRect().bottomRight() + delta, false, limits);
     if (annotation.kind == Kind::arrow || annotation.kind == Kind::line)
         return withPoint(annotation, 1, clampedTo(annotation.points[1].toPointF() + delta, limits));
-    if (!annotation.text)
-        return annotation;
-    ScreenshotAnnotation result = annotation;
-    result.text->maximumWidth =
-        std::clamp(annotation.text->maximumWidth + delta.x(), 2 * annotation.text->fontSize, limits.width());
-    return result;
+    return annotation.text ? wrappedAt(annotation, annotation.text->maximumWidth + delta.x(), limits.width())
+                           : annotation;
+}
+
+ScreenshotAnnotation wrappedAt(ScreenshotAnnotation text, double width, double most) {
+    const double least = 2 * text.text->fontSize;
+    text.text->maximumWidth = std::clamp(width, least, std::max(most, least));
+    return text;
 }
 
 ScreenshotAnnotation withPoint(const ScreenshotAnnotation &annotation, std::size_t index, QPointF point) {

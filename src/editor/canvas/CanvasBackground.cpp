@@ -37,17 +37,6 @@ void drawShadow(QPainter &painter, const QRectF &image) {
     painter.setRenderHint(QPainter::Antialiasing, false);
 }
 
-void drawChequerboard(QPainter &painter, const QRectF &area) {
-    QImage tile(2 * chequerSide, 2 * chequerSide, QImage::Format_RGB32);
-    tile.fill(QColor(255, 255, 255));
-    QPainter tilePainter(&tile);
-    tilePainter.fillRect(0, 0, chequerSide, chequerSide, QColor(226, 226, 230));
-    tilePainter.fillRect(chequerSide, chequerSide, chequerSide, chequerSide, QColor(226, 226, 230));
-    tilePainter.end();
-    painter.setBrushOrigin(area.topLeft());
-    painter.fillRect(area, QBrush(tile));
-}
-
 } // namespace
 
 void drawCanvasBackground(QPainter &painter, const CanvasScene &scene) {
@@ -59,7 +48,18 @@ void drawCanvasBackground(QPainter &painter, const CanvasScene &scene) {
     const bool isTransparent =
         scene.image && !scene.image->isNull() && scene.image->level(0).image.hasAlphaChannel();
     if (isTransparent)
-        drawChequerboard(painter, image & QRectF(QPointF(), view));
+        drawChequerboard(painter, image & QRectF(QPointF(), view), scene.viewport);
+}
+
+void drawChequerboard(QPainter &painter, const QRectF &area, const CanvasViewport &viewport) {
+    QImage tile(2 * chequerSide, 2 * chequerSide, QImage::Format_RGB32);
+    tile.fill(QColor(255, 255, 255));
+    QPainter tilePainter(&tile);
+    tilePainter.fillRect(0, 0, chequerSide, chequerSide, QColor(226, 226, 230));
+    tilePainter.fillRect(chequerSide, chequerSide, chequerSide, chequerSide, QColor(226, 226, 230));
+    tilePainter.end();
+    painter.setBrushOrigin(viewport.toView(viewport.content()).topLeft());
+    painter.fillRect(area, QBrush(tile));
 }
 
 void drawPixelGrid(QPainter &painter, const CanvasViewport &viewport, const QRectF &exposed) {

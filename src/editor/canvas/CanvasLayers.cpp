@@ -1,7 +1,6 @@
 #include "editor/canvas/CanvasLayers.h"
 
 #include "editor/canvas/CanvasBackground.h"
-#include "editor/canvas/ImagePart.h"
 #include "editor/model/AnnotationPainter.h"
 #include "imaging/GaussianBlur.h"
 
@@ -76,40 +75,41 @@ bool beginsWith(const std::vector<ScreenshotAnnotation> &all,
 
 CanvasLayers::Split CanvasLayers::split(const CanvasScene &scene) {
     Merged all = merged(scene);
-    // What is being blurred lies below everything that is drawn.
-    const std::size_t first = all.draftBlurs.empty() ? all.first : 0;
-    const std::size_t last = all.first == all.annotations.size() ? first : std::max(all.last, first);
     const auto at = [&all](std::size_t index) {
         return all.annotations.begin() + static_cast<std::ptrdiff_t>(index);
     };
     return {.settledBlurs = std::move(all.settledBlurs),
             .draftBlurs = std::move(all.draftBlurs),
-            .below = {at(0), at(first)},
-            .live = {at(first), at(last)},
-            .above = {at(last), all.annotations.end()}};
+            .below = {at(0), at(all.first)},
+            .live = {at(all.first), at(all.last)},
+            .above = {at(all.last), all.annotations.end()}};
 }
 
 void CanvasLayers::forget() {
-    m_below = QImage();
-    m_above = QImage();
+    m_picture = QImage();
+    m_below = {};
+    m_above = {};
 }
 
 void CanvasLayers::paint(QPainter &painter, const QRectF &exposed, const CanvasScene &scene) {
     const Split parts = split(scene);
     updateFrame(scene);
-    updateBelow(scene, parts);
-    updateAbove(scene, parts);
+    updatePicture(scene, parts);
+    updateInk(m_below, scene, parts.below);
+    updateInk(m_above, scene, parts.above);
     const double pixels = scene.viewport.displayScale();
     const QRectF source(exposed.topLeft() * pixels, exposed.size() * pixels);
     painter.save();
     painter.setClipRect(exposed);
     painter.setCompositionMode(QPainter::CompositionMode_Source);
-    painter.drawImage(exposed, m_below, source);
+    painter.drawImage(exposed, m_picture, source);
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     drawBlurs(painter, scene, parts.draftBlurs);
+    if (!m_below.image.isNull())
+        painter.drawImage(exposed, m_below.image, source);
     drawIn(painter, scene.viewport, parts.live);
-    if (!m_above.isNull())
-        painter.drawImage(exposed, m_above, source);
+    if (!m_above.image.isNull())
+        painter.drawImage(exposed, m_above.image, source);
     painter.restore();
 }
 
@@ -122,71 +122,78 @@ void CanvasLayers::updateFrame(const CanvasScene &scene) {
     forget();
 }
 
-QImage CanvasLayers::emptyLayer(const CanvasScene &scene, QImage::Format format) const {
+QImage CanvasLayers::emptyLayer(const CanvasScene &scene, QImage::Format format) {
     const double pixels = scene.viewport.displayScale();
     QImage layer((scene.viewport.viewSize() * pixels).toSize(), format);
     layer.setDevicePixelRatio(pixels);
     return layer;
 }
 
-void CanvasLayers::updateBelow(const CanvasScene &scene, const Split &split) {
-    const bool isKept =
-        !m_below.isNull() && m_belowBlurs == split.settledBlurs && beginsWith(split.below, m_belowDrawn);
-    if (!isKept) {
-        if (m_below.isNull())
-            m_below = emptyLayer(scene, QImage::Format_RGB32);
-        QPainter painter(&m_below);
-        drawCanvasBackground(painter, scene);
-        if (scene.image && !scene.image->isNull()) {
-            const ImagePart part = ImagePart::of(*scene.image, scene.viewport);
-            part.draw(painter, part.level->image, part.pixels, scene.viewport);
-        }
-        drawBlurs(painter, scene, split.settledBlurs);
-        m_belowBlurs = split.settledBlurs;
-        m_belowDrawn.clear();
-    }
-    if (m_belowDrawn.size() == split.below.size())
+void CanvasLayers::updatePicture(const CanvasScene &scene, const Split &split) {
+    if (!m_picture.isNull() && m_pictureBlurs == split.settledBlurs)
         return;
-    QPainter painter(&m_below);
-    drawIn(painter, scene.viewport, std::span(split.below).subspan(m_belowDrawn.size()));
-    m_belowDrawn = split.below;
+    if (m_picture.isNull())
+        m_picture = emptyLayer(scene, QImage::Format_RGB32);
+    QPainter painter(&m_picture);
+    drawCanvasBackground(painter, scene);
+    if (scene.image && !scene.image->isNull()) {
+        const ImagePart part = ImagePart::of(*scene.image, scene.viewport);
+        part.draw(painter, part.level->image, part.pixels, scene.viewport);
+    }
+    drawBlurs(painter, scene, split.settledBlurs);
+    m_pictureBlurs = split.settledBlurs;
 }
 
-void CanvasLayers::updateAbove(const CanvasScene &scene, const Split &split) {
-    if (split.above.empty()) {
-        m_above = QImage();
+void CanvasLayers::updateInk(Ink &ink, const CanvasScene &scene, const Annotations &annotations) const {
+    if (annotations.empty()) {
+        ink = {};
         return;
     }
-    if (!m_above.isNull() && m_aboveDrawn == split.above)
+    if (ink.image.isNull() || !beginsWith(annotations, ink.drawn)) {
+        if (ink.image.isNull())
+            ink.image = emptyLayer(scene, QImage::Format_ARGB32_Premultiplied);
+        ink.image.fill(Qt::transparent);
+        ink.drawn.clear();
+    }
+    if (ink.drawn.size() == annotations.size())
         return;
-    m_above = emptyLayer(scene, QImage::Format_ARGB32_Premultiplied);
-    m_above.fill(Qt::transparent);
-    QPainter painter(&m_above);
-    drawIn(painter, scene.viewport, split.above);
-    m_aboveDrawn = split.above;
+    QPainter painter(&ink.image);
+    drawIn(painter, scene.viewport, std::span(annotations).subspan(ink.drawn.size()));
+    ink.drawn = annotations;
 }
 
 void CanvasLayers::drawBlurs(QPainter &painter, const CanvasScene &scene, const Annotations &blurs) {
-    if (!scene.image || scene.image->isNull())
+    if (blurs.empty() || !scene.image || scene.image->isNull())
         return;
     const ImagePart part = ImagePart::of(*scene.image, scene.viewport);
-    if (part.pixels.isEmpty())
-        return;
+    const QRectF seen = part.target & scene.viewport.toView(scene.viewport.content());
     // The stronger blur lies above.
     for (const EditorBlur::Strength strength : EditorBlur::strengths) {
-        QRegion areas;
         for (const ScreenshotAnnotation &blur : blurs) {
-            if (blur.isDrawable() && blur.blur->strength == strength)
-                areas += scene.viewport.toView(QRectF(blur.shapeRect().toAlignedRect())).toAlignedRect();
+            if (!blur.isDrawable() || blur.blur->strength != strength)
+                continue;
+            const QRectF area = scene.viewport.toView(QRectF(blur.shapeRect().toAlignedRect())) & seen;
+            if (!area.isEmpty())
+                drawBlur(painter, scene, part, area, strength);
         }
-        if (areas.isEmpty())
-            continue;
-        const QImage &image = blurred(scene, strength);
-        painter.save();
-        painter.setClipRegion(areas, Qt::IntersectClip);
-        part.draw(painter, image, image.rect(), scene.viewport);
-        painter.restore();
     }
+}
+
+// What lets something through is drawn over nothing but the chequerboard.
+void CanvasLayers::drawBlur(QPainter &painter, const CanvasScene &scene, const ImagePart &part,
+                            const QRectF &area, EditorBlur::Strength strength) {
+    const QImage &image = blurred(scene, strength);
+    if (image.isNull())
+        return;
+    const double pixels = image.width() / part.target.width();
+    const QRectF source((area.topLeft() - part.target.topLeft()) * pixels, area.size() * pixels);
+    painter.save();
+    painter.setClipRect(area, Qt::IntersectClip);
+    if (image.hasAlphaChannel())
+        drawChequerboard(painter, area, scene.viewport);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(area, image, source);
+    painter.restore();
 }
 
 const QImage &CanvasLayers::blurred(const CanvasScene &scene, EditorBlur::Strength strength) {
