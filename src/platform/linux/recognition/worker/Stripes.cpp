@@ -40,12 +40,9 @@ std::vector<Stripe> stripes(std::span<const int> rowInk, int count, int overlap)
     }
     cuts.push_back(height);
     std::vector<Stripe> result;
-    const auto reachAt = [&](int cut) {
-        return cut > 0 && cut < height && rowInk[static_cast<size_t>(cut)] > 0 ? overlap : 0;
-    };
     for (size_t i = 0; i + 1 < cuts.size(); ++i)
-        result.push_back({std::max(0, cuts[i] - reachAt(cuts[i])),
-                          std::min(height, cuts[i + 1] + reachAt(cuts[i + 1])), cuts[i], cuts[i + 1]});
+        result.push_back(
+            {std::max(0, cuts[i] - overlap), std::min(height, cuts[i + 1] + overlap), cuts[i], cuts[i + 1]});
     return result;
 }
 
