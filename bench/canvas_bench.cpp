@@ -7,6 +7,7 @@
 #include "Row.h"
 #include "editor/canvas/ScreenshotCanvasView.h"
 #include "support/FakePasteboard.h"
+#include "support/ManualScheduler.h"
 #include "support/MemoryUserDefaults.h"
 
 #include <QApplication>
@@ -136,20 +137,22 @@ int main(int argc, char **argv) {
     const double floor = fillWindow();
     MemoryUserDefaults defaults;
     FakePasteboard pasteboard;
-    const double before = memory().now;
     ScreenshotEditLoaded loaded;
     loaded.size = imageSize;
     ScreenshotEditDocument document(loaded);
-    auto pyramid = std::make_shared<const ImagePyramid>(interfacePicture(imageSize, 1), imageSize);
-    ScreenshotCanvasView canvas(defaults, pasteboard);
+    ManualScheduler scheduler;
+    ScreenshotCanvasView canvas(defaults, pasteboard, scheduler);
     document.onChange = [&canvas] { canvas.documentChanged(); };
     canvas.resize(windowSize);
+    canvas.show();
+    QCoreApplication::processEvents();
+    const double before = memory().now;
+    auto pyramid = std::make_shared<const ImagePyramid>(interfacePicture(imageSize, 1), imageSize);
     canvas.setDocument(&document, pyramid);
     std::vector<ScreenshotAnnotation> all;
     for (int number = 1; number <= count; ++number)
         all.push_back(annotation(number));
     document.apply(all, {}, QStringLiteral("all"));
-    canvas.show();
     QCoreApplication::processEvents();
 
     for (const auto &[name, tool] : {std::pair{"arrow", EditorTool::arrow},

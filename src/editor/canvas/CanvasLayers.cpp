@@ -1,17 +1,21 @@
 #include "editor/canvas/CanvasLayers.h"
 
 #include "editor/canvas/CanvasBackground.h"
+#include "editor/canvas/ImagePart.h"
 #include "editor/model/AnnotationPainter.h"
-#include "imaging/GaussianBlur.h"
 
 #include <QHash>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace tembra {
 
 namespace {
+
+// So many are drawn within a frame.
+constexpr std::size_t fewAnnotations = 12;
 
 bool isBlur(const ScreenshotAnnotation &annotation) {
     return annotation.kind == ScreenshotAnnotation::Kind::blur;
@@ -87,15 +91,22 @@ CanvasLayers::Split CanvasLayers::split(const CanvasScene &scene) {
 
 void CanvasLayers::forget() {
     m_picture = QImage();
-    m_below = {};
     m_above = {};
+    m_moving = {};
+    refine();
+}
+
+void CanvasLayers::refine() {
+    m_below = {};
+    m_isApproximate = false;
 }
 
 void CanvasLayers::paint(QPainter &painter, const QRectF &exposed, const CanvasScene &scene) {
     const Split parts = split(scene);
-    updateFrame(scene);
+    updateFrame(scene, parts);
     updatePicture(scene, parts);
-    updateInk(m_below, scene, parts.below);
+    if (!m_isApproximate)
+        updateInk(m_below, scene, parts.below);
     updateInk(m_above, scene, parts.above);
     const double pixels = scene.viewport.displayScale();
     const QRectF source(exposed.topLeft() * pixels, exposed.size() * pixels);
@@ -104,22 +115,111 @@ void CanvasLayers::paint(QPainter &painter, const QRectF &exposed, const CanvasS
     painter.setCompositionMode(QPainter::CompositionMode_Source);
     painter.drawImage(exposed, m_picture, source);
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-    drawBlurs(painter, scene, parts.draftBlurs);
-    if (!m_below.image.isNull())
+    m_blurs.draw(painter, scene, parts.draftBlurs, false);
+    if (m_isApproximate)
+        drawScaledInk(painter, scene);
+    else if (!m_below.image.isNull())
         painter.drawImage(exposed, m_below.image, source);
-    drawIn(painter, scene.viewport, parts.live);
+    drawLive(painter, scene, parts);
     if (!m_above.image.isNull())
         painter.drawImage(exposed, m_above.image, source);
     painter.restore();
 }
 
-void CanvasLayers::updateFrame(const CanvasScene &scene) {
+// Another viewport makes another picture. What is drawn on the image is expensive: after a pan it is shifted,
+// during a zoom it is scaled.
+void CanvasLayers::updateFrame(const CanvasScene &scene, const Split &split) {
+    m_blurs.setView(scene);
     if (m_viewport == scene.viewport && m_image == scene.image)
         return;
+    const CanvasViewport before = m_viewport;
     m_viewport = scene.viewport;
     m_image = scene.image;
-    m_blurred.clear();
-    forget();
+    m_picture = QImage();
+    m_above = {};
+    m_moving = {};
+    const bool isSameView =
+        before.viewSize() == m_viewport.viewSize() && before.displayScale() == m_viewport.displayScale();
+    if (before == m_viewport)
+        return;
+    if (!isSameView || m_below.image.isNull() || m_below.drawn != split.below ||
+        before.content() != m_viewport.content())
+        return refine();
+    if (before.scale() != m_viewport.scale()) {
+        m_inkViewport = m_isApproximate ? m_inkViewport : before;
+        m_isApproximate = split.below.size() > fewAnnotations;
+        if (!m_isApproximate)
+            m_below = {};
+    } else if (!m_isApproximate) {
+        shiftInk(scene, m_viewport.toView(QPointF()) - before.toView(QPointF()));
+    }
+}
+
+// The origin of a view lies on the display's pixels, so a shift is one of whole pixels.
+void CanvasLayers::shiftInk(const CanvasScene &scene, QPointF shift) {
+    const double pixels = scene.viewport.displayScale();
+    QImage shifted = emptyLayer(scene, QImage::Format_ARGB32_Premultiplied);
+    shifted.fill(Qt::transparent);
+    QPainter painter(&shifted);
+    const QRectF view(QPointF(), scene.viewport.viewSize());
+    const QRectF kept = view.translated(shift) & view;
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.drawImage(QPointF(std::round(shift.x() * pixels), std::round(shift.y() * pixels)) / pixels,
+                      m_below.image);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    const QPoint first(static_cast<int>(std::ceil(kept.left())), static_cast<int>(std::ceil(kept.top())));
+    const QPoint last(static_cast<int>(kept.right()) - 1, static_cast<int>(kept.bottom()) - 1);
+    for (const QRect &strip : QRegion(view.toAlignedRect()) - QRect(first, last)) {
+        const QRectF seen = scene.viewport.toImage(QRectF(strip));
+        Annotations inStrip;
+        for (std::size_t index = 0; index < m_below.drawn.size(); ++index) {
+            if (m_below.bounds[index].intersects(seen))
+                inStrip.push_back(m_below.drawn[index]);
+        }
+        painter.save();
+        painter.setClipRect(strip);
+        painter.setCompositionMode(QPainter::CompositionMode_Source);
+        painter.fillRect(strip, Qt::transparent);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+        drawIn(painter, scene.viewport, inStrip);
+        painter.restore();
+    }
+    m_below.image = std::move(shifted);
+}
+
+void CanvasLayers::drawScaledInk(QPainter &painter, const CanvasScene &scene) const {
+    const QRectF whole = m_inkViewport.toImage(QRectF(QPointF(), m_inkViewport.viewSize()));
+    painter.save();
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.setClipRect(scene.viewport.toView(scene.viewport.content()), Qt::IntersectClip);
+    painter.drawImage(scene.viewport.toView(whole), m_below.image, m_below.image.rect());
+    painter.restore();
+}
+
+// Many that are only moved are drawn once, as long as all of them were seen then.
+void CanvasLayers::drawLive(QPainter &painter, const CanvasScene &scene, const Split &split) {
+    const auto &movedBy = scene.draft.movedBy;
+    if (!movedBy || split.live.size() <= fewAnnotations) {
+        m_moving = {};
+        return drawIn(painter, scene.viewport, split.live);
+    }
+    if (m_moving.image.isNull()) {
+        const QRectF seen = scene.viewport.toImage(QRectF(QPointF(), scene.viewport.viewSize()));
+        if (!seen.contains(scene.draft.movedBounds))
+            return drawIn(painter, scene.viewport, split.live);
+        m_movedBefore = *movedBy;
+        m_moving.image = emptyLayer(scene, QImage::Format_ARGB32_Premultiplied);
+        m_moving.image.fill(Qt::transparent);
+        QPainter moving(&m_moving.image);
+        moving.setTransform(scene.viewport.imageToView());
+        drawAnnotations(split.live, moving);
+    }
+    const double pixels = scene.viewport.displayScale();
+    const QPointF shift = (*movedBy - m_movedBefore) * scene.viewport.zoom() * pixels;
+    painter.save();
+    painter.setClipRect(scene.viewport.toView(scene.viewport.content()), Qt::IntersectClip);
+    painter.drawImage(QPointF(std::round(shift.x()), std::round(shift.y())) / pixels, m_moving.image);
+    painter.restore();
 }
 
 QImage CanvasLayers::emptyLayer(const CanvasScene &scene, QImage::Format format) {
@@ -140,7 +240,7 @@ void CanvasLayers::updatePicture(const CanvasScene &scene, const Split &split) {
         const ImagePart part = ImagePart::of(*scene.image, scene.viewport);
         part.draw(painter, part.level->image, part.pixels, scene.viewport);
     }
-    drawBlurs(painter, scene, split.settledBlurs);
+    m_blurs.draw(painter, scene, split.settledBlurs, true);
     m_pictureBlurs = split.settledBlurs;
 }
 
@@ -158,52 +258,12 @@ void CanvasLayers::updateInk(Ink &ink, const CanvasScene &scene, const Annotatio
     if (ink.drawn.size() == annotations.size())
         return;
     QPainter painter(&ink.image);
-    drawIn(painter, scene.viewport, std::span(annotations).subspan(ink.drawn.size()));
+    const auto added = std::span(annotations).subspan(ink.drawn.size());
+    drawIn(painter, scene.viewport, added);
+    ink.bounds.resize(ink.drawn.size());
+    for (const ScreenshotAnnotation &annotation : added)
+        ink.bounds.push_back(annotation.bounds());
     ink.drawn = annotations;
-}
-
-void CanvasLayers::drawBlurs(QPainter &painter, const CanvasScene &scene, const Annotations &blurs) {
-    if (blurs.empty() || !scene.image || scene.image->isNull())
-        return;
-    const ImagePart part = ImagePart::of(*scene.image, scene.viewport);
-    const QRectF seen = part.target & scene.viewport.toView(scene.viewport.content());
-    // The stronger blur lies above.
-    for (const EditorBlur::Strength strength : EditorBlur::strengths) {
-        for (const ScreenshotAnnotation &blur : blurs) {
-            if (!blur.isDrawable() || blur.blur->strength != strength)
-                continue;
-            const QRectF area = scene.viewport.toView(QRectF(blur.shapeRect().toAlignedRect())) & seen;
-            if (!area.isEmpty())
-                drawBlur(painter, scene, part, area, strength);
-        }
-    }
-}
-
-// What lets something through is drawn over nothing but the chequerboard.
-void CanvasLayers::drawBlur(QPainter &painter, const CanvasScene &scene, const ImagePart &part,
-                            const QRectF &area, EditorBlur::Strength strength) {
-    const QImage &image = blurred(scene, strength);
-    if (image.isNull())
-        return;
-    const double pixels = image.width() / part.target.width();
-    const QRectF source((area.topLeft() - part.target.topLeft()) * pixels, area.size() * pixels);
-    painter.save();
-    painter.setClipRect(area, Qt::IntersectClip);
-    if (image.hasAlphaChannel())
-        drawChequerboard(painter, area, scene.viewport);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawImage(area, image, source);
-    painter.restore();
-}
-
-const QImage &CanvasLayers::blurred(const CanvasScene &scene, EditorBlur::Strength strength) {
-    QImage &kept = m_blurred[strength];
-    if (kept.isNull()) {
-        const ImagePart part = ImagePart::of(*scene.image, scene.viewport);
-        kept =
-            gaussianBlurred(part.level->image, part.pixels, static_cast<int>(strength) * part.level->scale);
-    }
-    return kept;
 }
 
 } // namespace tembra

@@ -1,13 +1,11 @@
 #pragma once
 
+#include "editor/canvas/BlurPatches.h"
 #include "editor/canvas/CanvasScene.h"
-#include "editor/canvas/ImagePart.h"
-#include "editor/model/EditorBlur.h"
 
 #include <QImage>
 #include <QPainter>
 
-#include <map>
 #include <vector>
 
 namespace tembra {
@@ -19,6 +17,9 @@ class CanvasLayers {
 public:
     // Brings the layers up to date with the scene and paints the part of it that is exposed.
     void paint(QPainter &painter, const QRectF &exposed, const CanvasScene &scene);
+    // After a zoom what is drawn on the image is shown as it was before, scaled, until this is called.
+    [[nodiscard]] bool isApproximate() const { return m_isApproximate; }
+    void refine();
     // The colours have changed.
     void forget();
 
@@ -35,18 +36,19 @@ private:
     };
     [[nodiscard]] static Split split(const CanvasScene &scene);
 
-    void updateFrame(const CanvasScene &scene);
+    void updateFrame(const CanvasScene &scene, const Split &split);
+    void drawScaledInk(QPainter &painter, const CanvasScene &scene) const;
+    void shiftInk(const CanvasScene &scene, QPointF shift);
+    void drawLive(QPainter &painter, const CanvasScene &scene, const Split &split);
     void updatePicture(const CanvasScene &scene, const Split &split);
     // A layer that has the annotations, drawn on top of what it has already where that is possible.
     struct Ink {
         QImage image;
         Annotations drawn;
+        // What each of them covers. Image space.
+        std::vector<QRectF> bounds;
     };
     void updateInk(Ink &ink, const CanvasScene &scene, const Annotations &annotations) const;
-    void drawBlurs(QPainter &painter, const CanvasScene &scene, const Annotations &blurs);
-    void drawBlur(QPainter &painter, const CanvasScene &scene, const ImagePart &part, const QRectF &area,
-                  EditorBlur::Strength strength);
-    [[nodiscard]] const QImage &blurred(const CanvasScene &scene, EditorBlur::Strength strength);
     [[nodiscard]] static QImage emptyLayer(const CanvasScene &scene, QImage::Format format);
 
     // What all layers were made for.
@@ -57,8 +59,13 @@ private:
     Annotations m_pictureBlurs;
     Ink m_below;
     Ink m_above;
-    // What is seen of the image, blurred, in the pixels of the level that is shown.
-    std::map<EditorBlur::Strength, QImage> m_blurred;
+    // What is being moved, as it was at first, and by how much it was moved then.
+    Ink m_moving;
+    QPointF m_movedBefore;
+    // The layer below is that of another zoom, and this is where it belongs.
+    bool m_isApproximate = false;
+    CanvasViewport m_inkViewport;
+    BlurPatches m_blurs;
 };
 
 } // namespace tembra
