@@ -122,9 +122,9 @@ std::unique_ptr<CanvasGesture> ScreenshotCanvasView::takingHold(const CanvasTarg
         const auto selected = m_document->selectedAnnotations().front();
         if (target.handle->isOfRect)
             return std::make_unique<ResizingGesture>(
-                selected, target.handle->index,
+                selected, target.handle->index, image,
                 ResizingGesture::Surroundings{limits, alignmentTargets({selected.id}), tolerance});
-        return std::make_unique<PointGesture>(selected, static_cast<std::size_t>(target.handle->index),
+        return std::make_unique<PointGesture>(selected, static_cast<std::size_t>(target.handle->index), image,
                                               limits, tolerance);
     }
     QSet<QUuid> ids = m_document->selectedIDs();
@@ -187,8 +187,7 @@ std::vector<QRectF> ScreenshotCanvasView::alignmentTargets(const QSet<QUuid> &mo
     for (const ScreenshotAnnotation &annotation : m_document->annotations()) {
         const bool isTarget = annotation.kind != Kind::pencil && annotation.kind != Kind::arrow;
         if (isTarget && !moving.contains(annotation.id))
-            targets.push_back(annotation.hasRectHandles() ? annotation.shapeRect()
-                                                          : annotation.path().boundingRect());
+            targets.push_back(annotationEditing::alignmentRect(annotation));
     }
     return targets;
 }
