@@ -3,6 +3,7 @@
 #include "editor/canvas/CanvasBackground.h"
 #include "editor/canvas/ImagePart.h"
 #include "editor/model/AnnotationPainter.h"
+#include "editor/model/GrownRect.h"
 #include "imaging/GaussianBlur.h"
 
 #include <QHash>
@@ -66,6 +67,27 @@ void drawIn(QPainter &painter, const CanvasViewport &viewport,
     painter.restore();
 }
 
+std::vector<ScreenshotAnnotation> joined(std::vector<ScreenshotAnnotation> all,
+                                         const std::vector<ScreenshotAnnotation> &more) {
+    all.insert(all.end(), more.begin(), more.end());
+    return all;
+}
+
+// Every pixel of the display that a part of the image touches.
+QRect devicePixels(const CanvasViewport &viewport, const QRectF &image) {
+    const QRectF view = viewport.toView(image);
+    const double pixels = viewport.displayScale();
+    constexpr double rounding = 1e-6;
+    return grown(QRectF(view.topLeft() * pixels, view.size() * pixels), -rounding).toAlignedRect();
+}
+
+void clipToDevicePixels(QPainter &painter, const QRegion &areas, double displayScale) {
+    const QTransform transform = painter.transform();
+    painter.scale(1 / displayScale, 1 / displayScale);
+    painter.setClipRegion(areas, Qt::IntersectClip);
+    painter.setTransform(transform);
+}
+
 // Whether `all` begins with `beginning`.
 bool beginsWith(const std::vector<ScreenshotAnnotation> &all,
                 const std::vector<ScreenshotAnnotation> &beginning) {
@@ -106,7 +128,8 @@ void CanvasLayers::paint(QPainter &painter, const QRectF &exposed, const CanvasS
     painter.setCompositionMode(QPainter::CompositionMode_Source);
     painter.drawImage(exposed, m_below, source);
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-    drawBlurs(painter, scene, parts.draftBlurs);
+    if (!parts.draftBlurs.empty())
+        drawBlurs(painter, scene, joined(parts.settledBlurs, parts.draftBlurs));
     drawIn(painter, scene.viewport, parts.live);
     if (!m_above.isNull())
         painter.drawImage(exposed, m_above, source);
@@ -177,13 +200,16 @@ void CanvasLayers::drawBlurs(QPainter &painter, const CanvasScene &scene, const 
         QRegion areas;
         for (const ScreenshotAnnotation &blur : blurs) {
             if (blur.isDrawable() && blur.blur->strength == strength)
-                areas += scene.viewport.toView(QRectF(blur.shapeRect().toAlignedRect())).toAlignedRect();
+                areas += devicePixels(scene.viewport, QRectF(blur.shapeRect().toAlignedRect()));
         }
         if (areas.isEmpty())
             continue;
         const QImage &image = blurred(scene, strength);
         painter.save();
-        painter.setClipRegion(areas, Qt::IntersectClip);
+        clipToDevicePixels(painter, areas, scene.viewport.displayScale());
+        // What is translucent lies in place of what it blurs, not above it.
+        if (image.hasAlphaChannel())
+            drawCanvasBackground(painter, scene);
         part.draw(painter, image, image.rect(), scene.viewport);
         painter.restore();
     }
