@@ -110,4 +110,11 @@
         <translation>Show in Files</translation>
     </message>
 </context>
+<context>
+    <name>tembra::EditorHeader</name>
+    <message>
+        <source>Show in Finder</source>
+        <translation>Show in Files</translation>
+    </message>
+</context>
 </TS>

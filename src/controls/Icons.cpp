@@ -39,6 +39,8 @@ QString fileName(Icon icon) {
         return QStringLiteral("folder");
     case Icon::gear:
         return QStringLiteral("gear");
+    case Icon::info:
+        return QStringLiteral("info");
     case Icon::line:
         return QStringLiteral("line");
     case Icon::more:

@@ -22,6 +22,7 @@ enum class Icon {
     film,
     folder,
     gear,
+    info,
     line,
     more,
     number,

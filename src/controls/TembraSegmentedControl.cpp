@@ -39,13 +39,25 @@ TembraSegmentedControl::TembraSegmentedControl(const QStringList &titles, QWidge
 void TembraSegmentedControl::setCurrentIndex(int index) {
     if (index == m_current || index < 0 || index >= count())
         return;
-    if (m_current >= 0)
-        segment(m_current).setFocusPolicy(Qt::ClickFocus);
     m_current = index;
-    segment(index).setFocusPolicy(Qt::StrongFocus);
     segment(index).setChecked(true);
+    updateFocusPolicies();
     motion::animateTo(m_position, segment(index).x(), *this);
     Q_EMIT currentIndexChanged(index);
+}
+
+void TembraSegmentedControl::setFocusedByClick(bool isFocused) {
+    m_isFocusedByClick = isFocused;
+    updateFocusPolicies();
+}
+
+// Tab reaches the current segment alone.
+void TembraSegmentedControl::updateFocusPolicies() {
+    for (int index = 0; index < count(); ++index) {
+        const Qt::FocusPolicy byTab = index == m_current ? Qt::TabFocus : Qt::NoFocus;
+        const Qt::FocusPolicy byClick = m_isFocusedByClick ? Qt::ClickFocus : Qt::NoFocus;
+        segment(index).setFocusPolicy(static_cast<Qt::FocusPolicy>(byTab | byClick));
+    }
 }
 
 QSize TembraSegmentedControl::sizeHint() const {

@@ -19,6 +19,8 @@ public:
 
     [[nodiscard]] int currentIndex() const { return m_current; }
     void setCurrentIndex(int index);
+    // Whether a click takes the focus; Tab always reaches the control.
+    void setFocusedByClick(bool isFocused);
     [[nodiscard]] TembraSegment &segment(int index) const { return *m_segments[static_cast<size_t>(index)]; }
 
     [[nodiscard]] QSize sizeHint() const override;
@@ -34,11 +36,13 @@ protected:
 
 private:
     void layOut();
+    void updateFocusPolicies();
     void choose(int index, Qt::FocusReason reason);
     [[nodiscard]] int count() const { return static_cast<int>(m_segments.size()); }
 
     std::vector<TembraSegment *> m_segments;
     int m_current = -1;
+    bool m_isFocusedByClick = true;
     // Left edge of what marks the current segment.
     QVariantAnimation m_position;
 };

@@ -171,15 +171,18 @@ ScreenshotAnnotation grownBy(const ScreenshotAnnotation &annotation, QPointF del
         return withPoint(annotation, 1, clampedTo(annotation.points[1].toPointF() + delta, limits));
     if (!annotation.text)
         return annotation;
-    ScreenshotAnnotation result = annotation;
-    const double size = annotation.text->fontSize;
-    double &width = result.text->maximumWidth;
     // The words may end long before the edge at which they would wrap.
+    double width = annotation.text->maximumWidth;
     if (delta.x() < 0)
         width = std::min(width, AnnotationText(*annotation.text).size().width() -
-                                    2 * AnnotationText::horizontalPadding(size));
-    width = std::clamp(width + delta.x(), size, std::max(limits.width(), size));
-    return result;
+                                    2 * AnnotationText::horizontalPadding(annotation.text->fontSize));
+    return wrappedAt(annotation, width + delta.x(), limits.width());
+}
+
+ScreenshotAnnotation wrappedAt(ScreenshotAnnotation text, double width, double most) {
+    const double least = 2 * text.text->fontSize;
+    text.text->maximumWidth = std::clamp(width, least, std::max(most, least));
+    return text;
 }
 
 ScreenshotAnnotation withPoint(const ScreenshotAnnotation &annotation, std::size_t index, QPointF point) {

@@ -32,6 +32,8 @@ namespace tembra::annotationEditing {
 // A rectangle, or an end, moved as keys do; others stay.
 [[nodiscard]] ScreenshotAnnotation grownBy(const ScreenshotAnnotation &annotation, QPointF delta,
                                            const QRectF &limits);
+// A text that wraps at another width, of at most `most`.
+[[nodiscard]] ScreenshotAnnotation wrappedAt(ScreenshotAnnotation text, double width, double most);
 // An end of a line or arrow there, or its bend; the bend keeps its place between the ends.
 [[nodiscard]] ScreenshotAnnotation withPoint(const ScreenshotAnnotation &annotation, std::size_t index,
                                              QPointF point);

@@ -28,31 +28,36 @@ void drawHandle(QPainter &painter, QPointF center) {
     painter.drawEllipse(center, handleRadius, handleRadius);
 }
 
-// Arrows and lines have the handles at their ends to show that they are selected.
-bool hasFrame(const ScreenshotAnnotation &annotation, bool isAlone) {
-    using Kind = ScreenshotAnnotation::Kind;
-    return !isAlone || (annotation.kind != Kind::arrow && annotation.kind != Kind::line);
-}
+} // namespace
 
-QRectF frameOf(const ScreenshotAnnotation &annotation) {
+QRectF CanvasDecorations::frameOf(const ScreenshotAnnotation &annotation) {
     return annotation.hasRectHandles() ? annotation.shapeRect() : annotation.path().boundingRect();
 }
 
-} // namespace
-
-void CanvasDecorations::drawSelection(QPainter &painter, const CanvasViewport &viewport,
-                                      std::span<const ScreenshotAnnotation> selected) {
+// Arrows and lines have the handles at their ends to show that they are selected.
+void CanvasDecorations::drawSelected(QPainter &painter, const CanvasViewport &viewport,
+                                     const ScreenshotAnnotation &annotation) {
+    if (!annotation.isDrawable())
+        return;
     painter.setRenderHint(QPainter::Antialiasing);
-    for (const ScreenshotAnnotation &annotation : selected) {
-        if (!annotation.isDrawable() || !hasFrame(annotation, selected.size() == 1))
-            continue;
+    if (annotation.editingPoints().empty()) {
         const double gap = annotation.hasRectHandles() ? 0 : 3;
         drawFrame(painter, grown(viewport.toView(frameOf(annotation)), gap));
     }
-    if (selected.size() != 1)
-        return;
-    for (const CanvasTarget::Handle &handle : CanvasTarget::handlesOf(selected.front(), viewport.zoom()))
+    for (const CanvasTarget::Handle &handle : CanvasTarget::handlesOf(annotation, viewport.zoom()))
         drawHandle(painter, viewport.toView(handle.position));
+}
+
+// There may be hundreds of them: strips are quick to fill.
+void CanvasDecorations::drawFrames(QPainter &painter, const CanvasViewport &viewport,
+                                   std::span<const QRectF> frames) {
+    for (const QRectF &frame : frames) {
+        const QRectF rect = grown(viewport.toView(frame), 3);
+        painter.fillRect(QRectF(rect.left(), rect.top(), rect.width(), 1), palette::accent);
+        painter.fillRect(QRectF(rect.left(), rect.bottom() - 1, rect.width(), 1), palette::accent);
+        painter.fillRect(QRectF(rect.left(), rect.top(), 1, rect.height()), palette::accent);
+        painter.fillRect(QRectF(rect.right() - 1, rect.top(), 1, rect.height()), palette::accent);
+    }
 }
 
 void CanvasDecorations::drawDraft(QPainter &painter, const CanvasViewport &viewport,

@@ -6,19 +6,9 @@
 #include <QCoreApplication>
 #include <QLineF>
 
-#include <algorithm>
-
 namespace tembra {
 
 namespace {
-
-ScreenshotAnnotation wrappedAt(const ScreenshotAnnotation &annotation, double right, double most) {
-    ScreenshotAnnotation result = annotation;
-    const double size = annotation.text->fontSize;
-    const double width = right - annotation.points[0].x - 2 * AnnotationText::horizontalPadding(size);
-    result.text->maximumWidth = std::clamp(width, size, std::max(most, size));
-    return result;
-}
 
 QPointF handleOf(const ScreenshotAnnotation &annotation, std::size_t index) {
     if (annotation.text)
@@ -41,8 +31,11 @@ CanvasDraft PointGesture::drag(QPointF pointer, Qt::KeyboardModifiers modifiers)
     if (!held)
         return {};
     QPointF point = *held;
-    if (m_annotation.text)
-        return {.annotations = {wrappedAt(m_annotation, point.x(), m_limits.width())}};
+    if (m_annotation.text) {
+        const double padding = AnnotationText::horizontalPadding(m_annotation.text->fontSize);
+        const double width = point.x() - m_annotation.points[0].x - 2 * padding;
+        return {.annotations = {annotationEditing::wrappedAt(m_annotation, width, m_limits.width())}};
+    }
     if (m_index >= 2)
         return {.annotations = {bent(annotationEditing::clampedTo(point, m_limits))}};
     if (modifiers & Qt::ShiftModifier)

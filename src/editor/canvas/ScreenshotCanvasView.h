@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Scheduler.h"
 #include "editor/canvas/AnnotationCommands.h"
 #include "editor/canvas/CanvasGesture.h"
 #include "editor/canvas/CanvasLayers.h"
@@ -30,7 +31,8 @@ class ScreenshotCanvasView final : public QWidget {
 
 public:
     // The services must outlive this.
-    ScreenshotCanvasView(UserDefaults &defaults, Pasteboard &pasteboard, QWidget *parent = nullptr);
+    ScreenshotCanvasView(UserDefaults &defaults, Pasteboard &pasteboard, Scheduler &scheduler,
+                         QWidget *parent = nullptr);
     ~ScreenshotCanvasView() override;
 
     // What is edited from now on; it must outlive its time here. Nothing is typed or drawn any more.
@@ -115,10 +117,12 @@ private:
     [[nodiscard]] CanvasScene scene() const;
     [[nodiscard]] QRectF shownContent() const;
     [[nodiscard]] std::vector<ScreenshotAnnotation> shownSelection() const;
-    void drawDecorations(QPainter &painter, const QRectF &exposed) const;
+    void drawSelection(QPainter &painter);
+    void drawDecorations(QPainter &painter, const QRectF &exposed);
     void viewportChanged();
     void updateContent();
     [[nodiscard]] QRectF extentOf(const CanvasDraft &draft) const;
+    [[nodiscard]] QRectF replacedExtent(const CanvasDraft &draft) const;
     void setDraft(CanvasDraft draft);
 
     // The pointer (ScreenshotCanvasPointer.cpp).
@@ -153,11 +157,16 @@ private:
     [[nodiscard]] AnnotationCommands commands() { return {*m_document, m_viewport.content()}; }
 
     Pasteboard &m_pasteboard;
+    Scheduler &m_scheduler;
     EditorToolStyles m_styles;
     ScreenshotEditDocument *m_document = nullptr;
     std::shared_ptr<const ImagePyramid> m_image;
     CanvasViewport m_viewport;
-    mutable CanvasLayers m_layers;
+    CanvasLayers m_layers;
+    // What is shown roughly during a zoom is drawn again when it has ended.
+    WorkItem m_refinement;
+    // Around the selected ones, before they are moved. Image space.
+    std::vector<QRectF> m_frames;
 
     EditorTool m_tool = EditorTool::select;
     // To return to after a crop.

@@ -2,8 +2,10 @@
 
 #include "editor/chrome/EditorBanner.h"
 #include "editor/chrome/EditorControlRow.h"
+#include "editor/chrome/EditorCropSize.h"
 #include "editor/chrome/EditorDock.h"
 #include "editor/chrome/EditorHeader.h"
+#include "editor/chrome/EditorNotice.h"
 
 #include <QAccessibleWidget>
 
@@ -17,6 +19,8 @@ QAccessibleInterface *accessibleChrome(const QString &, QObject *object) {
         return new QAccessibleWidget(widget, QAccessible::AlertMessage);
     if (qobject_cast<EditorHeader *>(object) || qobject_cast<EditorDock *>(object))
         return new QAccessibleWidget(widget, QAccessible::ToolBar);
+    if (qobject_cast<EditorNotice *>(object) || qobject_cast<EditorCropSize *>(object))
+        return new QAccessibleWidget(widget, QAccessible::StaticText);
     if (qobject_cast<EditorControlRow *>(object))
         return new QAccessibleWidget(widget, QAccessible::Grouping);
     return nullptr;

@@ -11,6 +11,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
+#include <QStyle>
 
 #include <utility>
 
@@ -104,7 +105,8 @@ void EditorBanner::paintEvent(QPaintEvent *) {
     painter.fillRect(rect(), tint);
     painter.fillRect(QRect(0, height() - 1, width(), 1), theme.edge);
     const QRect mark(markMargin, 0, markSide, height() - 1);
-    drawIcon(painter, Icon::warning, QStyle::visualRect(layoutDirection(), rect(), mark), markSide, ink);
+    drawIcon(painter, m_isError ? Icon::warning : Icon::info,
+             QStyle::visualRect(layoutDirection(), rect(), mark), markSide, ink);
 }
 
 } // namespace tembra

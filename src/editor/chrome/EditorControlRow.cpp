@@ -52,7 +52,8 @@ std::vector<EditorControlRow::Place> EditorControlRow::places() const {
             x += gap;
         }
         isSeparatorDue = false;
-        result.push_back({control, QRect({x, 0}, control->sizeHint().shrunkBy(ring))});
+        result.push_back(
+            {control, QRect({x, 0}, control->sizeHint().boundedTo(control->maximumSize()).shrunkBy(ring))});
         x += result.back().body.width();
     }
     return result;

@@ -17,7 +17,8 @@ namespace tembra {
 
 namespace {
 
-constexpr qreal radius = 16;
+constexpr int radius = 16;
+constexpr int shadowReach = 30;
 constexpr int padding = 8;
 constexpr int separatorGap = 10;
 constexpr int separatorHeight = 26;
@@ -35,7 +36,7 @@ EditorDock::EditorDock(QWidget *parent)
       m_style(new EditorStyleRow(this)),
       m_crop(new EditorCropRow(this)),
       m_notice(new EditorNotice(this)),
-      m_shadow(new FloatingShadow(*this, radius)) {
+      m_shadow(new FloatingShadow(*this, radius, shadowReach)) {
     installAccessibleEditorChrome();
     setAccessibleName(tr("Tools and style"));
     setCursor(Qt::ArrowCursor);
@@ -45,6 +46,7 @@ EditorDock::EditorDock(QWidget *parent)
     connect(m_style, &EditorStyleRow::changed, this, &EditorDock::styleChanged);
     connect(m_style, &EditorStyleRow::blurModeChosen, this, &EditorDock::blurModeChosen);
     connect(m_style, &EditorStyleRow::customColorRequested, this, &EditorDock::customColorRequested);
+    connect(m_style, &EditorStyleRow::numberEditingEnded, this, &EditorDock::numberEditingEnded);
     connect(m_crop, &EditorCropRow::applied, this, &EditorDock::cropApplied);
     connect(m_crop, &EditorCropRow::cancelled, this, &EditorDock::cropCancelled);
     apply(m_state);

@@ -41,6 +41,8 @@ Q_SIGNALS:
     void toolSizeScrolled(tembra::EditorTool tool, int steps);
     void cropApplied();
     void cropCancelled();
+    // The number is no longer edited: the keyboard is free.
+    void numberEditingEnded();
     // It has another size to be given.
     void sizeHintChanged();
 

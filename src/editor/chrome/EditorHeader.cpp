@@ -4,11 +4,11 @@
 #include "controls/LoadingIndicator.h"
 #include "controls/ShelfMenu.h"
 #include "controls/TembraButton.h"
-#include "controls/TembraToolTip.h"
 #include "controls/Theme.h"
 #include "editor/chrome/AccessibleEditorChrome.h"
 #include "editor/chrome/EditorDragHandle.h"
 #include "editor/chrome/EditorNameField.h"
+#include "editor/chrome/ToolTipWithKeys.h"
 
 #include <QKeySequence>
 #include <QMouseEvent>
@@ -29,10 +29,6 @@ TembraButton *makeButton(TembraButton::Kind kind, const QString &title, QWidget 
     // A click leaves the keyboard to what is being drawn.
     button->setFocusPolicy(Qt::TabFocus);
     return button;
-}
-
-QString withKeys(const QString &text, const QKeySequence &keys) {
-    return EditorHeader::tr("%1 (%2)").arg(text, keys.toString(QKeySequence::NativeText));
 }
 
 } // namespace
@@ -72,8 +68,9 @@ void EditorHeader::connectControls() {
     connect(m_copy, &QAbstractButton::clicked, this, &EditorHeader::copyRequested);
     connect(m_saveAs, &QAbstractButton::clicked, this, &EditorHeader::saveAsRequested);
     connect(m_save, &QAbstractButton::clicked, this, &EditorHeader::saveRequested);
-    TembraToolTip::set(*m_saveAs, withKeys(tr("Save as"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S)));
-    TembraToolTip::set(*m_save, withKeys(tr("Save"), QKeySequence(Qt::CTRL | Qt::Key_S)));
+    setToolTipWithKeys(*m_copy, tr("Copy image"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C));
+    setToolTipWithKeys(*m_saveAs, tr("Save as"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
+    setToolTipWithKeys(*m_save, tr("Save"), QKeySequence(Qt::CTRL | Qt::Key_S));
 }
 
 void EditorHeader::apply(const EditorHeaderState &state) {
@@ -83,8 +80,8 @@ void EditorHeader::apply(const EditorHeaderState &state) {
     m_redo->setEnabled(state.canRedo);
     const QString undo = tr("Undo %1").arg(state.undoName).trimmed();
     const QString redo = tr("Redo %1").arg(state.redoName).trimmed();
-    TembraToolTip::set(*m_undo, withKeys(undo, QKeySequence(Qt::CTRL | Qt::Key_Z)));
-    TembraToolTip::set(*m_redo, withKeys(redo, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)));
+    setToolTipWithKeys(*m_undo, undo, QKeySequence(Qt::CTRL | Qt::Key_Z));
+    setToolTipWithKeys(*m_redo, redo, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
     m_save->setEnabled(state.canSave && !state.isSaving);
     showSaving(state.isSaving);
 }

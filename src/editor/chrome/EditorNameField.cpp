@@ -27,13 +27,16 @@ constexpr qreal radius = 7;
 // Paints itself only while it is edited; the field around it shows the name otherwise.
 class NameEdit final : public QLineEdit {
 public:
-    using QLineEdit::QLineEdit;
+    explicit NameEdit(EditorNameField *field) : QLineEdit(field), m_field(*field) {}
 
 protected:
     void paintEvent(QPaintEvent *event) override {
-        if (hasFocus())
+        if (m_field.isEditing())
             QLineEdit::paintEvent(event);
     }
+
+private:
+    const EditorNameField &m_field;
 };
 
 } // namespace
@@ -71,10 +74,6 @@ void EditorNameField::setDirty(bool isDirty) {
     Q_EMIT sizeHintChanged();
 }
 
-bool EditorNameField::isEditing() const {
-    return m_edit->hasFocus();
-}
-
 QString EditorNameField::dottedExtension() const {
     return m_extension.isEmpty() ? QString() : u'.' + m_extension;
 }
@@ -96,11 +95,12 @@ EditorNameField::Layout EditorNameField::arrangement() const {
     const QRect inner = controlBody(*this).toRect().adjusted(sideMargin, 0, -sideMargin, 0);
     const int extension = metrics.horizontalAdvance(dottedExtension());
     const int room = std::max(0, inner.width() - dotRoom() - extension);
-    const int wanted = isEditing() ? room : metrics.horizontalAdvance(m_name) + 1;
-    const int name = std::min(room, wanted);
+    const QString shown = metrics.elidedText(m_name, Qt::ElideMiddle, room);
+    const int name = isEditing() ? room : std::min(room, metrics.horizontalAdvance(shown) + 1);
     const int x = inner.left() + dotRoom() + std::max(0, (room - name) / 2);
     return {{x - dotRoom(), inner.center().y() + 1 - dotDiameter / 2, dotDiameter, dotDiameter},
             {x, inner.top(), name, inner.height()},
+            shown,
             {x + name, inner.top(), extension + 1, inner.height()}};
 }
 
@@ -130,6 +130,23 @@ void EditorNameField::restore() {
     layOut();
 }
 
+void EditorNameField::beginEditing() {
+    if (m_isEditing)
+        return;
+    m_isEditing = true;
+    restore();
+    // After the press that leads here has put the cursor to its place.
+    QMetaObject::invokeMethod(m_edit, &QLineEdit::selectAll, Qt::QueuedConnection);
+    Q_EMIT sizeHintChanged();
+}
+
+void EditorNameField::endEditing() {
+    m_isEditing = false;
+    restore();
+    Q_EMIT sizeHintChanged();
+    Q_EMIT editingEnded();
+}
+
 bool EditorNameField::eventFilter(QObject *watched, QEvent *event) {
     switch (event->type()) {
     case QEvent::KeyPress:
@@ -138,17 +155,13 @@ bool EditorNameField::eventFilter(QObject *watched, QEvent *event) {
         m_edit->clearFocus();
         return true;
     case QEvent::FocusIn:
+        beginEditing();
+        break;
     case QEvent::FocusOut: {
         const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
         // What comes between, a menu or another window, leaves what was typed.
-        if (reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason)
-            break;
-        restore();
-        Q_EMIT sizeHintChanged();
-        if (event->type() == QEvent::FocusOut)
-            Q_EMIT editingEnded();
-        else
-            QMetaObject::invokeMethod(m_edit, &QLineEdit::selectAll, Qt::QueuedConnection);
+        if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
+            endEditing();
         break;
     }
     default:
@@ -163,9 +176,7 @@ void EditorNameField::paintEvent(QPaintEvent *) {
     const Theme &theme = Theme::of(*this);
     const QRectF body = controlBody(*this);
     drawField(painter, body, radius, theme.field,
-              isEditing()    ? theme.fieldBorder
-              : underMouse() ? theme.fieldBorder
-                             : theme.controlBorder);
+              isEditing() || underMouse() ? theme.fieldBorder : theme.controlBorder);
     if (isEditing())
         drawFocusRing(painter, body, radius, theme.focusRing);
     const Layout places = arrangement();
@@ -179,8 +190,7 @@ void EditorNameField::paintEvent(QPaintEvent *) {
     if (isEditing())
         return;
     painter.setPen(theme.text);
-    painter.drawText(places.name, Qt::AlignLeft | Qt::AlignVCenter,
-                     painter.fontMetrics().elidedText(m_name, Qt::ElideMiddle, places.name.width()));
+    painter.drawText(places.name, Qt::AlignLeft | Qt::AlignVCenter, places.shown);
 }
 
 } // namespace tembra

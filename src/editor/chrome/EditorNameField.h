@@ -16,7 +16,7 @@ public:
     // While the name is edited the new one waits.
     void setName(const QString &baseName, const QString &extension);
     void setDirty(bool isDirty);
-    [[nodiscard]] bool isEditing() const;
+    [[nodiscard]] bool isEditing() const { return m_isEditing; }
     [[nodiscard]] QSize sizeHint() const override;
 
 Q_SIGNALS:
@@ -33,10 +33,11 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    // Where the name begins, and how much room it has and needs.
+    // Where each part stands, and how much of the name there is room for.
     struct Layout {
         QRect dot;
         QRect name;
+        QString shown;
         QRect extension;
     };
 
@@ -44,6 +45,8 @@ private:
     [[nodiscard]] int dotRoom() const;
     [[nodiscard]] QString dottedExtension() const;
     void accept();
+    void beginEditing();
+    void endEditing();
     void restore();
     void layOut();
 
@@ -51,6 +54,7 @@ private:
     QString m_name;
     QString m_extension;
     bool m_isDirty = false;
+    bool m_isEditing = false;
 };
 
 } // namespace tembra

@@ -53,7 +53,8 @@ void EditorNotice::paintEvent(QPaintEvent *) {
     painter.setPen(theme.dockIcon);
     const QRect room = QStyle::visualRect(
         layoutDirection(), rect(), rect().adjusted(sideMargin + indicatorRoom(), 0, -sideMargin + 1, 0));
-    painter.drawText(room, QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft) | Qt::AlignVCenter,
+    const Qt::Alignment side = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft);
+    painter.drawText(room, static_cast<int>(side) | Qt::AlignVCenter,
                      painter.fontMetrics().elidedText(m_text, Qt::ElideRight, room.width()));
 }
 

@@ -6,6 +6,7 @@
 #include "editor/model/EditorNumber.h"
 
 #include <QKeyEvent>
+#include <QLocale>
 
 namespace tembra {
 
@@ -52,6 +53,8 @@ EditorNumberControl::EditorNumberControl(QWidget *parent)
     add(less, 0);
     add(m_field, 1);
     add(more, 1);
+    setTabOrder(less, m_field);
+    setTabOrder(m_field, more);
     restore();
 }
 
@@ -101,6 +104,7 @@ bool EditorNumberControl::eventFilter(QObject *watched, QEvent *event) {
         case Qt::Key_Escape:
             restore();
             m_field->clearFocus();
+            Q_EMIT editingEnded();
             return true;
         default:
             break;

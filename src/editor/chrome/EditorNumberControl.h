@@ -19,6 +19,8 @@ public:
 
 Q_SIGNALS:
     void chosen(std::int64_t number);
+    // Escape was pressed: the keyboard is free.
+    void editingEnded();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -11,7 +11,7 @@ namespace {
 
 constexpr int margin = 18;
 constexpr int zoomBottom = 26;
-constexpr int gap = 10;
+constexpr int gap = 8;
 constexpr int narrowMargin = 8;
 
 } // namespace

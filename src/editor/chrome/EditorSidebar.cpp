@@ -1,10 +1,12 @@
 #include "editor/chrome/EditorSidebar.h"
 
 #include "controls/ShelfScroller.h"
+#include "controls/TembraToolTip.h"
 #include "controls/Theme.h"
 #include "editor/chrome/EditorSidebarDelegate.h"
 #include "editor/chrome/EditorSidebarModel.h"
 
+#include <QMouseEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
@@ -118,6 +120,14 @@ void EditorSidebar::showEvent(QShowEvent *event) {
 void EditorSidebar::hideEvent(QHideEvent *event) {
     QListView::hideEvent(event);
     requestPictures();
+}
+
+// A press that slides over other tiles chooses none of them.
+void EditorSidebar::mouseMoveEvent(QMouseEvent *event) {
+    if (event->buttons() != Qt::NoButton)
+        return;
+    QListView::mouseMoveEvent(event);
+    TembraToolTip::set(*viewport(), indexAt(event->pos()).data().toString());
 }
 
 void EditorSidebar::enterEvent(QEnterEvent *event) {

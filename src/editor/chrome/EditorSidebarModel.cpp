@@ -51,7 +51,6 @@ QVariant EditorSidebarModel::data(const QModelIndex &index, int role) const {
     const EditorSidebarItem &item = m_items[static_cast<size_t>(index.row())];
     switch (role) {
     case Qt::DisplayRole:
-    case Qt::ToolTipRole:
     case Qt::AccessibleTextRole:
         return item.name;
     case Qt::AccessibleDescriptionRole:

@@ -37,8 +37,7 @@ void EditorSidebarThumbnails::request(const QString &path, const Version &versio
 
 void EditorSidebarThumbnails::take(const QString &path, const Version &version,
                                    const Result<Thumbnails::Thumbnail> &answer) {
-    // The handle is under way in the call that leads here; it goes with the next request or the end.
-    const auto entry = m_pending.extract(path);
+    m_pending.erase(path);
     // What cannot be shown is not asked for again until it changes.
     auto kept = std::make_unique<Kept>(Kept{version, {}});
     if (answer && answer->isThumbnail)

@@ -1,8 +1,9 @@
 #include "editor/chrome/EditorSizeControl.h"
 
 #include "controls/DropdownList.h"
-#include "controls/TembraToolTip.h"
 #include "editor/chrome/EditorFlatButton.h"
+
+#include <QLocale>
 
 #include <algorithm>
 #include <array>
@@ -11,7 +12,7 @@ namespace tembra {
 
 namespace {
 
-constexpr int leastWidth = 60;
+constexpr int leastWidth = 52;
 
 QString inPixels(double size) {
     return EditorSizeControl::tr("%1 px").arg(QLocale().toString(size, 'g', 4));
@@ -23,7 +24,6 @@ EditorSizeControl::EditorSizeControl(QWidget *parent)
     : EditorControlRow(parent),
       m_button(new EditorFlatButton(inPixels(m_size), tr("Size"), EditorFlatButton::Mark::opens, this)) {
     m_button->setLeastWidth(leastWidth);
-    TembraToolTip::set(*m_button, tr("Size ([ and ])"));
     connect(m_button, &EditorFlatButton::clicked, this, &EditorSizeControl::open);
     connect(m_button, &EditorFlatButton::stepped, this, &EditorSizeControl::stepped);
     add(m_button, 0);

@@ -76,6 +76,9 @@ void EditorStyleRow::buildBlur() {
     m_blurMode->setAccessibleName(tr("What to blur"));
     m_strength = new TembraSegmentedControl({tr("Light"), tr("Medium"), tr("Strong")}, this);
     m_strength->setAccessibleName(tr("Strength"));
+    // A click leaves the keyboard to what is being drawn.
+    for (TembraSegmentedControl *segments : {m_blurMode, m_strength})
+        segments->setFocusedByClick(false);
     connect(m_blurMode, &TembraSegmentedControl::currentIndexChanged, this,
             [this](int index) { Q_EMIT blurModeChosen(blurModes[static_cast<size_t>(index)]); });
     connect(m_strength, &TembraSegmentedControl::currentIndexChanged, this, [this](int index) {
@@ -91,6 +94,7 @@ void EditorStyleRow::buildNumber() {
         new EditorFlatButton(tr("Straighten"), tr("Straighten"), EditorFlatButton::Mark::none, this);
     connect(m_number, &EditorNumberControl::chosen, this,
             [this](std::int64_t number) { Q_EMIT changed({.number = number}); });
+    connect(m_number, &EditorNumberControl::editingEnded, this, &EditorStyleRow::numberEditingEnded);
     connect(m_straighten, &QAbstractButton::clicked, this, [this] { Q_EMIT changed({.straightens = true}); });
     addSeparator();
     add(m_number, gap);
@@ -117,7 +121,7 @@ void EditorStyleRow::apply(const EditorDockState &state) {
         showChoice(*m_blurMode, std::ranges::find(blurModes, *state.blurMode) - blurModes.begin());
     if (state.strength)
         showChoice(*m_strength,
-             std::ranges::find(EditorBlur::strengths, *state.strength) - EditorBlur::strengths.begin());
+                   std::ranges::find(EditorBlur::strengths, *state.strength) - EditorBlur::strengths.begin());
     if (state.number)
         m_number->setNumber(*state.number);
 }

@@ -28,6 +28,7 @@ Q_SIGNALS:
     void changed(const tembra::EditorStyleChange &change);
     void blurModeChosen(tembra::BlurMode mode);
     void customColorRequested();
+    void numberEditingEnded();
 
 private:
     void buildColors();

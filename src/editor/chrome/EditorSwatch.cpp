@@ -7,6 +7,8 @@
 #include <QKeyEvent>
 #include <QPainter>
 
+#include <cmath>
+
 namespace tembra {
 
 namespace {
@@ -59,8 +61,18 @@ void EditorSwatch::paintRainbow(QPainter &painter, const Theme &theme, const QPo
     painter.drawLine(center - QPointF(0, armLength), center + QPointF(0, armLength));
 }
 
+// Keeps a colour like the dock's apart from it.
+void EditorSwatch::paintEdge(QPainter &painter, const Theme &theme, const QPointF &center) const {
+    constexpr float near = 0.15F;
+    if (std::abs(m_color->lightnessF() - theme.dock.lightnessF()) > near)
+        return;
+    painter.setPen(QPen(theme.dockSeparator, 1));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawEllipse(center, discRadius - 0.5, discRadius - 0.5);
+}
+
 PaintedButton::Outline EditorSwatch::paint(QPainter &painter, const Theme &theme) {
-    constexpr qreal markRadius = 12;
+    constexpr qreal markRadius = 13;
     const QRectF body = controlBody(*this);
     const QPointF center = body.center();
     painter.setPen(Qt::NoPen);
@@ -69,18 +81,14 @@ PaintedButton::Outline EditorSwatch::paint(QPainter &painter, const Theme &theme
     } else {
         painter.setBrush(*m_color);
         painter.drawEllipse(center, discRadius, discRadius);
-        // Keeps a colour like the dock's apart from it.
-        painter.setPen(QPen(theme.controlBorder.alpha() ? theme.controlBorder : theme.dockSeparator, 1));
-        painter.setBrush(Qt::NoBrush);
-        if (m_color->lightnessF() < 0.2F || m_color->lightnessF() > 0.9F)
-            painter.drawEllipse(center, discRadius - 0.5, discRadius - 0.5);
+        paintEdge(painter, theme, center);
     }
     painter.setBrush(Qt::NoBrush);
     if (isChecked() || isHovered()) {
         painter.setPen(QPen(isChecked() ? theme.text : theme.dockSeparator, 2));
         painter.drawEllipse(center, markRadius, markRadius);
     }
-    return {QRectF(body.center(), QSizeF()).marginsAdded({12.5, 12.5, 12.5, 12.5}), 12.5};
+    return {body, body.width() / 2};
 }
 
 void EditorSwatch::keyPressEvent(QKeyEvent *event) {

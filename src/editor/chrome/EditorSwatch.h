@@ -19,11 +19,12 @@ public:
     void setCustomColor(const std::optional<QColor> &color);
 
 protected:
-    [[nodiscard]] QSize bodySize() const override { return {24, 24}; }
+    [[nodiscard]] QSize bodySize() const override { return {28, 28}; }
     Outline paint(QPainter &painter, const Theme &theme) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    void paintEdge(QPainter &painter, const Theme &theme, const QPointF &center) const;
     void paintRainbow(QPainter &painter, const Theme &theme, const QPointF &center) const;
 
     std::optional<QColor> m_color;

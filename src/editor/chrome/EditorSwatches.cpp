@@ -9,7 +9,7 @@ namespace tembra {
 
 namespace {
 
-constexpr int gap = 6;
+constexpr int gap = 2;
 
 } // namespace
 

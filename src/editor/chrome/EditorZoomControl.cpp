@@ -2,12 +2,13 @@
 
 #include "controls/ControlPainting.h"
 #include "controls/ShelfMenu.h"
-#include "controls/TembraToolTip.h"
 #include "controls/Theme.h"
 #include "editor/chrome/EditorControlRow.h"
 #include "editor/chrome/EditorFlatButton.h"
 #include "editor/chrome/FloatingShadow.h"
+#include "editor/chrome/ToolTipWithKeys.h"
 
+#include <QKeySequence>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -18,8 +19,9 @@ namespace tembra {
 
 namespace {
 
-constexpr qreal radius = 10;
-constexpr int sideMargin = 5;
+constexpr int radius = 10;
+constexpr int shadowReach = 14;
+constexpr int sideMargin = 3;
 constexpr int pillHeight = 31;
 
 QString percent(double fraction) {
@@ -32,11 +34,14 @@ EditorZoomControl::EditorZoomControl(QWidget *parent) : QWidget(parent), m_row(n
     using Mark = EditorFlatButton::Mark;
     setAccessibleName(tr("Zoom"));
     setCursor(Qt::ArrowCursor);
-    new FloatingShadow(*this, radius);
+    new FloatingShadow(*this, radius, shadowReach);
     auto *out = new EditorFlatButton(QStringLiteral("−"), tr("Zoom out"), Mark::none, m_row);
     m_percent = new EditorFlatButton(percent(1), tr("Zoom"), Mark::none, m_row);
     auto *in = new EditorFlatButton(QStringLiteral("+"), tr("Zoom in"), Mark::none, m_row);
     m_fit = new EditorFlatButton(tr("Fit"), tr("Fit in window"), Mark::none, m_row);
+    setToolTipWithKeys(*out, tr("Zoom out"), QKeySequence(Qt::CTRL | Qt::Key_Minus));
+    setToolTipWithKeys(*in, tr("Zoom in"), QKeySequence(Qt::CTRL | Qt::Key_Plus));
+    setToolTipWithKeys(*m_fit, tr("Fit in window"), QKeySequence(Qt::CTRL | Qt::Key_0));
     m_percent->setLeastWidth(QFontMetrics(m_percent->font()).horizontalAdvance(percent(1)) + 8);
     for (EditorFlatButton *button : {out, m_percent, in, m_fit}) {
         m_row->add(button, 0);

@@ -15,12 +15,6 @@ namespace tembra {
 
 namespace {
 
-// How far it goes beyond the body, and how much lower it lies: light comes from above.
-constexpr int reach = 30;
-constexpr int drop = 7;
-// It thins out from this far inside its edge, so that no line shows where it begins.
-constexpr double softness = 16;
-
 // Distance from a point to a rectangle with round corners around the origin; negative inside.
 double distance(double x, double y, double halfSide, double corner) {
     const double dx = std::abs(x) - (halfSide - corner);
@@ -31,8 +25,8 @@ double distance(double x, double y, double halfSide, double corner) {
 
 } // namespace
 
-FloatingShadow::FloatingShadow(QWidget &owner, qreal radius)
-    : QWidget(owner.parentWidget()), m_owner(owner), m_radius(radius) {
+FloatingShadow::FloatingShadow(QWidget &owner, int radius, int reach)
+    : QWidget(owner.parentWidget()), m_owner(owner), m_radius(radius), m_reach(reach) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setFocusPolicy(Qt::NoFocus);
     hide();
@@ -68,29 +62,33 @@ void FloatingShadow::follow() {
     if (!parentWidget() || m_owner.isHidden())
         return hide();
     const QRect body = m_body.isNull() ? m_owner.rect() : m_body;
-    setGeometry(
-        body.translated(m_owner.pos()).translated(0, drop).marginsAdded({reach, reach, reach, reach}));
+    // Lower than the owner: light comes from above.
+    const QRect below = body.translated(m_owner.pos()).translated(0, m_reach / 4);
+    setGeometry(below.marginsAdded({m_reach, m_reach, m_reach, m_reach}));
     stackUnder(&m_owner);
     show();
 }
 
 // The shadow of a small square; its middle is stretched for a larger body.
 QPixmap FloatingShadow::render(qreal scale, qreal strength) const {
-    const QString key = QStringLiteral("tembra-shadow|%1|%2|%3").arg(m_radius).arg(scale).arg(strength);
+    const QString key =
+        QStringLiteral("tembra-shadow|%1|%2|%3|%4").arg(m_radius).arg(m_reach).arg(scale).arg(strength);
     QPixmap patch;
     if (QPixmapCache::find(key, &patch))
         return patch;
-    const int edge = static_cast<int>(std::lround((reach + m_radius + softness) * scale));
+    // It thins out from this far inside its edge, so that no line shows where it begins.
+    const double softness = m_reach / 2.0;
+    const int edge = static_cast<int>(std::lround((m_reach + m_radius + softness) * scale));
     const int pixels = 2 * edge + 1;
     QImage image(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
     const double middle = pixels / 2.0;
-    const double halfSide = middle / scale - reach;
+    const double halfSide = middle / scale - m_reach;
     for (int row = 0; row < pixels; ++row) {
         auto *line = reinterpret_cast<QRgb *>(image.scanLine(row));
         for (int column = 0; column < pixels; ++column) {
             const double d =
                 distance((column + 0.5 - middle) / scale, (row + 0.5 - middle) / scale, halfSide, m_radius);
-            const double nearness = std::clamp((reach - d) / (reach + softness), 0.0, 1.0);
+            const double nearness = std::clamp((m_reach - d) / (m_reach + softness), 0.0, 1.0);
             line[column] =
                 qRgba(0, 0, 0, static_cast<int>(std::lround(255 * strength * std::pow(nearness, 2.6))));
         }

@@ -9,7 +9,8 @@ namespace tembra {
 // parent, follows it, and lets the pointer through. Owned by that parent; goes with the widget.
 class FloatingShadow final : public QWidget {
 public:
-    FloatingShadow(QWidget &owner, qreal radius);
+    // `radius` is that of the owner's corners, `reach` how far the shadow goes.
+    FloatingShadow(QWidget &owner, int radius, int reach);
 
     // The part of the owner that casts it.
     void setBody(const QRect &body);
@@ -23,7 +24,8 @@ private:
     [[nodiscard]] QPixmap render(qreal scale, qreal strength) const;
 
     QWidget &m_owner;
-    const qreal m_radius;
+    const int m_radius;
+    const int m_reach;
     QRect m_body;
 };
 

@@ -39,6 +39,12 @@ bool RovingFocus::move(const QAbstractButton &from, int key) {
     case Qt::Key_Right:
         target += ahead;
         break;
+    case Qt::Key_Up:
+        --target;
+        break;
+    case Qt::Key_Down:
+        ++target;
+        break;
     case Qt::Key_Home:
         target = 0;
         break;

@@ -301,7 +301,7 @@ TEST(PointGesture, wrapsTextWhereItsEdgeIsDragged) {
         return draft.annotations[0].text->maximumWidth;
     };
     EXPECT_DOUBLE_EQ(widthAt(250), 150 - 2 * AnnotationText::horizontalPadding(20));
-    EXPECT_DOUBLE_EQ(widthAt(-50), 20);
+    EXPECT_DOUBLE_EQ(widthAt(-50), 40);
     EXPECT_DOUBLE_EQ(widthAt(9'000), limits.width());
 }
 

@@ -37,11 +37,13 @@ TEST(ReadingOrder, readsAcrossWhatStandsCloseTogether) {
 }
 
 TEST(Stripes, areCutWhereThereIsTheLeastInk) {
-    std::vector<float> rows(1'000, 1);
-    rows[530] = 0;
+    std::vector<int> rows(1'000, 9);
+    rows[530] = 2;
     EXPECT_THAT(stripes(rows, 2, 48), ElementsAre(Stripe{0, 578, 0, 530}, Stripe{482, 1'000, 530, 1'000}));
+    rows[470] = 0;
+    EXPECT_THAT(stripes(rows, 2, 48), ElementsAre(Stripe{0, 518, 0, 470}, Stripe{422, 1'000, 470, 1'000}));
     EXPECT_THAT(stripes(rows, 1, 48), ElementsAre(Stripe{0, 1'000, 0, 1'000}));
-    for (const Stripe &stripe : stripes(std::vector<float>(7), 4, 48))
+    for (const Stripe &stripe : stripes(std::vector<int>(7), 4, 48))
         EXPECT_TRUE(stripe.top >= 0 && stripe.top <= stripe.bottom && stripe.bottom <= 7);
 }
 

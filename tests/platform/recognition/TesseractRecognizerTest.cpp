@@ -2,8 +2,9 @@
 
 #include "platform/linux/recognition/EngineLanguages.h"
 #include "platform/linux/recognition/RecognizedText.h"
+#include "support/ChildProgram.h"
+#include "support/EventLoop.h"
 
-#include <QElapsedTimer>
 #include <QFile>
 #include <QFontMetricsF>
 #include <QPainter>
@@ -77,6 +78,12 @@ void expectFound(const Page &drawn, const std::vector<TextRecognizer::Line> &lin
         EXPECT_EQ(words[i].text, drawn.words[i].text);
         EXPECT_THAT(words[i].box, IsAbout(drawn.words[i].box, tolerance)) << words[i].text.toStdString();
     }
+}
+
+// A process that nobody has asked for its end yet still has its number.
+bool isOver(pid_t id) {
+    QFile status(QStringLiteral("/proc/%1/stat").arg(id));
+    return !status.open(QIODevice::ReadOnly) || status.readAll().contains(") Z ");
 }
 
 class ReadsText : public testing::TestWithParam<Look> {};
@@ -159,6 +166,19 @@ TEST_F(FaultyWorker, isEndedWhenItIsCancelled) {
         cancellation.cancel();
     });
     EXPECT_EQ(errorOf(sleeper), TextRecognizer::cancelled);
+}
+
+TEST_F(FaultyWorker, diesWithTheProgram) {
+    const QString sleeper = program("echo $$ >\"$0.new\"; mv \"$0.new\" \"$0.id\"; exec sleep 100");
+    QFile file(sleeper + QStringLiteral(".id"));
+    {
+        const ChildProgram user{TEMBRA_RECOGNITION_USER, QFile::encodeName(sleeper).constData()};
+        ASSERT_TRUE(eventually([&] { return file.exists(); }));
+    }
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const pid_t id = file.readAll().trimmed().toInt();
+    ASSERT_GT(id, 0);
+    EXPECT_TRUE(eventually([&] { return isOver(id); }));
 }
 
 TEST(RecognizedText, takesOnlyWhatIsWhole) {

@@ -63,7 +63,7 @@ void prepare(QProcess &process, const TesseractRecognizer::Worker &worker, int p
     process.setStandardErrorFile(QProcess::nullDevice());
     process.setStandardInputFile(QProcess::nullDevice());
     process.setProgram(worker.program);
-    process.setArguments(worker.languages);
+    process.setArguments({worker.languages.join(u'+')});
     process.setChildProcessModifier([picture, parent = ::getpid()] { becomeWorker(picture, parent); });
 }
 

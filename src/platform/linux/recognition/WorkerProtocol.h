@@ -5,8 +5,8 @@
 namespace tembra::recognition {
 
 // What the program and its recognition worker say to each other. The worker's standard input is a file in
-// memory: this header, then the picture's rows of one grey byte a pixel. Its arguments are the languages, in
-// the engine's own names. On its standard output stands a line of text for each word,
+// memory: this header, then the picture's rows of one grey byte a pixel. Its argument is the languages as the
+// engine names them, joined by "+". On its standard output stands a line of text for each word,
 //     left top right bottom text
 // in pixels of the picture, an empty one after each line of words, and `endMark` after the last.
 struct PictureHeader {

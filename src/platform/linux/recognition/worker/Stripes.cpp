@@ -20,9 +20,15 @@ bool counts(const ReadLine &line, const Stripe &stripe) {
     return middle >= stripe.firstLine - doubt && middle < stripe.lastLine + doubt;
 }
 
+bool isAmong(const std::vector<ReadLine> &lines, const ReadWord &word) {
+    return std::ranges::any_of(lines, [&](const ReadLine &line) {
+        return std::ranges::any_of(line, [&](const ReadWord &other) { return areTheSame(word, other); });
+    });
+}
+
 } // namespace
 
-std::vector<Stripe> stripes(std::span<const float> rowInk, int count, int overlap) {
+std::vector<Stripe> stripes(std::span<const int> rowInk, int count, int overlap) {
     const int height = static_cast<int>(rowInk.size());
     const int share = height / count;
     const int reach = std::min(2 * overlap, share / 4);
@@ -43,21 +49,15 @@ std::vector<Stripe> stripes(std::span<const float> rowInk, int count, int overla
 std::vector<ReadLine> joined(std::span<const Stripe> stripes, std::vector<std::vector<ReadLine>> lines) {
     std::vector<ReadLine> result;
     for (size_t i = 0; i < lines.size(); ++i) {
-        const size_t before = result.size();
+        std::vector<ReadLine> more;
         for (ReadLine &line : lines[i]) {
             if (!counts(line, stripes[i]))
                 continue;
-            std::erase_if(line, [&](const ReadWord &word) {
-                return std::any_of(result.begin(), result.begin() + static_cast<std::ptrdiff_t>(before),
-                                   [&](const ReadLine &known) {
-                                       return std::ranges::any_of(known, [&](const ReadWord &other) {
-                                           return areTheSame(word, other);
-                                       });
-                                   });
-            });
+            std::erase_if(line, [&](const ReadWord &word) { return isAmong(result, word); });
             if (!line.empty())
-                result.push_back(std::move(line));
+                more.push_back(std::move(line));
         }
+        std::ranges::move(more, std::back_inserter(result));
     }
     return result;
 }

@@ -6,6 +6,7 @@
 
 #include <cstdio>
 #include <cstring>
+#include <fstream>
 #include <sys/mman.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -15,10 +16,18 @@ using namespace tembra::recognition;
 
 namespace {
 
+// Bytes that are mapped now.
+rlim_t addressSpace() {
+    rlim_t pages = 0;
+    std::ifstream("/proc/self/statm") >> pages;
+    return pages * static_cast<rlim_t>(sysconf(_SC_PAGESIZE));
+}
+
 void limitItself() {
     // More than a picture of 8K takes; a worker that runs wild ends instead of the desktop.
-    constexpr rlim_t memory = rlim_t{3} << 30;
+    constexpr rlim_t more = rlim_t{3} << 30;
     constexpr rlim_t seconds = 300;
+    const rlim_t memory = addressSpace() + more;
     const rlimit space{memory, memory};
     const rlimit time{seconds, seconds};
     const rlimit none{0, 0};
@@ -81,14 +90,13 @@ void print(const std::vector<ReadLine> &lines) {
 
 int main(int argc, char **argv) {
     limitItself();
-    std::string languages;
-    for (int i = 1; i < argc; ++i)
-        languages += (i > 1 ? "+" : "") + std::string(argv[i]);
+    if (argc != 2)
+        return unusable;
     setMsgSeverity(L_SEVERITY_NONE);
     const PixOwner picture = pictureFromInput();
     if (!picture)
         return unusable;
-    const auto lines = readPage(picture.get(), languages);
+    const auto lines = readPage(picture.get(), argv[1]);
     if (!lines)
         return lines.error();
     print(*lines);

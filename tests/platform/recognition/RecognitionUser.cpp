@@ -1,0 +1,13 @@
+// Has a worker read a picture: RecognitionUser WORKER. To be killed meanwhile.
+
+#include "platform/linux/recognition/TesseractRecognizer.h"
+
+#include <QCoreApplication>
+
+using namespace tembra;
+
+int main(int argc, char **argv) {
+    const QCoreApplication application(argc, argv);
+    const TesseractRecognizer recognizer({QCoreApplication::arguments().last(), {}});
+    return recognizer.recognize(QImage(8, 8, QImage::Format_RGB32), {}) ? 0 : 1;
+}
