@@ -2,6 +2,7 @@
 
 #include "editor/canvas/EditedDocument.h"
 #include "editor/canvas/ScreenshotCanvasView.h"
+#include "support/ManualScheduler.h"
 #include "support/MemoryUserDefaults.h"
 
 #include <QApplication>
@@ -92,7 +93,8 @@ public:
     MemoryUserDefaults defaults;
     FakePasteboard pasteboard;
     ScreenshotEditDocument document;
-    ScreenshotCanvasView canvas{defaults, pasteboard};
+    ManualScheduler scheduler;
+    ScreenshotCanvasView canvas{defaults, pasteboard, scheduler};
 
 private:
     void send(QEvent::Type type, Qt::MouseButton button, Qt::KeyboardModifiers modifiers) {
