@@ -21,6 +21,15 @@ bool isBlur(const ScreenshotAnnotation &annotation) {
     return annotation.kind == ScreenshotAnnotation::Kind::blur;
 }
 
+std::vector<ScreenshotAnnotation> ofStrength(const std::vector<ScreenshotAnnotation> &blurs,
+                                             EditorBlur::Strength strength) {
+    std::vector<ScreenshotAnnotation> result;
+    std::ranges::copy_if(blurs, std::back_inserter(result), [strength](const ScreenshotAnnotation &blur) {
+        return blur.blur && blur.blur->strength == strength;
+    });
+    return result;
+}
+
 // The annotations with the draft in its places, and where in them the draft begins and ends.
 struct Merged {
     std::vector<ScreenshotAnnotation> annotations;
@@ -115,7 +124,7 @@ void CanvasLayers::paint(QPainter &painter, const QRectF &exposed, const CanvasS
     painter.setCompositionMode(QPainter::CompositionMode_Source);
     painter.drawImage(exposed, m_picture, source);
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-    m_blurs.draw(painter, scene, parts.draftBlurs, false);
+    drawDraftBlurs(painter, scene, parts);
     if (m_isApproximate)
         drawScaledInk(painter, scene);
     else if (!m_below.image.isNull())
@@ -194,6 +203,18 @@ void CanvasLayers::drawScaledInk(QPainter &painter, const CanvasScene &scene) co
     painter.setClipRect(scene.viewport.toView(scene.viewport.content()), Qt::IntersectClip);
     painter.drawImage(scene.viewport.toView(whole), m_below.image, m_below.image.rect());
     painter.restore();
+}
+
+// Stronger ones that are settled stay above it.
+void CanvasLayers::drawDraftBlurs(QPainter &painter, const CanvasScene &scene, const Split &split) {
+    bool hasWeaker = false;
+    for (const EditorBlur::Strength strength : EditorBlur::strengths) {
+        if (hasWeaker)
+            m_blurs.draw(painter, scene, ofStrength(split.settledBlurs, strength), true);
+        const Annotations drafts = ofStrength(split.draftBlurs, strength);
+        m_blurs.draw(painter, scene, drafts, false);
+        hasWeaker = hasWeaker || !drafts.empty();
+    }
 }
 
 // Many that are only moved are drawn once, as long as all of them were seen then.

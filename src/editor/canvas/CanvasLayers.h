@@ -39,6 +39,7 @@ private:
     void updateFrame(const CanvasScene &scene, const Split &split);
     void drawScaledInk(QPainter &painter, const CanvasScene &scene) const;
     void shiftInk(const CanvasScene &scene, QPointF shift);
+    void drawDraftBlurs(QPainter &painter, const CanvasScene &scene, const Split &split);
     void drawLive(QPainter &painter, const CanvasScene &scene, const Split &split);
     void updatePicture(const CanvasScene &scene, const Split &split);
     // A layer that has the annotations, drawn on top of what it has already where that is possible.

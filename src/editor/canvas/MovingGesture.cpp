@@ -17,7 +17,7 @@ MovingGesture::MovingGesture(std::vector<ScreenshotAnnotation> annotations, QPoi
       m_surroundings(std::move(surroundings)),
       m_areCopies(areCopies) {
     for (const ScreenshotAnnotation &annotation : m_annotations) {
-        m_bounds |= annotation.path().boundingRect();
+        m_bounds |= annotationEditing::alignmentRect(annotation);
         m_drawnBounds |= annotation.bounds();
     }
 }

@@ -110,6 +110,7 @@ protected:
     void leaveEvent(QEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
     bool focusNextPrevChild(bool next) override;
@@ -134,6 +135,7 @@ private:
                                                             Qt::KeyboardModifiers modifiers);
     [[nodiscard]] std::unique_ptr<CanvasGesture> selecting(QPointF image, Qt::KeyboardModifiers modifiers);
     [[nodiscard]] std::unique_ptr<CanvasGesture> drawing(QPointF image);
+    [[nodiscard]] std::unique_ptr<CanvasGesture> placingNumber();
     [[nodiscard]] std::vector<QRectF> alignmentTargets(const QSet<QUuid> &moving) const;
     void finishGesture();
     void updateHover(QPointF view);
@@ -143,6 +145,7 @@ private:
     // Keys (ScreenshotCanvasKeys.cpp).
     bool handlePlainKey(const QKeyEvent &event);
     bool handleArrow(const QKeyEvent &event);
+    bool handleCropKey(int key);
     bool handleOrderKey(int key);
     void cancelStep();
     void enter();
@@ -181,6 +184,8 @@ private:
 
     std::unique_ptr<CanvasGesture> m_gesture;
     CanvasDraft m_draft;
+    // Where it was last. View space.
+    QPointF m_pointer;
     // Where the view was taken hold of, in view space.
     std::optional<QPointF> m_panFrom;
     bool m_isSpaceHeld = false;
