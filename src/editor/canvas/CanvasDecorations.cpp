@@ -31,6 +31,9 @@ void drawHandle(QPainter &painter, QPointF center) {
 } // namespace
 
 QRectF CanvasDecorations::frameOf(const ScreenshotAnnotation &annotation) {
+    // Beside the stroke of a rectangle, whose colour is to be seen.
+    if (annotation.kind == ScreenshotAnnotation::Kind::rectangle)
+        return annotation.bounds();
     return annotation.hasRectHandles() ? annotation.shapeRect() : annotation.path().boundingRect();
 }
 
