@@ -2,6 +2,7 @@
 // needs to write and to read the same pixels as PNG. Run through bench/run.
 
 #include "InterfacePictures.h"
+#include "Memory.h"
 #include "PhotoPictures.h"
 #include "Row.h"
 #include "base/QtScheduler.h"
@@ -69,30 +70,6 @@ std::vector<ScreenshotAnnotation> annotations() {
     blur.blur = EditorBlur{EditorBlur::Strength::strong};
     all.push_back(blur);
     return all;
-}
-
-// In MiB: what the process has and the most that it had since the last call.
-struct Memory {
-    double now = 0;
-    double most = 0;
-};
-
-Memory memory() {
-    Memory memory;
-    QFile status(QStringLiteral("/proc/self/status"));
-    if (!status.open(QIODevice::ReadOnly))
-        return memory;
-    for (const QByteArray &line : status.readAll().split('\n')) {
-        const auto value = [&line] { return line.simplified().split(' ').value(1).toDouble() / 1'024; };
-        if (line.startsWith("VmRSS:"))
-            memory.now = value();
-        if (line.startsWith("VmHWM:"))
-            memory.most = value();
-    }
-    QFile peaks(QStringLiteral("/proc/self/clear_refs"));
-    if (peaks.open(QIODevice::WriteOnly))
-        peaks.write("5");
-    return memory;
 }
 
 void measure(const char *name, const QImage &image) {

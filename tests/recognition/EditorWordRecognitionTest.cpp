@@ -11,7 +11,6 @@
 using namespace tembra;
 using testing::ElementsAre;
 using testing::IsEmpty;
-using testing::SizeIs;
 using State = EditorWordRecognition::State;
 
 namespace {

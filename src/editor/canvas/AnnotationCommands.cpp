@@ -4,6 +4,7 @@
 #include "editor/model/EditorObjectClipboard.h"
 
 #include <QCoreApplication>
+#include <QLineF>
 
 #include <algorithm>
 #include <cmath>
@@ -82,8 +83,10 @@ void AnnotationCommands::changeSelected(const Change &change, const QString &nam
 
 void AnnotationCommands::nudge(QPointF delta) {
     const QRectF bounds = boundsOf(m_document.selectedAnnotations());
-    // Something of them stays in the image.
-    if (!bounds.translated(delta).intersects(m_limits))
+    const QRectF moved = bounds.translated(delta);
+    // Something of them stays in the image; what a crop has left outside may come back.
+    const auto distance = [this](QPointF point) { return QLineF(point, m_limits.center()).length(); };
+    if (!moved.intersects(m_limits) && distance(moved.center()) >= distance(bounds.center()))
         return;
     changeSelected([delta](const auto &one) { return annotationEditing::moved(one, delta); },
                    text(QT_TRANSLATE_NOOP("ScreenshotEdit", "Move annotations")),
@@ -174,14 +177,16 @@ bool AnnotationCommands::paste(Pasteboard &pasteboard, QPointF middle) {
     if (!m_limits.contains(bounds))
         delta = rounded(middle - bounds.center());
     // Copies do not hide what they are copies of.
+    std::vector<QPointF> taken;
+    for (const ScreenshotAnnotation &one : m_document.annotations())
+        taken.push_back(one.path().boundingRect().topLeft());
     const auto covers = [&](const QPointF &way) {
-        const QRectF place = bounds.translated(way);
-        return std::ranges::any_of(m_document.annotations(), [&](const ScreenshotAnnotation &one) {
-            return one.path().boundingRect().topLeft() == place.topLeft();
+        return std::ranges::any_of(*read, [&](const ScreenshotAnnotation &copy) {
+            return std::ranges::count(taken, copy.path().boundingRect().topLeft() + way) > 0;
         });
     };
     const double step = std::round(16 * annotationEditing::imageUnit(m_document.originalSize()));
-    for (int tries = 0; read->size() == 1 && covers(delta) && tries < 100; ++tries)
+    for (int tries = 0; covers(delta) && tries < 100; ++tries)
         delta += QPointF(step, step);
     return insertCopies(*read, delta, text(QT_TRANSLATE_NOOP("ScreenshotEdit", "Paste")));
 }

@@ -1,5 +1,6 @@
 #include "editor/canvas/AnnotationEditing.h"
 
+#include "editor/model/AnnotationText.h"
 #include "editor/model/ContrastColor.h"
 
 #include <QLineF>
@@ -150,6 +151,10 @@ ScreenshotAnnotation restyled(const ScreenshotAnnotation &annotation, const Edit
     return result;
 }
 
+QRectF alignmentRect(const ScreenshotAnnotation &annotation) {
+    return annotation.hasRectHandles() ? annotation.shapeRect() : annotation.path().boundingRect();
+}
+
 ScreenshotAnnotation moved(const ScreenshotAnnotation &annotation, QPointF delta) {
     ScreenshotAnnotation result = annotation;
     for (EditorPoint &point : result.points)
@@ -166,10 +171,18 @@ ScreenshotAnnotation grownBy(const ScreenshotAnnotation &annotation, QPointF del
         return withPoint(annotation, 1, clampedTo(annotation.points[1].toPointF() + delta, limits));
     if (!annotation.text)
         return annotation;
-    ScreenshotAnnotation result = annotation;
-    result.text->maximumWidth =
-        std::clamp(annotation.text->maximumWidth + delta.x(), 2 * annotation.text->fontSize, limits.width());
-    return result;
+    // The words may end long before the edge at which they would wrap.
+    double width = annotation.text->maximumWidth;
+    if (delta.x() < 0)
+        width = std::min(width, AnnotationText(*annotation.text).size().width() -
+                                    2 * AnnotationText::horizontalPadding(annotation.text->fontSize));
+    return wrappedAt(annotation, width + delta.x(), limits.width());
+}
+
+ScreenshotAnnotation wrappedAt(ScreenshotAnnotation text, double width, double most) {
+    const double least = 2 * text.text->fontSize;
+    text.text->maximumWidth = std::clamp(width, least, std::max(most, least));
+    return text;
 }
 
 ScreenshotAnnotation withPoint(const ScreenshotAnnotation &annotation, std::size_t index, QPointF point) {
@@ -207,6 +220,16 @@ QPointF constrainedToSquare(QPointF origin, QPointF point) {
 QPointF clampedTo(QPointF point, const QRectF &limits) {
     return {std::clamp(point.x(), limits.left(), limits.right()),
             std::clamp(point.y(), limits.top(), limits.bottom())};
+}
+
+QPointF shortenedInto(QPointF origin, QPointF point, const QRectF &limits) {
+    const auto part = [](double from, double to, double least, double most) {
+        const double edge = to < least ? least : most;
+        return to < least || to > most ? std::clamp((edge - from) / (to - from), 0.0, 1.0) : 1;
+    };
+    const double kept = std::min(part(origin.x(), point.x(), limits.left(), limits.right()),
+                                 part(origin.y(), point.y(), limits.top(), limits.bottom()));
+    return origin + (point - origin) * kept;
 }
 
 } // namespace tembra::annotationEditing

@@ -26,10 +26,14 @@ namespace tembra::annotationEditing {
 // A change has no effect on what the kind does not have. A badge stays within `limits`.
 [[nodiscard]] ScreenshotAnnotation restyled(const ScreenshotAnnotation &annotation,
                                             const EditorStyleChange &change, const QRectF &limits);
+// What of it comes into line with others: the rectangle of a shape or blur, else the outline's.
+[[nodiscard]] QRectF alignmentRect(const ScreenshotAnnotation &annotation);
 [[nodiscard]] ScreenshotAnnotation moved(const ScreenshotAnnotation &annotation, QPointF delta);
 // A rectangle, or an end, moved as keys do; others stay.
 [[nodiscard]] ScreenshotAnnotation grownBy(const ScreenshotAnnotation &annotation, QPointF delta,
                                            const QRectF &limits);
+// A text that wraps at another width, of at most `most`.
+[[nodiscard]] ScreenshotAnnotation wrappedAt(ScreenshotAnnotation text, double width, double most);
 // An end of a line or arrow there, or its bend; the bend keeps its place between the ends.
 [[nodiscard]] ScreenshotAnnotation withPoint(const ScreenshotAnnotation &annotation, std::size_t index,
                                              QPointF point);
@@ -39,5 +43,7 @@ namespace tembra::annotationEditing {
 // The point that makes a square with `origin`, as large as the longer side.
 [[nodiscard]] QPointF constrainedToSquare(QPointF origin, QPointF point);
 [[nodiscard]] QPointF clampedTo(QPointF point, const QRectF &limits);
+// The point, or where the way to it from `origin` leaves the limits.
+[[nodiscard]] QPointF shortenedInto(QPointF origin, QPointF point, const QRectF &limits);
 
 } // namespace tembra::annotationEditing

@@ -28,36 +28,42 @@ void drawHandle(QPainter &painter, QPointF center) {
     painter.drawEllipse(center, handleRadius, handleRadius);
 }
 
-using Kind = ScreenshotAnnotation::Kind;
+} // namespace
 
-// The handles of arrows, lines and rectangles lie on what is drawn, and show alone that it is selected.
-bool hasFrame(const ScreenshotAnnotation &annotation, bool isAlone) {
-    return !isAlone || (annotation.kind != Kind::arrow && annotation.kind != Kind::line &&
-                        annotation.kind != Kind::rectangle);
-}
-
-// Beside the stroke of a rectangle, whose colour is to be seen.
-QRectF frameOf(const ScreenshotAnnotation &annotation) {
-    if (annotation.kind == Kind::rectangle)
+QRectF CanvasDecorations::frameOf(const ScreenshotAnnotation &annotation) {
+    // Beside the stroke of a rectangle, whose colour is to be seen.
+    if (annotation.kind == ScreenshotAnnotation::Kind::rectangle)
         return annotation.bounds();
     return annotation.hasRectHandles() ? annotation.shapeRect() : annotation.path().boundingRect();
 }
 
-} // namespace
-
-void CanvasDecorations::drawSelection(QPainter &painter, const CanvasViewport &viewport,
-                                      std::span<const ScreenshotAnnotation> selected) {
+// Arrows and lines have the handles at their ends to show that they are selected, rectangles those along
+// their sides: a frame would hide what colour they have.
+void CanvasDecorations::drawSelected(QPainter &painter, const CanvasViewport &viewport,
+                                     const ScreenshotAnnotation &annotation) {
+    if (!annotation.isDrawable())
+        return;
     painter.setRenderHint(QPainter::Antialiasing);
-    for (const ScreenshotAnnotation &annotation : selected) {
-        if (!annotation.isDrawable() || !hasFrame(annotation, selected.size() == 1))
-            continue;
+    const bool showsItself =
+        !annotation.editingPoints().empty() || annotation.kind == ScreenshotAnnotation::Kind::rectangle;
+    if (!showsItself) {
         const double gap = annotation.hasRectHandles() ? 0 : 3;
         drawFrame(painter, grown(viewport.toView(frameOf(annotation)), gap));
     }
-    if (selected.size() != 1)
-        return;
-    for (const CanvasTarget::Handle &handle : CanvasTarget::handlesOf(selected.front(), viewport.zoom()))
+    for (const CanvasTarget::Handle &handle : CanvasTarget::handlesOf(annotation, viewport.zoom()))
         drawHandle(painter, viewport.toView(handle.position));
+}
+
+// There may be hundreds of them: strips are quick to fill.
+void CanvasDecorations::drawFrames(QPainter &painter, const CanvasViewport &viewport,
+                                   std::span<const QRectF> frames) {
+    for (const QRectF &frame : frames) {
+        const QRectF rect = grown(viewport.toView(frame), 3);
+        painter.fillRect(QRectF(rect.left(), rect.top(), rect.width(), 1), palette::accent);
+        painter.fillRect(QRectF(rect.left(), rect.bottom() - 1, rect.width(), 1), palette::accent);
+        painter.fillRect(QRectF(rect.left(), rect.top(), 1, rect.height()), palette::accent);
+        painter.fillRect(QRectF(rect.right() - 1, rect.top(), 1, rect.height()), palette::accent);
+    }
 }
 
 void CanvasDecorations::drawDraft(QPainter &painter, const CanvasViewport &viewport,

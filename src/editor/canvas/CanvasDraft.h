@@ -15,6 +15,9 @@ namespace tembra {
 struct CanvasDraft {
     // Shown instead of those with the same id, or on top of all.
     std::vector<ScreenshotAnnotation> annotations;
+    // By how much, where they are nothing but moved from where the gesture found them; and what they cover.
+    std::optional<QPointF> movedBy;
+    QRectF movedBounds;
     // Where something lies in line with something else.
     std::vector<QLineF> guides;
     // What is being selected.

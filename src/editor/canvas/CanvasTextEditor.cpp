@@ -49,7 +49,7 @@ QRectF CanvasTextEditor::box() const {
 }
 
 void CanvasTextEditor::drawBackground(QPainter *painter, const QRectF &) {
-    const AnnotationText text(*annotation().text);
+    const AnnotationText text(m_item->shownText());
     const QPainterPath outline = text.box(annotation().points[0].toPointF());
     painter->fillPath(outline, annotation().text->background.toColor());
     QPen pen(palette::accent, 1.5);

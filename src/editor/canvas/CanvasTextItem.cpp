@@ -9,8 +9,10 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QStyleOptionGraphicsItem>
+#include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QTextLayout>
 
 #include <algorithm>
 #include <cmath>
@@ -72,9 +74,25 @@ void CanvasTextItem::typed() {
     Q_EMIT boxChanged();
 }
 
+EditorText CanvasTextItem::shownText() const {
+    EditorText shown = *m_annotation.text;
+    const QTextBlock block = textCursor().block();
+    const QTextLayout *layout = block.layout();
+    if (layout && !layout->preeditAreaText().isEmpty())
+        shown.string.insert(block.position() + layout->preeditAreaPosition(), layout->preeditAreaText());
+    return shown;
+}
+
+// What is being composed is no part of the document yet.
+void CanvasTextItem::inputMethodEvent(QInputMethodEvent *event) {
+    QGraphicsTextItem::inputMethodEvent(event);
+    layOut();
+    Q_EMIT boxChanged();
+}
+
 // As wide as the widest line, so that lines which begin on the right do so at the edge of the box.
 void CanvasTextItem::layOut() {
-    const AnnotationText text(*m_annotation.text);
+    const AnnotationText text(shownText());
     const double size = m_annotation.text->fontSize;
     const double padding = AnnotationText::horizontalPadding(size);
     const QSignalBlocker blocker(document());
@@ -131,16 +149,6 @@ void CanvasTextItem::insertPlain(const QMimeData *data) {
     QTextCursor cursor = textCursor();
     cursor.insertText(data->text(), QTextCharFormat());
     setTextCursor(cursor);
-}
-
-// A menu or another window may only borrow the focus.
-void CanvasTextItem::focusOutEvent(QFocusEvent *event) {
-    QGraphicsTextItem::focusOutEvent(event);
-    const bool isBorrowed = event->reason() == Qt::PopupFocusReason ||
-                            event->reason() == Qt::ActiveWindowFocusReason ||
-                            event->reason() == Qt::MenuBarFocusReason;
-    if (!isBorrowed && event->reason() == Qt::TabFocusReason)
-        Q_EMIT finished();
 }
 
 } // namespace tembra

@@ -4,6 +4,8 @@
 
 #include <QGraphicsTextItem>
 
+class QMimeData;
+
 namespace tembra {
 
 // The text of an annotation while it is typed: laid out as it will be drawn (AnnotationText.h), in image
@@ -18,6 +20,9 @@ public:
     [[nodiscard]] const ScreenshotAnnotation &annotation() const { return m_annotation; }
     // Takes another style; the text stays.
     void restyle(const ScreenshotAnnotation &annotation);
+    // With what an input method is composing.
+    [[nodiscard]] EditorText shownText() const;
+    // Of that.
     [[nodiscard]] QSizeF boxSize() const { return m_boxSize; }
 
     // Without the frame of an item that has the focus: the editor draws its own.
@@ -28,12 +33,12 @@ Q_SIGNALS:
     void finished();
 
 protected:
+    void inputMethodEvent(QInputMethodEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
     void mouseReleaseEvent(QGraphicsSceneMouseEvent *event) override;
     void contextMenuEvent(QGraphicsSceneContextMenuEvent *event) override;
     void dropEvent(QGraphicsSceneDragDropEvent *event) override;
-    void focusOutEvent(QFocusEvent *event) override;
 
 private:
     void applyStyle();

@@ -53,23 +53,30 @@ void CanvasViewport::fit() {
     const double left = (m_view.width() - size.width()) / 2;
     const double room = m_view.height() - sideMargin - bottomMargin;
     const double top = sideMargin + std::max((room - size.height()) / 2, 0.0);
-    const auto onPixel = [this](double value) { return std::round(value * m_displayScale) / m_displayScale; };
-    m_origin = {onPixel(left), onPixel(top)};
+    m_exactOrigin = {left, top};
+    m_origin = onPixels(m_exactOrigin);
+}
+
+QPointF CanvasViewport::onPixels(QPointF point) const {
+    return {std::round(point.x() * m_displayScale) / m_displayScale,
+            std::round(point.y() * m_displayScale) / m_displayScale};
 }
 
 void CanvasViewport::setScale(double scale, QPointF anchor) {
-    const QPointF kept = toImage(anchor);
+    const QPointF kept = (anchor - m_exactOrigin) / zoom();
     m_isFit = false;
     m_scale = std::clamp(scale, smallestScale(), largestScale);
-    place(anchor - (kept - m_content.topLeft()) * zoom());
+    place(anchor - kept * zoom());
 }
 
 void CanvasViewport::pan(QPointF delta) {
     m_isFit = false;
-    place(m_origin + delta);
+    place(m_exactOrigin + delta);
 }
 
 void CanvasViewport::reveal(const QRectF &rect) {
+    if (m_isFit)
+        return;
     const QRectF room(sideMargin, sideMargin, m_view.width() - 2 * sideMargin,
                       m_view.height() - sideMargin - bottomMargin);
     const QRectF shown = toView(rect);
@@ -88,8 +95,8 @@ void CanvasViewport::place(QPointF origin) {
     const QSizeF size = m_content.size() * zoom();
     const double x = placed(origin.x(), size.width(), m_view.width(), pullMargin);
     const double y = placed(origin.y(), size.height(), m_view.height(), bottomMargin);
-    m_origin = {std::round(x * m_displayScale) / m_displayScale,
-                std::round(y * m_displayScale) / m_displayScale};
+    m_exactOrigin = {x, y};
+    m_origin = onPixels(m_exactOrigin);
 }
 
 QPointF CanvasViewport::toImage(QPointF view) const {

@@ -38,7 +38,8 @@ public:
     void setScale(double scale, QPointF anchor);
     // In view space. A content that is smaller than the view stays in its middle.
     void pan(QPointF delta);
-    // Moves as little as it must so that a rectangle in image space is seen.
+    // Moves as little as it must so that a rectangle in image space is seen; a content that is seen whole
+    // stays.
     void reveal(const QRectF &rect);
 
     [[nodiscard]] QPointF toImage(QPointF view) const;
@@ -53,13 +54,16 @@ public:
 private:
     [[nodiscard]] double fitScale() const;
     void place(QPointF origin);
+    [[nodiscard]] QPointF onPixels(QPointF point) const;
 
     QSizeF m_view{1, 1};
     double m_displayScale = 1;
     QRectF m_content{0, 0, 1, 1};
     double m_scale = 1;
-    // Of the content's top left corner, in view space, on the display's pixels.
+    // Of the content's top left corner, in view space, on the display's pixels; and where it would be between
+    // them, so that what is under an anchor does not wander off in many steps.
     QPointF m_origin;
+    QPointF m_exactOrigin;
     bool m_isFit = true;
 };
 

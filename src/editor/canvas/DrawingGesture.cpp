@@ -12,17 +12,8 @@ namespace tembra {
 
 namespace {
 
-// On the way from the origin, as far as the limits let it.
-QPointF shortenedInto(QPointF origin, QPointF point, const QRectF &limits) {
-    const auto part = [](double from, double to, double least, double most) {
-        if (to < least)
-            return (least - from) / (to - from);
-        return to > most ? (most - from) / (to - from) : 1;
-    };
-    const double kept = std::min(part(origin.x(), point.x(), limits.left(), limits.right()),
-                                 part(origin.y(), point.y(), limits.top(), limits.bottom()));
-    return origin + (point - origin) * kept;
-}
+// Of the sides of a shape or blur.
+constexpr double leastSide = 1;
 
 } // namespace
 
@@ -46,7 +37,10 @@ CanvasDraft DrawingGesture::drag(QPointF point, Qt::KeyboardModifiers modifiers)
         start = shortenedInto(m_start, 2 * m_start - end, m_limits);
         end = 2 * m_start - start;
     }
-    if (QLineF(start, end).length() < m_leastLength)
+    const QPointF way = end - start;
+    const bool isSeen =
+        !m_annotation.hasRectHandles() || (std::abs(way.x()) >= leastSide && std::abs(way.y()) >= leastSide);
+    if (QLineF(start, end).length() < m_leastLength || !isSeen)
         return {};
     m_annotation.points = {EditorPoint::from(start), EditorPoint::from(end)};
     return {.annotations = {m_annotation}};
@@ -57,6 +51,8 @@ QString DrawingGesture::actionName() const {
     switch (m_annotation.kind) {
     case Kind::arrow:
         return QCoreApplication::translate("ScreenshotEdit", "Draw arrow");
+    case Kind::pencil:
+        return QCoreApplication::translate("ScreenshotEdit", "Draw stroke");
     case Kind::line:
         return QCoreApplication::translate("ScreenshotEdit", "Draw line");
     case Kind::rectangle:

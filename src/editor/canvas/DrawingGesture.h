@@ -8,7 +8,8 @@ namespace tembra {
 // lines at multiples of 45° and rectangles square, Alt draws from the middle. It stays within `limits`.
 class DrawingGesture final : public CanvasGesture {
 public:
-    // Less than `leastLength` is a click, which draws nothing.
+    // Less than `leastLength` is a click, which draws nothing; nor is there a shape or blur that is no pixel
+    // wide or high.
     DrawingGesture(ScreenshotAnnotation prototype, QPointF start, const QRectF &limits, double leastLength);
 
     [[nodiscard]] CanvasDraft drag(QPointF point, Qt::KeyboardModifiers modifiers) override;

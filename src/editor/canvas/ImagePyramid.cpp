@@ -18,12 +18,18 @@ QImage halved(const QImage &image) {
                         Qt::SmoothTransformation);
 }
 
+// Halves of narrow images are rounded up more in one direction than in the other.
+double scaleOf(const QImage &image, QSize size) {
+    return std::min(static_cast<double>(image.width()) / size.width(),
+                    static_cast<double>(image.height()) / size.height());
+}
+
 } // namespace
 
 ImagePyramid::ImagePyramid(QImage image, QSize size) : m_size(size) {
     if (image.isNull() || size.isEmpty())
         return;
-    const double first = static_cast<double>(image.width()) / size.width();
+    const double first = scaleOf(image, size);
     m_levels.push_back({forDrawing(std::move(image)), first});
     while (true) {
         const Level &last = m_levels.back();
@@ -33,7 +39,7 @@ ImagePyramid::ImagePyramid(QImage image, QSize size) : m_size(size) {
         QImage half = halved(last.image);
         if (half.isNull())
             break;
-        const double scale = static_cast<double>(half.width()) / size.width();
+        const double scale = scaleOf(half, size);
         m_levels.push_back({std::move(half), scale});
     }
 }

@@ -16,8 +16,10 @@ MovingGesture::MovingGesture(std::vector<ScreenshotAnnotation> annotations, QPoi
       m_start(start),
       m_surroundings(std::move(surroundings)),
       m_areCopies(areCopies) {
-    for (const ScreenshotAnnotation &annotation : m_annotations)
-        m_bounds |= annotation.path().boundingRect();
+    for (const ScreenshotAnnotation &annotation : m_annotations) {
+        m_bounds |= annotationEditing::alignmentRect(annotation);
+        m_drawnBounds |= annotation.bounds();
+    }
 }
 
 CanvasDraft MovingGesture::drag(QPointF point, Qt::KeyboardModifiers modifiers) {
@@ -37,6 +39,8 @@ CanvasDraft MovingGesture::drag(QPointF point, Qt::KeyboardModifiers modifiers) 
         draft.guides = std::move(guides.lines);
     }
     delta = kept(delta);
+    draft.movedBy = delta;
+    draft.movedBounds = m_drawnBounds.translated(delta);
     for (const ScreenshotAnnotation &annotation : m_annotations)
         draft.annotations.push_back(annotationEditing::moved(annotation, delta));
     return draft;

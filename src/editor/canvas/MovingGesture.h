@@ -28,6 +28,8 @@ private:
     const Surroundings m_surroundings;
     const bool m_areCopies;
     QRectF m_bounds;
+    // Of everything that is drawn of them.
+    QRectF m_drawnBounds;
     // The pointer has left the place of the press.
     bool m_hasMoved = false;
 };

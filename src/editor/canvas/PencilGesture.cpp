@@ -17,7 +17,8 @@ CanvasDraft PencilGesture::drag(QPointF point, Qt::KeyboardModifiers modifiers) 
     auto &points = m_annotation.points;
     if (modifiers & Qt::ShiftModifier) {
         const QPointF start = points.front().toPointF();
-        point = annotationEditing::constrainedTo45(start, point);
+        point = annotationEditing::shortenedInto(start, annotationEditing::constrainedTo45(start, point),
+                                                 m_limits);
         points.resize(1);
     }
     point = annotationEditing::clampedTo(point, m_limits);

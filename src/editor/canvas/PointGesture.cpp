@@ -6,35 +6,48 @@
 #include <QCoreApplication>
 #include <QLineF>
 
-#include <algorithm>
-
 namespace tembra {
 
 namespace {
 
-ScreenshotAnnotation wrappedAt(const ScreenshotAnnotation &annotation, double right, double most) {
-    ScreenshotAnnotation result = annotation;
-    const double size = annotation.text->fontSize;
-    const double width = right - annotation.points[0].x - 2 * AnnotationText::horizontalPadding(size);
-    result.text->maximumWidth = std::clamp(width, size, std::max(most, size));
-    return result;
+QPointF handleOf(const ScreenshotAnnotation &annotation, std::size_t index) {
+    if (annotation.text)
+        return QRectF(annotation.points[0].toPointF(), AnnotationText(*annotation.text).size()).bottomRight();
+    return annotation.editingPoints()[index];
 }
 
 } // namespace
 
-PointGesture::PointGesture(ScreenshotAnnotation annotation, std::size_t index, const QRectF &limits,
-                           double straightening)
-    : m_annotation(std::move(annotation)), m_index(index), m_limits(limits), m_straightening(straightening) {}
+PointGesture::PointGesture(ScreenshotAnnotation annotation, std::size_t index, QPointF start,
+                           const QRectF &limits, double straightening)
+    : m_annotation(std::move(annotation)),
+      m_index(index),
+      m_limits(limits),
+      m_straightening(straightening),
+      m_grip(handleOf(m_annotation, index), start, straightening / 2) {}
 
-CanvasDraft PointGesture::drag(QPointF point, Qt::KeyboardModifiers modifiers) {
-    if (m_annotation.text)
-        return {.annotations = {wrappedAt(m_annotation, point.x(), m_limits.width())}};
+CanvasDraft PointGesture::drag(QPointF pointer, Qt::KeyboardModifiers modifiers) {
+    const auto held = m_grip.handleAt(pointer);
+    if (!held)
+        return {};
+    QPointF point = *held;
+    if (m_annotation.text) {
+        const double padding = AnnotationText::horizontalPadding(m_annotation.text->fontSize);
+        const double width = point.x() - m_annotation.points[0].x - 2 * padding;
+        return {.annotations = {annotationEditing::wrappedAt(m_annotation, width, m_limits.width())}};
+    }
     if (m_index >= 2)
         return {.annotations = {bent(annotationEditing::clampedTo(point, m_limits))}};
     if (modifiers & Qt::ShiftModifier)
-        point = annotationEditing::constrainedTo45(m_annotation.points[1 - m_index].toPointF(), point);
+        point = constrained(point);
     point = annotationEditing::clampedTo(point, m_limits);
     return {.annotations = {annotationEditing::withPoint(m_annotation, m_index, point)}};
+}
+
+QPointF PointGesture::constrained(QPointF point) const {
+    const QPointF other = m_annotation.points[1 - m_index].toPointF();
+    return annotationEditing::shortenedInto(other, annotationEditing::constrainedTo45(other, point),
+                                            m_limits);
 }
 
 ScreenshotAnnotation PointGesture::bent(QPointF point) const {

@@ -43,13 +43,20 @@ QRectF resizedAboutCenter(const QRectF &rect, int handle, QPointF point, bool pr
 
 } // namespace
 
-ResizingGesture::ResizingGesture(ScreenshotAnnotation annotation, int handle, Surroundings surroundings)
-    : m_annotation(std::move(annotation)), m_handle(handle), m_surroundings(std::move(surroundings)) {}
+ResizingGesture::ResizingGesture(ScreenshotAnnotation annotation, int handle, QPointF start,
+                                 Surroundings surroundings)
+    : m_annotation(std::move(annotation)),
+      m_handle(handle),
+      m_surroundings(std::move(surroundings)),
+      m_grip(rectHandles::position(m_annotation.shapeRect(), handle), start, m_surroundings.tolerance / 2) {}
 
-CanvasDraft ResizingGesture::drag(QPointF point, Qt::KeyboardModifiers modifiers) {
+CanvasDraft ResizingGesture::drag(QPointF pointer, Qt::KeyboardModifiers modifiers) {
+    const auto held = m_grip.handleAt(pointer);
+    if (!held)
+        return {};
     const bool preservesAspect = modifiers.testFlag(Qt::ShiftModifier);
     CanvasDraft draft;
-    point = QPointF(std::round(point.x()), std::round(point.y()));
+    QPointF point(std::round(held->x()), std::round(held->y()));
     if (!preservesAspect && !modifiers.testFlag(Qt::ControlModifier)) {
         AlignmentGuides guides =
             AlignmentGuides::of(QRectF(point, QSizeF()), m_surroundings.targets, m_surroundings.tolerance);

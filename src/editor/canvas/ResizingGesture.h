@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editor/canvas/CanvasGesture.h"
+#include "editor/canvas/HandleGrip.h"
 
 namespace tembra {
 
@@ -13,15 +14,17 @@ public:
         std::vector<QRectF> targets;
         double tolerance = 0;
     };
-    ResizingGesture(ScreenshotAnnotation annotation, int handle, Surroundings surroundings);
+    // `start` is where the press was, at or beside the handle.
+    ResizingGesture(ScreenshotAnnotation annotation, int handle, QPointF start, Surroundings surroundings);
 
-    [[nodiscard]] CanvasDraft drag(QPointF point, Qt::KeyboardModifiers modifiers) override;
+    [[nodiscard]] CanvasDraft drag(QPointF pointer, Qt::KeyboardModifiers modifiers) override;
     [[nodiscard]] QString actionName() const override;
 
 private:
     const ScreenshotAnnotation m_annotation;
     const int m_handle;
     const Surroundings m_surroundings;
+    HandleGrip m_grip;
 };
 
 } // namespace tembra

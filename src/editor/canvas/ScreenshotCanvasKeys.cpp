@@ -3,7 +3,6 @@
 #include "editor/canvas/AnnotationEditing.h"
 #include "editor/canvas/CanvasTextEditor.h"
 #include "editor/canvas/DrawingGesture.h"
-#include "editor/canvas/PlacingGesture.h"
 #include "editor/canvas/ScreenshotCanvasView.h"
 #include "editor/canvas/ToolKeys.h"
 
@@ -33,6 +32,12 @@ void ScreenshotCanvasView::keyPressEvent(QKeyEvent *event) {
         QWidget::keyPressEvent(event);
 }
 
+// Whoever has the focus then is told of the release.
+void ScreenshotCanvasView::focusOutEvent(QFocusEvent *event) {
+    m_isSpaceHeld = false;
+    QWidget::focusOutEvent(event);
+}
+
 void ScreenshotCanvasView::keyReleaseEvent(QKeyEvent *event) {
     if (event->key() == Qt::Key_Space && !event->isAutoRepeat() && m_isSpaceHeld) {
         m_isSpaceHeld = false;
@@ -40,8 +45,7 @@ void ScreenshotCanvasView::keyReleaseEvent(QKeyEvent *event) {
     }
     // A modifier changes what is being drawn.
     if (m_gesture)
-        setDraft(
-            m_gesture->drag(m_viewport.toImage(mapFromGlobal(QPointF(QCursor::pos()))), event->modifiers()));
+        setDraft(m_gesture->drag(m_viewport.toImage(m_pointer), event->modifiers()));
     QWidget::keyReleaseEvent(event);
 }
 
@@ -52,8 +56,7 @@ bool ScreenshotCanvasView::handleKey(const QKeyEvent &event) {
         if (event.key() == Qt::Key_Escape)
             cancelGesture();
         else
-            setDraft(m_gesture->drag(m_viewport.toImage(mapFromGlobal(QPointF(QCursor::pos()))),
-                                     event.modifiers()));
+            setDraft(m_gesture->drag(m_viewport.toImage(m_pointer), event.modifiers()));
         return true;
     }
     if (event.key() == Qt::Key_Y && event.modifiers() == Qt::ControlModifier) {
@@ -114,7 +117,7 @@ bool ScreenshotCanvasView::handlePlainKey(const QKeyEvent &event) {
         return true;
     }
     if (m_cropSession)
-        return false;
+        return handleCropKey(key);
     if (key >= Qt::Key_1 && key <= Qt::Key_9) {
         Q_EMIT colorChosen(key - Qt::Key_0);
         return true;
@@ -136,6 +139,17 @@ bool ScreenshotCanvasView::handlePlainKey(const QKeyEvent &event) {
         return true;
     }
     return handleOrderKey(key);
+}
+
+// What the overlay does when it has the focus itself.
+bool ScreenshotCanvasView::handleCropKey(int key) {
+    if (key == Qt::Key_Escape)
+        cancelCrop();
+    else if (isReturn(key))
+        applyCrop();
+    else
+        return false;
+    return true;
 }
 
 bool ScreenshotCanvasView::handleOrderKey(int key) {
@@ -185,17 +199,23 @@ void ScreenshotCanvasView::placeInMiddle() {
     const QPointF half = QPointF(seen.width() / 8, seen.height() / 8).toPoint();
     if (kind == Kind::text)
         return typeNewText(middle);
-    std::unique_ptr<CanvasGesture> gesture;
     if (kind == Kind::number)
-        gesture = std::make_unique<PlacingGesture>(prototype(kind), limits);
+        m_gesture = placingNumber();
     else
-        gesture = std::make_unique<DrawingGesture>(prototype(kind), middle - half, limits, 0);
-    m_gesture = std::move(gesture);
+        m_gesture = std::make_unique<DrawingGesture>(prototype(kind), middle - half, limits, 0);
+    if (!m_gesture)
+        return;
     m_draft = m_gesture->drag(kind == Kind::number ? middle : middle + half, {});
     finishGesture();
 }
 
 bool ScreenshotCanvasView::focusNextPrevChild(bool next) {
+    // It asks for its editor too.
+    if (isTyping()) {
+        finishTyping();
+        setFocus();
+        return true;
+    }
     if (m_document && !m_cropSession && commands().selectNext(!next)) {
         const auto selected = m_document->selectedAnnotations();
         m_viewport.reveal(selected.front().bounds());
@@ -251,8 +271,12 @@ void ScreenshotCanvasView::selectAll() {
 }
 
 void ScreenshotCanvasView::duplicateObject() {
-    if (m_document)
+    if (!m_document)
+        return;
+    if (m_document->canNumberCopies(m_document->selectedAnnotations()))
         commands().duplicate();
+    else
+        Q_EMIT failed(tr("Numbers end at 9,999."));
 }
 
 void ScreenshotCanvasView::deleteSelected() {

@@ -76,6 +76,7 @@ std::optional<CanvasTarget> ScreenshotCanvasView::targetAt(QPointF view) const {
 
 void ScreenshotCanvasView::mousePressEvent(QMouseEvent *event) {
     setFocus(Qt::MouseFocusReason);
+    m_pointer = event->position();
     if (!m_document || m_gesture || m_panFrom)
         return;
     const bool pans =
@@ -123,9 +124,9 @@ std::unique_ptr<CanvasGesture> ScreenshotCanvasView::takingHold(const CanvasTarg
         const auto selected = m_document->selectedAnnotations().front();
         if (target.handle->isOfRect)
             return std::make_unique<ResizingGesture>(
-                selected, target.handle->index,
+                selected, target.handle->index, image,
                 ResizingGesture::Surroundings{limits, alignmentTargets({selected.id}), tolerance});
-        return std::make_unique<PointGesture>(selected, static_cast<std::size_t>(target.handle->index),
+        return std::make_unique<PointGesture>(selected, static_cast<std::size_t>(target.handle->index), image,
                                               limits, tolerance);
     }
     QSet<QUuid> ids = m_document->selectedIDs();
@@ -138,7 +139,11 @@ std::unique_ptr<CanvasGesture> ScreenshotCanvasView::takingHold(const CanvasTarg
     if (!ids.contains(target.id))
         m_document->setSelectedIDs({target.id});
     std::vector<ScreenshotAnnotation> moving = m_document->selectedAnnotations();
-    const bool copies = modifiers & Qt::AltModifier && m_document->canNumberCopies(moving);
+    const bool copies = modifiers & Qt::AltModifier;
+    if (copies && !m_document->canNumberCopies(moving)) {
+        Q_EMIT failed(tr("Numbers end at 9,999."));
+        return nullptr;
+    }
     if (copies)
         moving = m_document->numberedCopies(moving);
     const QSet<QUuid> apart = copies ? QSet<QUuid>() : m_document->selectedIDs();
@@ -164,14 +169,8 @@ std::unique_ptr<CanvasGesture> ScreenshotCanvasView::drawing(QPointF image) {
     switch (*kind) {
     case Kind::pencil:
         return std::make_unique<PencilGesture>(prototype(*kind), image, limits, strokeSpacing / zoom);
-    case Kind::number: {
-        ScreenshotAnnotation number = prototype(*kind);
-        if (number.number->value > EditorNumber::largest) {
-            Q_EMIT failed(tr("Numbers end at 9,999."));
-            return nullptr;
-        }
-        return std::make_unique<PlacingGesture>(std::move(number), limits);
-    }
+    case Kind::number:
+        return placingNumber();
     case Kind::blur:
         if (m_blurMode == BlurMode::text)
             return std::make_unique<WordsGesture>(prototype(*kind), image, m_words, limits,
@@ -182,19 +181,28 @@ std::unique_ptr<CanvasGesture> ScreenshotCanvasView::drawing(QPointF image) {
     }
 }
 
+std::unique_ptr<CanvasGesture> ScreenshotCanvasView::placingNumber() {
+    ScreenshotAnnotation number = prototype(Kind::number);
+    if (number.number->value > EditorNumber::largest) {
+        Q_EMIT failed(tr("Numbers end at 9,999."));
+        return nullptr;
+    }
+    return std::make_unique<PlacingGesture>(std::move(number), m_viewport.content());
+}
+
 // What something that is moved comes into line with.
 std::vector<QRectF> ScreenshotCanvasView::alignmentTargets(const QSet<QUuid> &moving) const {
     std::vector<QRectF> targets{m_viewport.content()};
     for (const ScreenshotAnnotation &annotation : m_document->annotations()) {
         const bool isTarget = annotation.kind != Kind::pencil && annotation.kind != Kind::arrow;
         if (isTarget && !moving.contains(annotation.id))
-            targets.push_back(annotation.hasRectHandles() ? annotation.shapeRect()
-                                                          : annotation.path().boundingRect());
+            targets.push_back(annotationEditing::alignmentRect(annotation));
     }
     return targets;
 }
 
 void ScreenshotCanvasView::mouseMoveEvent(QMouseEvent *event) {
+    m_pointer = event->position();
     if (m_panFrom) {
         const QPointF way = event->position() - std::exchange(*m_panFrom, event->position());
         // What is seen whole has nowhere to go.
@@ -227,7 +235,9 @@ void ScreenshotCanvasView::finishGesture() {
         m_document->setSelectedIDs(*draft.selection);
     if (!draft.annotations.empty()) {
         const auto &last = draft.annotations.back();
-        if (m_tool == EditorTool::number && m_nextNumber && last.number)
+        const auto known = std::ranges::find(m_document->annotations(), last.id, &ScreenshotAnnotation::id);
+        const bool isNew = known == m_document->annotations().end();
+        if (m_tool == EditorTool::number && m_nextNumber && last.number && isNew)
             m_nextNumber = last.number->value == -1 ? 1 : last.number->value + 1;
         commands().put(draft.annotations, gesture->actionName());
     }

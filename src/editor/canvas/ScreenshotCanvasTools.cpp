@@ -97,6 +97,10 @@ std::vector<ScreenshotAnnotation> ScreenshotCanvasView::styledAnnotations() cons
     return selected;
 }
 
+EditorColor ScreenshotCanvasView::color() const {
+    return m_styles.style(Kind::arrow, {}).color;
+}
+
 void ScreenshotCanvasView::restyle(const EditorStyleChange &change) {
     if (!m_document)
         return;
@@ -186,6 +190,8 @@ void ScreenshotCanvasView::beginCrop() {
     m_viewport.setContent(shownContent());
     m_viewport.fit();
     m_cropOverlay = new EditorCropOverlay(*m_cropSession, m_viewport, this);
+    // A press beside the crop leaves the keys to it.
+    setFocusProxy(m_cropOverlay);
     connect(m_cropOverlay, &EditorCropOverlay::changed, this, &ScreenshotCanvasView::changed);
     connect(m_cropOverlay, &EditorCropOverlay::applied, this, &ScreenshotCanvasView::applyCrop);
     connect(m_cropOverlay, &EditorCropOverlay::cancelled, this, &ScreenshotCanvasView::cancelCrop);
@@ -212,6 +218,7 @@ void ScreenshotCanvasView::cancelCrop() {
 
 void ScreenshotCanvasView::endCrop(const std::optional<QRectF> &crop) {
     const EditorCropSession session = *std::exchange(m_cropSession, nullptr);
+    setFocusProxy(nullptr);
     if (m_cropOverlay) {
         m_cropOverlay->hide();
         m_cropOverlay->deleteLater();

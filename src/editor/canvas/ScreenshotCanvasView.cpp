@@ -17,8 +17,18 @@
 
 namespace tembra {
 
-ScreenshotCanvasView::ScreenshotCanvasView(UserDefaults &defaults, Pasteboard &pasteboard, QWidget *parent)
-    : QWidget(parent), m_pasteboard(pasteboard), m_styles(defaults) {
+using namespace std::chrono_literals;
+
+namespace {
+
+// A zoom has ended when nothing came for so long.
+constexpr auto zoomRest = 80ms;
+
+} // namespace
+
+ScreenshotCanvasView::ScreenshotCanvasView(UserDefaults &defaults, Pasteboard &pasteboard,
+                                           Scheduler &scheduler, QWidget *parent)
+    : QWidget(parent), m_pasteboard(pasteboard), m_scheduler(scheduler), m_styles(defaults) {
     installAccessibleCanvas();
     setAccessibleName(tr("Screenshot"));
     setFocusPolicy(Qt::StrongFocus);
@@ -126,14 +136,19 @@ void ScreenshotCanvasView::paintEvent(QPaintEvent *event) {
         shown.annotations = others;
     }
     m_layers.paint(painter, exposed, shown);
+    if (m_layers.isApproximate())
+        m_refinement = m_scheduler.schedule(zoomRest, [this] {
+            m_layers.refine();
+            update();
+        });
     drawDecorations(painter, exposed);
 }
 
-void ScreenshotCanvasView::drawDecorations(QPainter &painter, const QRectF &exposed) const {
+void ScreenshotCanvasView::drawDecorations(QPainter &painter, const QRectF &exposed) {
     drawPixelGrid(painter, m_viewport, exposed);
     if (m_cropSession || m_textEditor || !m_document)
         return;
-    CanvasDecorations::drawSelection(painter, m_viewport, shownSelection());
+    drawSelection(painter);
     CanvasDecorations::drawDraft(painter, m_viewport, m_draft);
     if (!m_draft.words.empty()) {
         for (const QRectF &word : m_draft.words)
@@ -141,6 +156,25 @@ void ScreenshotCanvasView::drawDecorations(QPainter &painter, const QRectF &expo
     } else if (m_hoveredWord) {
         CanvasDecorations::drawWord(painter, m_viewport, *m_hoveredWord);
     }
+}
+
+// Many that are moved keep the frames that they had.
+void ScreenshotCanvasView::drawSelection(QPainter &painter) {
+    const qsizetype count = m_draft.selection ? m_draft.selection->size() : m_document->selectedIDs().size();
+    if (count > 1 && m_draft.movedBy) {
+        painter.save();
+        const QPointF shift = *m_draft.movedBy * m_viewport.zoom();
+        painter.translate(shift);
+        CanvasDecorations::drawFrames(painter, m_viewport, m_frames);
+        painter.restore();
+        return;
+    }
+    const std::vector<ScreenshotAnnotation> selected = shownSelection();
+    if (selected.size() == 1)
+        return CanvasDecorations::drawSelected(painter, m_viewport, selected.front());
+    m_frames.clear();
+    std::ranges::transform(selected, std::back_inserter(m_frames), CanvasDecorations::frameOf);
+    CanvasDecorations::drawFrames(painter, m_viewport, m_frames);
 }
 
 // As the draft has them.
@@ -158,8 +192,10 @@ std::vector<ScreenshotAnnotation> ScreenshotCanvasView::shownSelection() const {
 
 // Everything that a draft changes of what is seen. View space.
 QRectF ScreenshotCanvasView::extentOf(const CanvasDraft &draft) const {
-    QRectF image;
+    QRectF image = draft.movedBounds;
     for (const ScreenshotAnnotation &annotation : draft.annotations) {
+        if (draft.movedBy)
+            break;
         image |= annotation.bounds();
         if (annotation.bendPoint)
             image |= QRectF(annotation.bendPoint->toPointF(), QSizeF(1, 1));
@@ -174,18 +210,29 @@ QRectF ScreenshotCanvasView::extentOf(const CanvasDraft &draft) const {
     return view.isEmpty() ? view : grown(view, CanvasDecorations::reach);
 }
 
+// Where those were that a draft shows elsewhere.
+QRectF ScreenshotCanvasView::replacedExtent(const CanvasDraft &draft) const {
+    if (draft.movedBy)
+        return grown(m_viewport.toView(draft.movedBounds.translated(-*draft.movedBy)),
+                     CanvasDecorations::reach);
+    QRectF extent;
+    for (const ScreenshotAnnotation &replaced : draft.annotations) {
+        const auto known =
+            std::ranges::find(m_document->annotations(), replaced.id, &ScreenshotAnnotation::id);
+        if (known != m_document->annotations().end())
+            extent |= grown(m_viewport.toView(known->bounds()), CanvasDecorations::reach);
+    }
+    return extent;
+}
+
 void ScreenshotCanvasView::setDraft(CanvasDraft draft) {
     if (draft == m_draft)
         return;
     // What is selected by a band may lie anywhere.
     const bool isLocal = draft.selection == m_draft.selection;
     QRectF extent = extentOf(m_draft) | extentOf(draft);
-    for (const ScreenshotAnnotation &replaced : draft.annotations) {
-        const auto known =
-            std::ranges::find(m_document->annotations(), replaced.id, &ScreenshotAnnotation::id);
-        if (known != m_document->annotations().end() && m_draft.annotations.empty())
-            extent |= grown(m_viewport.toView(known->bounds()), CanvasDecorations::reach);
-    }
+    if (m_draft.annotations.empty())
+        extent |= replacedExtent(draft);
     m_draft = std::move(draft);
     if (isLocal)
         update(extent.toAlignedRect());

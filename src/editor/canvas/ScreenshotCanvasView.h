@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Scheduler.h"
 #include "editor/canvas/AnnotationCommands.h"
 #include "editor/canvas/CanvasGesture.h"
 #include "editor/canvas/CanvasLayers.h"
@@ -30,7 +31,8 @@ class ScreenshotCanvasView final : public QWidget {
 
 public:
     // The services must outlive this.
-    ScreenshotCanvasView(UserDefaults &defaults, Pasteboard &pasteboard, QWidget *parent = nullptr);
+    ScreenshotCanvasView(UserDefaults &defaults, Pasteboard &pasteboard, Scheduler &scheduler,
+                         QWidget *parent = nullptr);
     ~ScreenshotCanvasView() override;
 
     // What is edited from now on; it must outlive its time here. Nothing is typed or drawn any more.
@@ -50,6 +52,8 @@ public:
     // What the controls of the style are about: the selected annotations, or what the tool would draw.
     [[nodiscard]] std::vector<ScreenshotAnnotation> styledAnnotations() const;
     void restyle(const EditorStyleChange &change);
+    // Of what is drawn next.
+    [[nodiscard]] EditorColor color() const;
     // Of what the tool draws.
     void stepSize(EditorTool tool, int steps);
 
@@ -106,6 +110,7 @@ protected:
     void leaveEvent(QEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
     bool focusNextPrevChild(bool next) override;
@@ -115,10 +120,12 @@ private:
     [[nodiscard]] CanvasScene scene() const;
     [[nodiscard]] QRectF shownContent() const;
     [[nodiscard]] std::vector<ScreenshotAnnotation> shownSelection() const;
-    void drawDecorations(QPainter &painter, const QRectF &exposed) const;
+    void drawSelection(QPainter &painter);
+    void drawDecorations(QPainter &painter, const QRectF &exposed);
     void viewportChanged();
     void updateContent();
     [[nodiscard]] QRectF extentOf(const CanvasDraft &draft) const;
+    [[nodiscard]] QRectF replacedExtent(const CanvasDraft &draft) const;
     void setDraft(CanvasDraft draft);
 
     // The pointer (ScreenshotCanvasPointer.cpp).
@@ -128,6 +135,7 @@ private:
                                                             Qt::KeyboardModifiers modifiers);
     [[nodiscard]] std::unique_ptr<CanvasGesture> selecting(QPointF image, Qt::KeyboardModifiers modifiers);
     [[nodiscard]] std::unique_ptr<CanvasGesture> drawing(QPointF image);
+    [[nodiscard]] std::unique_ptr<CanvasGesture> placingNumber();
     [[nodiscard]] std::vector<QRectF> alignmentTargets(const QSet<QUuid> &moving) const;
     void finishGesture();
     void updateHover(QPointF view);
@@ -137,6 +145,7 @@ private:
     // Keys (ScreenshotCanvasKeys.cpp).
     bool handlePlainKey(const QKeyEvent &event);
     bool handleArrow(const QKeyEvent &event);
+    bool handleCropKey(int key);
     bool handleOrderKey(int key);
     void cancelStep();
     void enter();
@@ -153,11 +162,16 @@ private:
     [[nodiscard]] AnnotationCommands commands() { return {*m_document, m_viewport.content()}; }
 
     Pasteboard &m_pasteboard;
+    Scheduler &m_scheduler;
     EditorToolStyles m_styles;
     ScreenshotEditDocument *m_document = nullptr;
     std::shared_ptr<const ImagePyramid> m_image;
     CanvasViewport m_viewport;
-    mutable CanvasLayers m_layers;
+    CanvasLayers m_layers;
+    // What is shown roughly during a zoom is drawn again when it has ended.
+    WorkItem m_refinement;
+    // Around the selected ones, before they are moved. Image space.
+    std::vector<QRectF> m_frames;
 
     EditorTool m_tool = EditorTool::select;
     // To return to after a crop.
@@ -170,6 +184,8 @@ private:
 
     std::unique_ptr<CanvasGesture> m_gesture;
     CanvasDraft m_draft;
+    // Where it was last. View space.
+    QPointF m_pointer;
     // Where the view was taken hold of, in view space.
     std::optional<QPointF> m_panFrom;
     bool m_isSpaceHeld = false;

@@ -17,11 +17,11 @@
 namespace tembra {
 
 ScreenshotEditorWindow::ScreenshotEditorWindow(UserDefaults &defaults, Pasteboard &pasteboard,
-                                               Thumbnails &thumbnails)
+                                               Thumbnails &thumbnails, Scheduler &scheduler)
     : m_header(new EditorHeader(this)),
       m_banner(new EditorBanner(this)),
       m_sidebar(new EditorSidebar(thumbnails, this)),
-      m_canvas(new ScreenshotCanvasView(defaults, pasteboard, this)),
+      m_canvas(new ScreenshotCanvasView(defaults, pasteboard, scheduler, this)),
       m_dock(new EditorDock(this)),
       m_zoom(new EditorZoomControl(this)) {
     setWindowTitle(QStringLiteral("Tembra[*]"));

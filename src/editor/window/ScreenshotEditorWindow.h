@@ -10,6 +10,7 @@ class EditorHeader;
 class EditorSidebar;
 class EditorZoomControl;
 class Pasteboard;
+class Scheduler;
 class ScreenshotCanvasView;
 class Thumbnails;
 class UserDefaults;
@@ -24,7 +25,8 @@ public:
     static constexpr QSize usual{1200, 740};
 
     // The services must outlive this.
-    ScreenshotEditorWindow(UserDefaults &defaults, Pasteboard &pasteboard, Thumbnails &thumbnails);
+    ScreenshotEditorWindow(UserDefaults &defaults, Pasteboard &pasteboard, Thumbnails &thumbnails,
+                           Scheduler &scheduler);
 
     // What floats over the canvas may have another size.
     void placeOverlays();

@@ -75,8 +75,8 @@ void ScreenshotEditorWindowController::makeWindow(const ScreenRect &display) {
     m_documents = std::make_unique<EditorDocuments>(m_services.documents, m_hooks.documents);
     m_words = std::make_unique<EditorWordRecognition>(m_services.recognizer, m_services.wordQueue,
                                                       m_services.documents.scheduler);
-    m_window = std::make_unique<ScreenshotEditorWindow>(m_services.defaults, m_services.pasteboard,
-                                                        m_services.thumbnails);
+    m_window = std::make_unique<ScreenshotEditorWindow>(
+        m_services.defaults, m_services.pasteboard, m_services.thumbnails, m_services.documents.scheduler);
     m_hooks.addMenus(*m_window);
     connectWindow();
     connectCanvas();

@@ -41,7 +41,7 @@ TEST(Stripes, areCutWhereThereIsTheLeastInk) {
     rows[530] = 2;
     EXPECT_THAT(stripes(rows, 2, 48), ElementsAre(Stripe{0, 578, 0, 530}, Stripe{482, 1'000, 530, 1'000}));
     rows[470] = 0;
-    EXPECT_THAT(stripes(rows, 2, 48), ElementsAre(Stripe{0, 470, 0, 470}, Stripe{470, 1'000, 470, 1'000}));
+    EXPECT_THAT(stripes(rows, 2, 48), ElementsAre(Stripe{0, 518, 0, 470}, Stripe{422, 1'000, 470, 1'000}));
     EXPECT_THAT(stripes(rows, 1, 48), ElementsAre(Stripe{0, 1'000, 0, 1'000}));
     for (const Stripe &stripe : stripes(std::vector<int>(7), 4, 48))
         EXPECT_TRUE(stripe.top >= 0 && stripe.top <= stripe.bottom && stripe.bottom <= 7);

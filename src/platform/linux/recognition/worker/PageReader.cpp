@@ -5,6 +5,7 @@
 #include "platform/linux/recognition/worker/Stripes.h"
 #include "platform/linux/recognition/worker/TextEngine.h"
 
+#include <atomic>
 #include <thread>
 
 namespace tembra::recognition {
@@ -18,6 +19,8 @@ constexpr int readableHeight = 14;
 // More than the height of a line.
 constexpr int overlap = 48;
 constexpr int smallestStripe = 240;
+// The engine's time grows with the square of the words that it has before it.
+constexpr int largestStripe = 560;
 constexpr int mostEngines = 4;
 // Grey levels below this are ink.
 constexpr int faintestInk = 240;
@@ -35,17 +38,21 @@ Page pageOf(Pix *grey) {
     return page;
 }
 
+int engineCount() {
+    return std::clamp(static_cast<int>(std::thread::hardware_concurrency()), 1, mostEngines);
+}
+
 std::vector<Stripe> stripesOf(Pix *ink) {
     const int height = pixGetHeight(ink);
-    const int processors = std::min(mostEngines, static_cast<int>(std::thread::hardware_concurrency()));
-    const int count = std::clamp(height / smallestStripe, 1, std::max(1, processors));
+    const int count = std::max((height + largestStripe - 1) / largestStripe,
+                               std::min(height / smallestStripe, engineCount()));
     std::vector<int> rowInk(static_cast<size_t>(height));
     const PixOwner marks(pixThresholdToBinary(ink, faintestInk));
     Numa *counts = marks ? pixCountPixelsByRow(marks.get(), nullptr) : nullptr;
     for (int y = 0; counts && y < height; ++y)
         numaGetIValue(counts, y, &rowInk[static_cast<size_t>(y)]);
     numaDestroy(&counts);
-    return stripes(rowInk, count, overlap);
+    return stripes(rowInk, std::max(1, count), overlap);
 }
 
 // The stripe's part of the page, in the size in which it is read.
@@ -57,10 +64,7 @@ PixOwner partOf(const Page &page, const Stripe &stripe) {
     return PixOwner(part ? pixScale(part.get(), scale, scale) : nullptr);
 }
 
-StripeLines readStripe(const Page &page, const Stripe &stripe, const std::string &languages) {
-    TextEngine engine(languages);
-    if (!engine.isUsable())
-        return tl::unexpected(noLanguage);
+StripeLines readStripe(const Page &page, const Stripe &stripe, TextEngine &engine) {
     const PixOwner part = partOf(page, stripe);
     auto lines = part ? engine.read(part.get()) : std::nullopt;
     if (!lines)
@@ -81,12 +85,18 @@ tl::expected<std::vector<ReadLine>, ExitCode> readPage(Pix *grey, const std::str
     if (!page.ink)
         return tl::unexpected(unusable);
     const std::vector<Stripe> parts = stripesOf(page.ink.get());
-    std::vector<StripeLines> read(parts.size());
+    std::vector<StripeLines> read(parts.size(), tl::unexpected(noLanguage));
+    std::atomic<size_t> next = 0;
+    const auto work = [&] {
+        TextEngine engine(languages);
+        for (size_t i = next++; engine.isUsable() && i < parts.size(); i = next++)
+            read[i] = readStripe(page, parts[i], engine);
+    };
     {
         std::vector<std::jthread> others;
-        for (size_t i = 1; i < parts.size(); ++i)
-            others.emplace_back([&, i] { read[i] = readStripe(page, parts[i], languages); });
-        read[0] = readStripe(page, parts[0], languages);
+        for (size_t i = 1; i < std::min(parts.size(), static_cast<size_t>(engineCount())); ++i)
+            others.emplace_back(work);
+        work();
     }
     std::vector<std::vector<ReadLine>> lines;
     for (StripeLines &part : read) {

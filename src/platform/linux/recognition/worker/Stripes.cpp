@@ -20,6 +20,12 @@ bool counts(const ReadLine &line, const Stripe &stripe) {
     return middle >= stripe.firstLine - doubt && middle < stripe.lastLine + doubt;
 }
 
+bool isAmong(const std::vector<ReadLine> &lines, const ReadWord &word) {
+    return std::ranges::any_of(lines, [&](const ReadLine &line) {
+        return std::ranges::any_of(line, [&](const ReadWord &other) { return areTheSame(word, other); });
+    });
+}
+
 } // namespace
 
 std::vector<Stripe> stripes(std::span<const int> rowInk, int count, int overlap) {
@@ -34,33 +40,24 @@ std::vector<Stripe> stripes(std::span<const int> rowInk, int count, int overlap)
     }
     cuts.push_back(height);
     std::vector<Stripe> result;
-    const auto reachAt = [&](int cut) {
-        return cut > 0 && cut < height && rowInk[static_cast<size_t>(cut)] > 0 ? overlap : 0;
-    };
     for (size_t i = 0; i + 1 < cuts.size(); ++i)
-        result.push_back({std::max(0, cuts[i] - reachAt(cuts[i])),
-                          std::min(height, cuts[i + 1] + reachAt(cuts[i + 1])), cuts[i], cuts[i + 1]});
+        result.push_back(
+            {std::max(0, cuts[i] - overlap), std::min(height, cuts[i + 1] + overlap), cuts[i], cuts[i + 1]});
     return result;
 }
 
 std::vector<ReadLine> joined(std::span<const Stripe> stripes, std::vector<std::vector<ReadLine>> lines) {
     std::vector<ReadLine> result;
     for (size_t i = 0; i < lines.size(); ++i) {
-        const size_t before = result.size();
+        std::vector<ReadLine> more;
         for (ReadLine &line : lines[i]) {
             if (!counts(line, stripes[i]))
                 continue;
-            std::erase_if(line, [&](const ReadWord &word) {
-                return std::any_of(result.begin(), result.begin() + static_cast<std::ptrdiff_t>(before),
-                                   [&](const ReadLine &known) {
-                                       return std::ranges::any_of(known, [&](const ReadWord &other) {
-                                           return areTheSame(word, other);
-                                       });
-                                   });
-            });
+            std::erase_if(line, [&](const ReadWord &word) { return isAmong(result, word); });
             if (!line.empty())
-                result.push_back(std::move(line));
+                more.push_back(std::move(line));
         }
+        std::ranges::move(more, std::back_inserter(result));
     }
     return result;
 }

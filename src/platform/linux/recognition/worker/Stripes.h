@@ -18,8 +18,8 @@ struct Stripe {
     bool operator==(const Stripe &) const = default;
 };
 
-// Cuts where there is the least ink near the even places, with an overlap unless there is none at all;
-// `rowInk` is how many pixels of each row have ink.
+// Cuts where there is the least ink near the even places; `rowInk` is how many pixels of each row have ink.
+// The overlap is there even where a row has none: an engine passes over text at its picture's edge.
 [[nodiscard]] std::vector<Stripe> stripes(std::span<const int> rowInk, int count, int overlap);
 
 // The lines that count of each stripe; what two stripes have read is there once.
