@@ -98,6 +98,7 @@ TEST_F(CanvasTextTest, isTypedAgainByADoubleClickAndGoesWhenItIsEmpty) {
     open.type(QStringLiteral("  "));
     open.key(Qt::Key_Escape);
     EXPECT_EQ(open.annotations(), std::vector{words});
+    EXPECT_TRUE(open.document.selectedIDs().isEmpty());
 }
 
 TEST_F(CanvasTextTest, hasAnUndoOfItsOwn) {
