@@ -62,13 +62,19 @@ QJsonObject autoCleanObject(const ShelfStatus &status) {
 }
 
 QJsonObject editorObject(const EditorStatus &editor) {
+    const QRect &frame = editor.frame;
     return {{QStringLiteral("open"), editor.isOpen},
             {QStringLiteral("path"), editor.path.isEmpty() ? QJsonValue() : QJsonValue(editor.path)},
             {QStringLiteral("dirty"), editor.isDirty},
+            {QStringLiteral("unsaved"), QJsonArray::fromStringList(editor.unsaved)},
+            {QStringLiteral("undo"), editor.undoName},
+            {QStringLiteral("redo"), editor.redoName},
             {QStringLiteral("annotations"), editor.annotationCount},
             {QStringLiteral("selected"), editor.selectedCount},
             {QStringLiteral("tool"), editor.tool},
             {QStringLiteral("zoom"), editor.zoom},
+            {QStringLiteral("frame"), QJsonArray{frame.x(), frame.y(), frame.width(), frame.height()}},
+            {QStringLiteral("typing"), editor.isTyping},
             {QStringLiteral("image"), QJsonArray{editor.imageX, editor.imageY}},
             {QStringLiteral("message"), editor.message},
             {QStringLiteral("words"), editor.words},

@@ -14,6 +14,7 @@ namespace {
 const QString connectionName = QStringLiteral("accessibility");
 const QString accessible = QStringLiteral("org.a11y.atspi.Accessible");
 // Bits of the state set.
+constexpr int focusableBit = 11;
 constexpr int selectedBit = 23;
 constexpr int showingBit = 25;
 
@@ -71,6 +72,7 @@ void AccessibleTree::collect(const Node &node, std::vector<Node> &found) const {
         const auto has = [&words](int bit) { return !words.isEmpty() && (words[0] >> bit & 1U) != 0; };
         child.isSelected = has(selectedBit);
         child.isShowing = has(showingBit);
+        child.isFocusable = has(focusableBit);
         child.name = property(child, QStringLiteral("Name"));
         child.description = property(child, QStringLiteral("Description"));
         child.role =
@@ -99,6 +101,13 @@ std::optional<AccessibleTree::Node> AccessibleTree::find(const QString &program,
             return node;
     }
     return std::nullopt;
+}
+
+QRect AccessibleTree::extents(const Node &node) const {
+    constexpr uint screenCoordinates = 0;
+    const QDBusMessage answer = call(m_bus, node, QStringLiteral("org.a11y.atspi.Component"),
+                                     QStringLiteral("GetExtents"), {screenCoordinates});
+    return answer.arguments().isEmpty() ? QRect() : qdbus_cast<QRect>(answer.arguments().first());
 }
 
 bool AccessibleTree::act(const Node &node) const {

@@ -2,6 +2,7 @@
 
 #include <QDBusConnection>
 #include <QDBusObjectPath>
+#include <QRect>
 #include <QString>
 
 #include <optional>
@@ -21,6 +22,7 @@ public:
         QString role;
         bool isSelected = false;
         bool isShowing = false;
+        bool isFocusable = false;
     };
 
     AccessibleTree();
@@ -32,6 +34,8 @@ public:
     [[nodiscard]] std::vector<Node> shown(const QString &program) const;
     [[nodiscard]] std::optional<Node> find(const QString &program, const QString &name,
                                            const QString &role) const;
+    // In screen points.
+    [[nodiscard]] QRect extents(const Node &node) const;
     // Does the first thing that can be done to it, such as pressing a button.
     bool act(const Node &node) const;
 

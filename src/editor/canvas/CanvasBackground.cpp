@@ -2,7 +2,9 @@
 
 #include "editor/model/GrownRect.h"
 
+#include <array>
 #include <cmath>
+#include <utility>
 
 namespace tembra {
 
@@ -20,23 +22,41 @@ void drawDots(QPainter &painter, QSizeF view, const QColor &field, const QColor 
     painter.fillRect(QRectF(QPointF(), view), QBrush(tile));
 }
 
-// Rings that grow fainter outwards, their corners left open: strips are quick to fill.
+// What the shadow is at a distance from the image's edge, from 0 to 1.
+void fadeOut(QGradient &gradient) {
+    constexpr double strength = 0.18;
+    constexpr int stops = 4;
+    for (int stop = 0; stop <= stops; ++stop) {
+        const double rest = 1 - static_cast<double>(stop) / stops;
+        gradient.setColorAt(1 - rest, QColor::fromRgbF(0, 0, 0, static_cast<float>(strength * rest * rest)));
+    }
+}
+
+// Fades along the edges, and around the corners.
 void drawShadow(QPainter &painter, const QRectF &image) {
-    constexpr int reach = 16;
-    constexpr double strength = 0.16;
+    constexpr double reach = 18;
     const QRectF place = image.translated(0, 3);
-    painter.fillRect(place, QColor::fromRgbF(0, 0, 0, static_cast<float>(strength)));
-    for (int distance = 1; distance <= reach; ++distance) {
-        const double rest = 1 - static_cast<double>(distance) / (reach + 1);
-        const QColor shade = QColor::fromRgbF(0, 0, 0, static_cast<float>(strength * rest * rest));
-        const QRectF ring = grown(place, distance);
-        const double corner = distance * 0.6;
-        const double width = ring.width() - 2 * corner;
-        const double height = ring.height() - 2 * corner;
-        painter.fillRect(QRectF(ring.left() + corner, ring.top(), width, 1), shade);
-        painter.fillRect(QRectF(ring.left() + corner, ring.bottom() - 1, width, 1), shade);
-        painter.fillRect(QRectF(ring.left(), ring.top() + corner, 1, height), shade);
-        painter.fillRect(QRectF(ring.right() - 1, ring.top() + corner, 1, height), shade);
+    const auto fill = [&](const QRectF &area, QPointF from, QPointF to) {
+        QLinearGradient gradient(from, to);
+        fadeOut(gradient);
+        painter.fillRect(area, gradient);
+    };
+    const QPointF across(reach, 0);
+    const QPointF down(0, reach);
+    fill({place.topLeft() - across, place.bottomLeft()}, place.topLeft(), place.topLeft() - across);
+    fill({place.topRight(), place.bottomRight() + across}, place.topRight(), place.topRight() + across);
+    fill({place.topLeft() - down, place.topRight()}, place.topLeft(), place.topLeft() - down);
+    // From the image on, below which the shadow shows.
+    const QRectF bottom(image.bottomLeft(), place.bottomRight());
+    painter.fillRect(bottom, QColor::fromRgbF(0, 0, 0, 0.18F));
+    fill({place.bottomLeft(), place.bottomRight() + down}, place.bottomLeft(), place.bottomLeft() + down);
+    const std::array corners{
+        std::pair(place.topLeft(), QPointF(-1, -1)), std::pair(place.topRight(), QPointF(1, -1)),
+        std::pair(place.bottomLeft(), QPointF(-1, 1)), std::pair(place.bottomRight(), QPointF(1, 1))};
+    for (const auto &[corner, way] : corners) {
+        QRadialGradient gradient(corner, reach);
+        fadeOut(gradient);
+        painter.fillRect(QRectF(corner, corner + way * reach).normalized(), gradient);
     }
 }
 

@@ -31,16 +31,22 @@ void drawHandle(QPainter &painter, QPointF center) {
 } // namespace
 
 QRectF CanvasDecorations::frameOf(const ScreenshotAnnotation &annotation) {
+    // Beside the stroke of a rectangle, whose colour is to be seen.
+    if (annotation.kind == ScreenshotAnnotation::Kind::rectangle)
+        return annotation.bounds();
     return annotation.hasRectHandles() ? annotation.shapeRect() : annotation.path().boundingRect();
 }
 
-// Arrows and lines have the handles at their ends to show that they are selected.
+// Arrows and lines have the handles at their ends to show that they are selected, rectangles those along
+// their sides: a frame would hide what colour they have.
 void CanvasDecorations::drawSelected(QPainter &painter, const CanvasViewport &viewport,
                                      const ScreenshotAnnotation &annotation) {
     if (!annotation.isDrawable())
         return;
     painter.setRenderHint(QPainter::Antialiasing);
-    if (annotation.editingPoints().empty()) {
+    const bool showsItself =
+        !annotation.editingPoints().empty() || annotation.kind == ScreenshotAnnotation::Kind::rectangle;
+    if (!showsItself) {
         const double gap = annotation.hasRectHandles() ? 0 : 3;
         drawFrame(painter, grown(viewport.toView(frameOf(annotation)), gap));
     }

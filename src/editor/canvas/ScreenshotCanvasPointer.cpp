@@ -1,5 +1,6 @@
 // What the pointer does on the canvas.
 
+#include "controls/ShelfMenu.h"
 #include "editor/canvas/AnnotationEditing.h"
 #include "editor/canvas/BandGesture.h"
 #include "editor/canvas/CanvasTextEditor.h"
@@ -16,13 +17,13 @@
 #include "editor/canvas/WordsGesture.h"
 
 #include <QGestureEvent>
-#include <QMenu>
 #include <QMouseEvent>
 #include <QNativeGestureEvent>
 #include <QWheelEvent>
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace tembra {
 
@@ -203,8 +204,11 @@ std::vector<QRectF> ScreenshotCanvasView::alignmentTargets(const QSet<QUuid> &mo
 void ScreenshotCanvasView::mouseMoveEvent(QMouseEvent *event) {
     m_pointer = event->position();
     if (m_panFrom) {
-        m_viewport.pan(event->position() - *m_panFrom);
-        m_panFrom = event->position();
+        const QPointF way = event->position() - std::exchange(*m_panFrom, event->position());
+        // What is seen whole has nowhere to go.
+        if (m_viewport.isFit())
+            return;
+        m_viewport.pan(way);
         return viewportChanged();
     }
     if (!m_gesture)
@@ -346,11 +350,11 @@ void ScreenshotCanvasView::contextMenuEvent(QContextMenuEvent *event) {
     finishTyping();
     if (const auto target = targetAt(event->pos()); target && !m_document->selectedIDs().contains(target->id))
         m_document->setSelectedIDs({target->id});
-    auto *menu = new QMenu(this);
+    auto *menu = new ShelfMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     const bool hasSelection = !m_document->selectedIDs().isEmpty();
     const auto add = [&](const QString &title, bool isEnabled, auto action) {
-        menu->addAction(title, this, action)->setEnabled(isEnabled);
+        menu->add(title, isEnabled ? std::function<void()>(action) : nullptr);
     };
     using Order = AnnotationCommands::Order;
     add(tr("Cut"), hasSelection, [this] { cut(); });

@@ -97,6 +97,10 @@ std::vector<ScreenshotAnnotation> ScreenshotCanvasView::styledAnnotations() cons
     return selected;
 }
 
+EditorColor ScreenshotCanvasView::color() const {
+    return m_styles.style(Kind::arrow, {}).color;
+}
+
 void ScreenshotCanvasView::restyle(const EditorStyleChange &change) {
     if (!m_document)
         return;

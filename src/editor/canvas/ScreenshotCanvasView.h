@@ -52,6 +52,8 @@ public:
     // What the controls of the style are about: the selected annotations, or what the tool would draw.
     [[nodiscard]] std::vector<ScreenshotAnnotation> styledAnnotations() const;
     void restyle(const EditorStyleChange &change);
+    // Of what is drawn next.
+    [[nodiscard]] EditorColor color() const;
     // Of what the tool draws.
     void stepSize(EditorTool tool, int steps);
 

@@ -64,6 +64,8 @@ void EditorBanner::takeActions(const std::vector<EditorBannerMessage::Action> &a
     }
     for (const auto &[title, perform] : actions) {
         auto *button = new TembraButton(TembraButton::Kind::plain, TembraButton::Size::compact, title, this);
+        // A click leaves the keyboard to what is being drawn.
+        button->setFocusPolicy(Qt::TabFocus);
         connect(button, &QAbstractButton::clicked, this, [this, perform = perform] {
             dismiss();
             if (perform)
@@ -78,6 +80,10 @@ void EditorBanner::takeActions(const std::vector<EditorBannerMessage::Action> &a
 void EditorBanner::dismiss() {
     if (isHidden())
         return;
+    // What is hidden would hand the keyboard to the next control, where it is not expected.
+    QWidget *focused = window()->focusWidget();
+    if (focused && isAncestorOf(focused))
+        focused->clearFocus();
     hide();
     Q_EMIT dismissed();
 }

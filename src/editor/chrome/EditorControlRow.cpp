@@ -13,7 +13,7 @@ namespace tembra {
 
 namespace {
 
-constexpr int separatorGap = 10;
+constexpr int separatorGap = (EditorControlRow::separatorWidth - 1) / 2;
 constexpr int separatorHeight = 26;
 constexpr QMargins ring{ringMargin, ringMargin, ringMargin, ringMargin};
 

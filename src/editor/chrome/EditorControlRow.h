@@ -12,6 +12,9 @@ class EditorControlRow : public QWidget {
     Q_OBJECT
 
 public:
+    // With what is kept free on both sides of it.
+    static constexpr int separatorWidth = 21;
+
     explicit EditorControlRow(QWidget *parent = nullptr);
 
     // `gap` is the distance to what comes before. The row owns the control.

@@ -20,7 +20,7 @@ namespace {
 constexpr int radius = 16;
 constexpr int shadowReach = 30;
 constexpr int padding = 8;
-constexpr int separatorGap = 10;
+constexpr int separatorGap = (EditorControlRow::separatorWidth - 1) / 2;
 constexpr int separatorHeight = 26;
 constexpr int rowGap = 8;
 constexpr int styleHeight = 28;
@@ -93,6 +93,11 @@ int EditorDock::narrowestWidth() const {
     return 2 * padding + (second ? std::max(below, second->bodySize().width() + 2 * styleMargin) : below);
 }
 
+int EditorDock::usualWidth() const {
+    return m_tools->bodySize().width() + 2 * padding + EditorControlRow::separatorWidth +
+           m_style->usualWidth();
+}
+
 bool EditorDock::isStacked() const {
     return secondRow() && widestWidth() > m_availableWidth;
 }
@@ -101,7 +106,7 @@ QSize EditorDock::barSize() const {
     const int height = m_tools->bodySize().height() + 2 * padding;
     if (isStacked())
         return {narrowestWidth(), height + styleHeight + rowGap};
-    return {widestWidth(), height};
+    return {std::max(widestWidth(), std::min(usualWidth(), m_availableWidth)), height};
 }
 
 QSize EditorDock::sizeHint() const {

@@ -30,6 +30,10 @@ public:
     // With the style in a row of its own.
     [[nodiscard]] int narrowestWidth() const;
     [[nodiscard]] QSize sizeHint() const override;
+    // With what most tools have. A bar that is not in two rows is never narrower, where there is room, so
+    // that the tools stay in their places.
+    [[nodiscard]] int usualWidth() const;
+    [[nodiscard]] bool isStacked() const;
     // The bar without the notice.
     [[nodiscard]] QRect barRect() const;
 
@@ -56,7 +60,6 @@ private:
     // What is shown beside or above the tools; none where there is nothing.
     [[nodiscard]] EditorControlRow *secondRow() const;
     [[nodiscard]] int widestWidth() const;
-    [[nodiscard]] bool isStacked() const;
     [[nodiscard]] QSize barSize() const;
     void layOut();
 

@@ -5,6 +5,8 @@
 
 #include <QStyle>
 
+#include <algorithm>
+
 namespace tembra {
 
 namespace {
@@ -18,17 +20,22 @@ constexpr int narrowMargin = 8;
 
 void placeEditorOverlays(EditorDock &dock, EditorZoomControl &zoom, const QRect &area) {
     const QSize zoomSize = zoom.sizeHint();
-    const int beside = area.width() - 2 * (margin + zoomSize.width() + gap);
+    const int beside = area.width() - 2 * margin - zoomSize.width() - gap;
     const bool hasRoomBeside = dock.narrowestWidth() <= beside;
-    dock.setAvailableWidth(hasRoomBeside ? beside : area.width() - 2 * narrowMargin);
+    const int room = hasRoomBeside ? beside : area.width() - 2 * narrowMargin;
+    dock.setAvailableWidth(room);
     const QSize size = dock.sizeHint();
-    dock.setGeometry(
-        QRect({area.center().x() + 1 - size.width() / 2, area.bottom() + 1 - margin - size.height()}, size));
+    // In the middle as most tools have it, and the same for the others as far as there is room.
+    const int first = area.left() + (hasRoomBeside ? margin : narrowMargin);
+    const int middle = area.center().x() + 1 - (dock.isStacked() ? size.width() : dock.usualWidth()) / 2;
+    const int left = std::max(first, std::min(middle, first + room - size.width()));
+    QRect bar(QPoint(left, area.bottom() + 1 - margin - size.height()), size);
     QRect place(QPoint(area.right() + 1 - margin - zoomSize.width(),
                        area.bottom() + 1 - zoomBottom - zoomSize.height()),
                 zoomSize);
     if (!hasRoomBeside)
-        place.moveBottom(dock.geometry().top() - gap);
+        place.moveBottom(bar.top() - gap);
+    dock.setGeometry(QStyle::visualRect(dock.layoutDirection(), area, bar));
     zoom.setGeometry(QStyle::visualRect(zoom.layoutDirection(), area, place));
 }
 

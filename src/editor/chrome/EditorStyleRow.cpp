@@ -1,5 +1,6 @@
 #include "editor/chrome/EditorStyleRow.h"
 
+#include "controls/ControlPainting.h"
 #include "controls/TembraSegment.h"
 #include "controls/TembraSegmentedControl.h"
 #include "controls/TembraToolTip.h"
@@ -100,6 +101,12 @@ void EditorStyleRow::buildNumber() {
     add(m_number, gap);
     addSeparator();
     add(m_straighten, gap);
+}
+
+int EditorStyleRow::usualWidth() const {
+    // The size's own width changes with its digits.
+    constexpr int sizeWidth = 58;
+    return m_swatches->sizeHint().width() - 2 * ringMargin + separatorWidth + sizeWidth;
 }
 
 void EditorStyleRow::apply(const EditorDockState &state) {

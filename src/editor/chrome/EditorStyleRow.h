@@ -23,6 +23,8 @@ public:
     explicit EditorStyleRow(QWidget *parent = nullptr);
 
     void apply(const EditorDockState &state);
+    // Of what most tools have: the colours and a size.
+    [[nodiscard]] int usualWidth() const;
 
 Q_SIGNALS:
     void changed(const tembra::EditorStyleChange &change);

@@ -1,6 +1,7 @@
 #include "editor/model/ScreenshotEditDocument.h"
 
 #include "base/MainThread.h"
+#include "editor/model/EditsChange.h"
 
 #include <QCoreApplication>
 #include <QUndoCommand>
@@ -13,31 +14,30 @@ namespace tembra {
 // Replaces annotations and crop together, forth and back.
 class ScreenshotEditDocument::Change final : public QUndoCommand {
 public:
-    using State = std::shared_ptr<const ScreenshotEdits>;
-
-    Change(ScreenshotEditDocument &document, State before, State after, const QString &name, QString series)
+    Change(ScreenshotEditDocument &document, const ScreenshotEdits &after, const QString &name,
+           QString series)
         : QUndoCommand(name),
           m_document(document),
-          m_before(std::move(before)),
-          m_after(std::move(after)),
+          m_change(EditsChange::between(document.m_edits, after)),
           m_series(std::move(series)) {}
 
-    void undo() override { m_document.set(m_before); }
-    void redo() override { m_document.set(m_after); }
+    void undo() override { m_document.set(m_change.undone(m_document.m_edits)); }
+    void redo() override { m_document.set(m_change.done(m_document.m_edits)); }
 
     int id() const override { return m_series.isEmpty() ? -1 : 1; }
     bool mergeWith(const QUndoCommand *next) override {
-        const auto &change = static_cast<const Change &>(*next);
-        if (change.m_series != m_series)
+        const auto &later = static_cast<const Change &>(*next);
+        if (later.m_series != m_series)
             return false;
-        m_after = change.m_after;
+        // The later one is done already.
+        const ScreenshotEdits between = later.m_change.undone(m_document.m_edits);
+        m_change = EditsChange::between(m_change.undone(between), m_document.m_edits);
         return true;
     }
 
 private:
     ScreenshotEditDocument &m_document;
-    const State m_before;
-    State m_after;
+    EditsChange m_change;
     const QString m_series;
 };
 
@@ -63,8 +63,7 @@ ScreenshotEditDocument::ScreenshotEditDocument(const ScreenshotEditLoaded &loade
       m_openingCropRect(loaded.record.cropRect),
       m_savedFingerprint(loaded.expectedHash),
       m_originalSize(loaded.size),
-      m_edits(std::make_shared<const ScreenshotEdits>(
-          ScreenshotEdits{loaded.record.annotations, loaded.record.cropRect})) {}
+      m_edits{loaded.record.annotations, loaded.record.cropRect} {}
 
 void ScreenshotEditDocument::setSelectedIDs(const QSet<QUuid> &ids) {
     requireMainThread();
@@ -156,13 +155,10 @@ void ScreenshotEditDocument::apply(std::vector<ScreenshotAnnotation> annotations
     requireMainThread();
     m_editingBegan = true;
     // Pushing does the change.
-    m_history.push(new Change(
-        *this, m_edits,
-        std::make_shared<const ScreenshotEdits>(ScreenshotEdits{std::move(annotations), crop}), name,
-        series));
+    m_history.push(new Change(*this, {std::move(annotations), crop}, name, series));
 }
 
-void ScreenshotEditDocument::set(std::shared_ptr<const ScreenshotEdits> edits) {
+void ScreenshotEditDocument::set(ScreenshotEdits edits) {
     m_edits = std::move(edits);
     m_selectedIDs.intersect(idsOf(annotations()));
     if (onChange)

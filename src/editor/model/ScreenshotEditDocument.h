@@ -9,7 +9,6 @@
 #include <QUndoStack>
 
 #include <functional>
-#include <memory>
 #include <optional>
 #include <vector>
 
@@ -27,10 +26,8 @@ public:
     // After every change of annotations, crop or selection.
     std::function<void()> onChange;
 
-    [[nodiscard]] const std::vector<ScreenshotAnnotation> &annotations() const {
-        return m_edits->annotations;
-    }
-    [[nodiscard]] const std::optional<QRectF> &cropRect() const { return m_edits->cropRect; }
+    [[nodiscard]] const std::vector<ScreenshotAnnotation> &annotations() const { return m_edits.annotations; }
+    [[nodiscard]] const std::optional<QRectF> &cropRect() const { return m_edits.cropRect; }
     [[nodiscard]] const std::vector<ScreenshotAnnotation> &openingAnnotations() const {
         return m_openingAnnotations;
     }
@@ -72,7 +69,7 @@ public:
 private:
     class Change;
 
-    void set(std::shared_ptr<const ScreenshotEdits> edits);
+    void set(ScreenshotEdits edits);
     [[nodiscard]] std::vector<std::int64_t>
     numbersFor(const std::vector<ScreenshotAnnotation> &originals) const;
 
@@ -81,8 +78,7 @@ private:
     const std::optional<QRectF> m_openingCropRect;
     QString m_savedFingerprint;
     const QSizeF m_originalSize;
-    // Shared with the undo stack.
-    std::shared_ptr<const ScreenshotEdits> m_edits;
+    ScreenshotEdits m_edits;
     bool m_editingBegan = false;
     QSet<QUuid> m_selectedIDs;
     QUndoStack m_history;

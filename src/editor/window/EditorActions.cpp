@@ -11,6 +11,8 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace tembra {
 
@@ -74,18 +76,23 @@ void ScreenshotEditorWindowController::dragImage() {
     });
 }
 
-// The one that comes after it, or before; without any the window has nothing to show.
+// The one that came after it, or before; without any the window has nothing to show.
 void ScreenshotEditorWindowController::removed(const Shot &shot) {
-    std::vector<Shot> others = m_hooks.shots();
-    const auto isThis = [&shot](const Shot &one) {
-        return one.identity == shot.identity || one.location == shot.location;
+    const std::vector<Shot> left = m_hooks.shots();
+    const std::vector<Shot> before = std::exchange(m_shotsBefore, {});
+    const auto stands = [&](const Shot &one) {
+        return one.identity != shot.identity && one.location != shot.location &&
+               std::ranges::find(left, one.location, &Shot::location) != left.end();
     };
-    const auto at = std::ranges::find_if(others, isThis);
-    const auto index = static_cast<std::size_t>(at == others.end() ? 0 : at - others.begin());
-    std::erase_if(others, isThis);
-    if (others.empty())
-        return close();
-    m_documents->open(others[std::min(index, others.size() - 1)], previewRequest());
+    const auto at = std::ranges::find(before, shot.location, &Shot::location);
+    auto next = std::find_if(at, before.end(), stands);
+    if (next == before.end()) {
+        const auto previous = std::find_if(std::make_reverse_iterator(at), before.rend(), stands);
+        if (previous == before.rend())
+            return close();
+        next = std::prev(previous.base());
+    }
+    m_documents->open(*next, previewRequest());
     refreshSidebar();
 }
 

@@ -40,6 +40,8 @@ EditorDockState editorDockState(const ScreenshotCanvasView &canvas) {
     const std::vector<ScreenshotAnnotation> styled = canvas.styledAnnotations();
     for (const ScreenshotAnnotation &annotation : styled)
         describe(state, annotation);
+    if (styled.empty())
+        state.color = canvas.color();
     if (styled.size() == 1 && styled.front().number)
         state.number = styled.front().number->value;
     if (canvas.tool() == EditorTool::blur)

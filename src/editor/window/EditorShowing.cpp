@@ -16,6 +16,7 @@
 #include <QColorDialog>
 
 #include <algorithm>
+#include <utility>
 
 namespace tembra {
 
@@ -74,6 +75,8 @@ void ScreenshotEditorWindowController::refresh() {
     ScreenshotCanvasView &canvas = m_window->canvas();
     EditorHeaderState header = editorHeaderState(m_documents->current());
     header.isSaving = m_isSaving;
+    // What is typed is saved too.
+    header.canSave = header.canSave || canvas.isTyping();
     m_window->header().apply(header);
     m_window->zoomControl().setZoom(canvas.viewport().scale(), canvas.viewport().isFit());
     m_window->placeOverlays();
@@ -81,6 +84,8 @@ void ScreenshotEditorWindowController::refresh() {
     if (const EditorDocument *document = m_documents->current())
         m_window->setWindowTitle(document->fileName() + QStringLiteral("[*]"));
     m_window->setWindowModified(header.isDirty);
+    if (std::exchange(m_isShownDirty, header.isDirty) != header.isDirty)
+        refreshSidebar();
     seekWords();
     refreshNotice();
 }
@@ -203,6 +208,8 @@ EditorStatus ScreenshotEditorWindowController::status() const {
     const ScreenshotCanvasView &canvas = m_window->canvas();
     const QPointF corner = canvas.viewport().toView(QPointF());
     const QPointF place = canvas.mapTo(m_window.get(), corner);
+    status.frame = m_window->geometry();
+    status.isTyping = canvas.isTyping();
     status.tool = nameOf(canvas.tool());
     status.zoom = canvas.viewport().scale();
     status.imageX = place.x();
@@ -211,7 +218,12 @@ EditorStatus ScreenshotEditorWindowController::status() const {
     status.words = nameOf(m_words->state());
     status.wordCount = static_cast<int>(m_words->regions().size());
     status.isBusy = m_documents->isOpening() || m_isSaving;
-    if (const EditorDocument *document = m_documents->current()) {
+    for (const EditorUnsavedDocument &unsaved : m_documents->unsavedDocuments())
+        status.unsaved += unsaved.shot.location;
+    if (EditorDocument *document = m_documents->current()) {
+        const EditorHeaderState header = editorHeaderState(document);
+        status.undoName = header.undoName;
+        status.redoName = header.redoName;
         status.path = document->loaded.path;
         status.isDirty = document->edits.isDirty();
         status.annotationCount = static_cast<int>(document->edits.annotations().size());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QRect>
 #include <QString>
 #include <QStringList>
 
@@ -11,6 +12,11 @@ struct EditorStatus {
     // Of the screenshot that is shown; empty while none is.
     QString path;
     bool isDirty = false;
+    // Of the screenshots with unsaved edits, this one's last.
+    QStringList unsaved;
+    // What Undo and Redo would undo and redo; empty for nothing.
+    QString undoName;
+    QString redoName;
     int annotationCount = 0;
     int selectedCount = 0;
     // By name: "select", "arrow", …
@@ -22,6 +28,10 @@ struct EditorStatus {
     double imageY = 0;
     // What the banner says; empty for nothing.
     QString message;
+    // Of the window's content, in screen points.
+    QRect frame;
+    // Text is typed on the canvas.
+    bool isTyping = false;
     // "idle", "loading", "ready" or "failed".
     QString words;
     int wordCount = 0;

@@ -2,6 +2,7 @@
 
 #include "base/MainThread.h"
 #include "editor/canvas/ScreenshotCanvasView.h"
+#include "editor/chrome/EditorBanner.h"
 #include "editor/chrome/EditorDock.h"
 #include "editor/chrome/EditorHeader.h"
 #include "editor/chrome/EditorSidebar.h"
@@ -113,11 +114,16 @@ void ScreenshotEditorWindowController::connectWindow() {
     connect(header, &EditorHeader::nameEditingEnded, this, [this] { m_window->canvas().setFocus(); });
     connect(header, &EditorHeader::trashRequested, this, [this] {
         m_window->canvas().finishTyping();
+        m_shotsBefore = m_hooks.shots();
         m_documents->moveToTrash();
     });
     connect(header, &EditorHeader::revealRequested, this, [this] {
         if (const auto shown = m_services.workspace.reveal({m_documents->current()->loaded.path}); !shown)
             say(shown.error().message);
+    });
+    connect(&m_window->banner(), &EditorBanner::dismissed, this, [this] {
+        if (!m_window->focusWidget())
+            m_window->canvas().setFocus();
     });
     connect(&m_window->sidebar(), &EditorSidebar::chosen, this,
             [this](const QString &path) { choose(path); });

@@ -94,8 +94,11 @@ private:
     EditorDocumentId m_wordsOf = EditorDocumentId::none;
     // The custom colour that was chosen last.
     std::optional<EditorColor> m_customColor;
+    // As they were when the user asked to move one to the Trash.
+    std::vector<Shot> m_shotsBefore;
     bool m_isSaving = false;
     bool m_isAsking = false;
+    bool m_isShownDirty = false;
     Generation m_imageGeneration;
 };
 

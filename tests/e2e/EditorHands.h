@@ -1,0 +1,63 @@
+#pragma once
+
+#include "AccessibleTree.h"
+#include "TembraProcess.h"
+
+#include <QJsonObject>
+#include <QPoint>
+#include <QPointF>
+#include <QStringList>
+
+#include <functional>
+#include <initializer_list>
+#include <optional>
+
+namespace tembra {
+
+// A hand on the pointer and the keys of the screenshot editor. Points are those of the image that is shown.
+class EditorHands {
+public:
+    explicit EditorHands(const TembraProcess &tembra) : m_tembra(tembra) {}
+
+    // What the program tells of the editor.
+    [[nodiscard]] QJsonObject status() const;
+    [[nodiscard]] bool waitFor(const std::function<bool(const QJsonObject &)> &wish) const;
+    // Opens a screenshot by the command line; whether every pixel of it came to be shown.
+    [[nodiscard]] bool open(const QString &path) const;
+    [[nodiscard]] bool isShown(const QString &path) const;
+    // Whether the window comes to be gone.
+    [[nodiscard]] bool isClosed() const;
+    [[nodiscard]] bool hasAnnotations(int count) const;
+    // Whether the banner comes to say this; nothing for no banner.
+    [[nodiscard]] bool says(const QString &sentence) const;
+    [[nodiscard]] bool isSaved() const;
+    // Saves by the keys; whether nothing is unsaved any more.
+    [[nodiscard]] bool save() const;
+
+    // Takes a tool by its letter; whether it is in use.
+    [[nodiscard]] bool take(const char *letter, const char *tool) const;
+    void press(const QStringList &keys) const;
+    void type(const QString &text) const;
+    void click(QPointF point, const QString &button = QStringLiteral("1")) const;
+    void doubleClick(QPointF point) const;
+    // Along these points with the button down.
+    void drag(std::initializer_list<QPointF> points) const;
+
+    // What is found by its accessible name, be it in the window or in a question about it.
+    [[nodiscard]] bool sees(const QString &name) const;
+    [[nodiscard]] bool clickControl(const QString &name) const;
+    [[nodiscard]] std::optional<QPoint> control(const QString &name) const;
+    [[nodiscard]] const AccessibleTree &tree() const { return m_tree; }
+
+    // Makes the window as low as it may be, at the top of the display.
+    void makeRoomBelow() const;
+
+private:
+    [[nodiscard]] QStringList moveTo(QPointF point, const QJsonObject &editor) const;
+    void xdotool(const QStringList &words) const;
+
+    const TembraProcess &m_tembra;
+    const AccessibleTree m_tree;
+};
+
+} // namespace tembra
