@@ -52,7 +52,7 @@ void CanvasTextItem::applyStyle() {
     setDefaultTextColor(m_annotation.color.toColor());
     setScale(size / pixelSize);
     QTextOption option = document()->defaultTextOption();
-    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    option.setWrapMode(AnnotationText::wrapMode(m_annotation.text->string));
     option.setUseDesignMetrics(true);
     option.setTabStopDistance(pixelSize * 2.0);
     document()->setDefaultTextOption(option);
@@ -70,7 +70,11 @@ void CanvasTextItem::typed() {
         string = toPlainText();
     }
     m_annotation.text->string = string;
-    layOut();
+    // Words that never end would be looked for at every line.
+    if (AnnotationText::wrapMode(string) == document()->defaultTextOption().wrapMode())
+        layOut();
+    else
+        applyStyle();
     Q_EMIT boxChanged();
 }
 
@@ -146,8 +150,13 @@ void CanvasTextItem::dropEvent(QGraphicsSceneDragDropEvent *event) {
 void CanvasTextItem::insertPlain(const QMimeData *data) {
     if (!data || !data->hasText())
         return;
+    const QString text = data->text().left(longestText);
+    // Before it is laid out.
+    QTextOption option = document()->defaultTextOption();
+    option.setWrapMode(AnnotationText::wrapMode(m_annotation.text->string + text));
+    document()->setDefaultTextOption(option);
     QTextCursor cursor = textCursor();
-    cursor.insertText(data->text(), QTextCharFormat());
+    cursor.insertText(text, QTextCharFormat());
     setTextCursor(cursor);
 }
 

@@ -170,10 +170,14 @@ void ScreenshotCanvasView::finishTyping() {
     if (!m_textEditor)
         return;
     const ScreenshotAnnotation typed = m_textEditor->annotation();
-    m_textEditor->hide();
-    // It may be what called.
-    m_textEditor->deleteLater();
+    CanvasTextEditor *editor = m_textEditor;
     m_textEditor.clear();
+    // What is hidden hands the focus on as the Tab key does, and that selects.
+    if (editor->hasFocus())
+        setFocus();
+    editor->hide();
+    // It may be what called.
+    editor->deleteLater();
     if (!typed.text->string.trimmed().isEmpty()) {
         commands().put({typed}, m_isNewText ? tr("Add text") : tr("Change text"));
         m_document->setSelectedIDs({typed.id});
@@ -219,6 +223,8 @@ void ScreenshotCanvasView::cancelCrop() {
 void ScreenshotCanvasView::endCrop(const std::optional<QRectF> &crop) {
     const EditorCropSession session = *std::exchange(m_cropSession, nullptr);
     setFocusProxy(nullptr);
+    // Before what has it is hidden, which would hand it on as the Tab key does.
+    setFocus();
     if (m_cropOverlay) {
         m_cropOverlay->hide();
         m_cropOverlay->deleteLater();
@@ -228,7 +234,6 @@ void ScreenshotCanvasView::endCrop(const std::optional<QRectF> &crop) {
         m_document->applyCrop(*crop);
     m_viewport.setContent(shownContent());
     m_viewport.fit();
-    setFocus();
     viewportChanged();
 }
 

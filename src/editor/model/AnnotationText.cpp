@@ -31,8 +31,7 @@ bool hasEndlessWord(const QString &paragraph) {
 
 QTextOption wrapping(const QString &paragraph, int pixelSize) {
     QTextOption option(Qt::AlignLeft | Qt::AlignAbsolute);
-    option.setWrapMode(hasEndlessWord(paragraph) ? QTextOption::WrapAnywhere
-                                                 : QTextOption::WrapAtWordBoundaryOrAnywhere);
+    option.setWrapMode(AnnotationText::wrapMode(paragraph));
     option.setUseDesignMetrics(true);
     option.setTabStopDistance(pixelSize * 2.0);
     return option;
@@ -62,6 +61,10 @@ QString normalised(QString string) {
 }
 
 } // namespace
+
+QTextOption::WrapMode AnnotationText::wrapMode(const QString &paragraph) {
+    return hasEndlessWord(paragraph) ? QTextOption::WrapAnywhere : QTextOption::WrapAtWordBoundaryOrAnywhere;
+}
 
 AnnotationText::AnnotationText(EditorText text)
     : m_text(std::move(text)),

@@ -7,6 +7,7 @@
 #include <QPointF>
 #include <QRectF>
 #include <QSizeF>
+#include <QTextOption>
 
 #include <vector>
 
@@ -29,6 +30,9 @@ public:
     [[nodiscard]] static double horizontalPadding(double fontSize) { return fontSize * 0.7; }
     [[nodiscard]] static double verticalPadding(double fontSize) { return fontSize * 0.36; }
     [[nodiscard]] static double cornerRadius(double fontSize) { return fontSize * 0.38; }
+
+    // Between words, or anywhere in a paragraph with a word that never ends.
+    [[nodiscard]] static QTextOption::WrapMode wrapMode(const QString &paragraph);
 
     // Lays out a valid text. Lines end at line breaks and where they would be wider than `maximumWidth`,
     // which the padding is no part of: between words, and within a word that is wider than that. Of a text

@@ -191,9 +191,11 @@ TEST_F(CanvasKeysTest, cropsByKeys) {
     EXPECT_FALSE(open.document.cropRect());
     EXPECT_EQ(canvas.tool(), EditorTool::ellipse);
     // From another part of the window.
+    canvas.setTool(EditorTool::select);
     canvas.setTool(EditorTool::crop);
     EXPECT_TRUE(canvas.handleKey(QKeyEvent(QEvent::KeyPress, Qt::Key_Escape, {})));
     EXPECT_FALSE(canvas.cropSession());
+    EXPECT_TRUE(open.document.selectedIDs().isEmpty());
 }
 
 TEST_F(CanvasKeysTest, changesOfStyleActAndAreRemembered) {

@@ -1,6 +1,7 @@
 #include "editor/canvas/CanvasLayers.h"
 
 #include "editor/DrawnAnnotations.h"
+#include "editor/canvas/AnnotationEditing.h"
 #include "editor/model/ScreenshotRenderer.h"
 #include "support/Pictures.h"
 
@@ -115,12 +116,6 @@ Annotations merged(Annotations annotations, const CanvasDraft &draft) {
     return annotations;
 }
 
-ScreenshotAnnotation shifted(ScreenshotAnnotation annotation, QPointF by) {
-    for (EditorPoint &point : annotation.points)
-        point = EditorPoint::from(point.toPointF() + by);
-    return annotation;
-}
-
 TEST_P(CanvasLayersTest, showsWhatWillBeSaved) {
     const auto saved = ScreenshotRenderer::render(original, everything(), {});
     ASSERT_TRUE(saved);
@@ -148,11 +143,12 @@ TEST_P(CanvasLayersTest, changesLookAsIfPaintedFromNothing) {
     const Annotations source = everything();
     std::vector<Annotations> past{{}};
     Annotations current;
-    for (int step = 0; step < 40; ++step) {
+    for (int step = 0; step < 24; ++step) {
         CanvasDraft draft;
         const std::size_t kind = current.empty() ? 0 : below(7);
         if (kind == 0) {
-            ScreenshotAnnotation added = shifted(source[below(source.size())], {double(below(40)), 0});
+            ScreenshotAnnotation added =
+                annotationEditing::moved(source[below(source.size())], {double(below(40)), 0});
             added.id = QUuid::createUuid();
             current.push_back(added);
         } else if (kind == 1) {
@@ -166,7 +162,7 @@ TEST_P(CanvasLayersTest, changesLookAsIfPaintedFromNothing) {
         } else {
             for (const ScreenshotAnnotation &one : current) {
                 if (below(3) == 0)
-                    draft.annotations.push_back(shifted(one, {double(below(9)), 5}));
+                    draft.annotations.push_back(annotationEditing::moved(one, {double(below(9)), 5}));
             }
             if (below(2) == 0)
                 draft.annotations.push_back(source[below(source.size())]);
@@ -208,7 +204,8 @@ TEST_P(CanvasLayersTest, paintsAPartOfItAsItPaintsTheWhole) {
     const Annotations all = everything();
     for (const QRectF exposed : {QRectF(90, 130, 101, 77), QRectF(3, 0, 50, 399), QRectF(201, 201, 3, 3)}) {
         CanvasLayers layers;
-        const CanvasDraft draft{.annotations = {shifted(all[4], {3, 7}), shifted(all[0], {30, 7})}};
+        const CanvasDraft draft{.annotations = {annotationEditing::moved(all[4], {3, 7}),
+                                                annotationEditing::moved(all[0], {30, 7})}};
         const QImage full = painted(layers, all, draft);
         QImage part = full;
         // What is there of the frame before is painted over, and nothing else is.
@@ -240,7 +237,7 @@ TEST_P(CanvasLayersTest, takesOtherPixelsAndOtherPlaces) {
 TEST_P(CanvasLayersTest, manyLookTheSameOnceTheyRest) {
     Annotations many;
     for (int at = 0; at < 30; ++at) {
-        many.push_back(shifted(everything()[2 + at % 7], {double(at % 5), double(at % 3)}));
+        many.push_back(annotationEditing::moved(everything()[2 + at % 7], {double(at % 5), double(at % 3)}));
         many.back().id = QUuid::createUuid();
     }
     CanvasLayers layers;
@@ -263,7 +260,7 @@ TEST_P(CanvasLayersTest, manyLookTheSameOnceTheyRest) {
     for (const QPointF by : {QPointF(3, 4), QPointF(-5, 2)}) {
         CanvasDraft draft{.movedBy = by, .movedBounds = {0, 0, 240, 180}};
         for (const ScreenshotAnnotation &one : first)
-            draft.annotations.push_back(shifted(one, by));
+            draft.annotations.push_back(annotationEditing::moved(one, by));
         // What hangs over the picture is not moved back in.
         EXPECT_LE(largestDifference(painted(layers, many, draft), afresh(merged(many, draft))), 16);
     }
