@@ -1,6 +1,7 @@
 #include "app/ScreenshotEditing.h"
 
 #include "app/MainMenu.h"
+#include "screenshots/CaptureMedia.h"
 #include "session/ShelfSession.h"
 #include "shelf/ShelfController.h"
 
@@ -31,7 +32,13 @@ ScreenshotEditing::hooks(const ScreenshotEditStore &store, MainMenu &menu, std::
                               [&session](const QString &path, const ScreenshotFileIdentity &identity) {
                                   return session.removeScreenshotFromEditor(path, identity);
                               }},
-            .shots = [this] { return m_shelf.shots(); },
+            .shots =
+                [this] {
+                    std::vector<Shot> shots = m_shelf.shots();
+                    std::erase_if(shots,
+                                  [](const Shot &shot) { return !CaptureMedia::isEditable(shot.location); });
+                    return shots;
+                },
             .isEdited =
                 [&store](const Shot &shot) {
                     const auto badge = store.badges().constFind(shot.identity);

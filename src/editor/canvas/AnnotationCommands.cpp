@@ -130,11 +130,10 @@ void AnnotationCommands::order(Order order) {
 }
 
 void AnnotationCommands::restyle(const EditorStyleChange &change) {
-    const bool isGradual = change.color || change.size || change.sizeSteps != 0;
-    const QString kind = change.color ? QStringLiteral("color") : QStringLiteral("size");
+    const bool isGradual = !change.color && (change.size || change.sizeSteps != 0);
     changeSelected([&](const auto &one) { return annotationEditing::restyled(one, change, m_limits); },
                    restyleName(m_document.selectedAnnotations(), change),
-                   isGradual ? series(kind) : QString());
+                   isGradual ? series(QStringLiteral("size")) : QString());
 }
 
 bool AnnotationCommands::insertCopies(const Annotations &originals, QPointF delta, const QString &name) {
@@ -166,6 +165,11 @@ Result<void> AnnotationCommands::copy(Pasteboard &pasteboard) const {
 
 Result<void> AnnotationCommands::cut(Pasteboard &pasteboard) {
     return copy(pasteboard).map([this] { m_document.deleteSelection(); });
+}
+
+bool AnnotationCommands::canPaste(Pasteboard &pasteboard) const {
+    const auto read = EditorObjectClipboard::read(pasteboard);
+    return !read || m_document.canNumberCopies(*read);
 }
 
 bool AnnotationCommands::paste(Pasteboard &pasteboard, QPointF middle) {

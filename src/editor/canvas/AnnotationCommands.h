@@ -31,6 +31,8 @@ public:
     void duplicate();
     [[nodiscard]] Result<void> copy(Pasteboard &pasteboard) const;
     [[nodiscard]] Result<void> cut(Pasteboard &pasteboard);
+    // Whether there are numbers left for what would be pasted.
+    [[nodiscard]] bool canPaste(Pasteboard &pasteboard) const;
     // Whether there was something to paste. What came from elsewhere in the image is put in the middle.
     bool paste(Pasteboard &pasteboard, QPointF middle);
     void selectAll();

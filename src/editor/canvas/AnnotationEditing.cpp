@@ -138,6 +138,9 @@ ScreenshotAnnotation restyled(const ScreenshotAnnotation &annotation, const Edit
         setSize(result, *change.size);
     if (change.sizeSteps != 0)
         setSize(result, steppedSize(styleOf(result).size, change.sizeSteps));
+    // A larger badge stays in the image.
+    if (result.number && (change.size || change.sizeSteps != 0))
+        result = result.replacingNumber(result.number->value, limits);
     if (change.isFilled && result.isShape())
         result.filled = *change.isFilled;
     if (change.hasBackground)

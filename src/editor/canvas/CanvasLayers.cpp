@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <utility>
 
 namespace tembra {
@@ -114,6 +115,8 @@ void CanvasLayers::paint(QPainter &painter, const QRectF &exposed, const CanvasS
     const Split parts = split(scene);
     updateFrame(scene, parts);
     updatePicture(scene, parts);
+    if (m_isApproximate && m_below.drawn != parts.below)
+        refine();
     if (!m_isApproximate)
         updateInk(m_below, scene, parts.below);
     updateInk(m_above, scene, parts.above);
@@ -220,7 +223,9 @@ void CanvasLayers::drawDraftBlurs(QPainter &painter, const CanvasScene &scene, c
 // Many that are only moved are drawn once, as long as all of them were seen then.
 void CanvasLayers::drawLive(QPainter &painter, const CanvasScene &scene, const Split &split) {
     const auto &movedBy = scene.draft.movedBy;
-    if (!movedBy || split.live.size() <= fewAnnotations) {
+    const auto moved = std::ranges::count_if(scene.draft.annotations, std::not_fn(isBlur));
+    const bool areAllMoved = static_cast<std::size_t>(moved) == split.live.size();
+    if (!movedBy || !areAllMoved || split.live.size() <= fewAnnotations) {
         m_moving = {};
         return drawIn(painter, scene.viewport, split.live);
     }

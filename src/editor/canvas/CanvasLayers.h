@@ -20,6 +20,8 @@ public:
     // After a zoom what is drawn on the image is shown as it was before, scaled, until this is called.
     [[nodiscard]] bool isApproximate() const { return m_isApproximate; }
     void refine();
+    // What was drafted is so now, or never was.
+    void endDraft() { m_moving = {}; }
     // The colours have changed.
     void forget();
 

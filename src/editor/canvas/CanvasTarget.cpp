@@ -16,6 +16,7 @@ namespace {
 constexpr double handleReach = 9;
 constexpr double bodyTolerance = 5;
 constexpr double roomForEdges = 36;
+constexpr double roomForCorners = 20;
 
 std::optional<CanvasTarget> handleAt(QPointF point, const ScreenshotAnnotation &annotation, double zoom) {
     std::optional<CanvasTarget> best;
@@ -39,6 +40,9 @@ std::vector<CanvasTarget::Handle> CanvasTarget::handlesOf(const ScreenshotAnnota
         return handles;
     if (annotation.hasRectHandles()) {
         const QRectF rect = annotation.shapeRect();
+        // Of a tiny one there must be something left to be moved by.
+        if (std::max(rect.width(), rect.height()) * zoom < roomForCorners)
+            return {{rect.bottomRight(), true, 4}};
         for (int index = 0; index < rectHandles::count; ++index) {
             const double side = index % 4 == 1 ? rect.width() : rect.height();
             if (index % 2 == 0 || side * zoom >= roomForEdges)

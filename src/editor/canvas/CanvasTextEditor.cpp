@@ -25,7 +25,7 @@ CanvasTextEditor::CanvasTextEditor(const ScreenshotAnnotation &annotation, const
     setViewport(viewport);
     m_scene.setFocusItem(m_item);
     QTextCursor cursor = m_item->textCursor();
-    cursor.select(QTextCursor::Document);
+    cursor.movePosition(QTextCursor::End);
     m_item->setTextCursor(cursor);
     connect(m_item, &CanvasTextItem::finished, this, &CanvasTextEditor::finished);
     connect(m_item, &CanvasTextItem::boxChanged, this, [this] { this->viewport()->update(); });

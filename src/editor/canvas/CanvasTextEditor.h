@@ -5,6 +5,7 @@
 
 #include <QGraphicsScene>
 #include <QGraphicsView>
+#include <QTextDocument>
 
 namespace tembra {
 
@@ -20,6 +21,9 @@ public:
     [[nodiscard]] const ScreenshotAnnotation &annotation() const { return m_item->annotation(); }
     void restyle(const ScreenshotAnnotation &annotation) { m_item->restyle(annotation); }
     void setViewport(const CanvasViewport &viewport);
+    // Of the typing.
+    void undo() { m_item->document()->undo(); }
+    void redo() { m_item->document()->redo(); }
     // Of the text's box. Image space.
     [[nodiscard]] QRectF box() const;
 

@@ -23,6 +23,14 @@ namespace {
 
 constexpr int longestText = 100'000;
 
+// As typed: QTextDocument::toPlainText() takes the spaces that do not break for others.
+QString plainText(const QTextDocument &document) {
+    QString text = document.toRawText();
+    for (const QChar end : {QChar(QChar::ParagraphSeparator), QChar(QChar::LineSeparator)})
+        text.replace(end, QChar(u'\n'));
+    return text;
+}
+
 } // namespace
 
 CanvasTextItem::CanvasTextItem(ScreenshotAnnotation annotation) : m_annotation(std::move(annotation)) {
@@ -60,14 +68,14 @@ void CanvasTextItem::applyStyle() {
 }
 
 void CanvasTextItem::typed() {
-    QString string = toPlainText();
+    QString string = plainText(*document());
     if (string.size() > longestText) {
         const QSignalBlocker blocker(document());
         QTextCursor surplus(document());
         surplus.setPosition(longestText);
         surplus.movePosition(QTextCursor::End, QTextCursor::KeepAnchor);
         surplus.removeSelectedText();
-        string = toPlainText();
+        string = plainText(*document());
     }
     m_annotation.text->string = string;
     // Words that never end would be looked for at every line.

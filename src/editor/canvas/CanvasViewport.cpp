@@ -7,13 +7,12 @@ namespace tembra {
 
 namespace {
 
-// How far the content's edge may be pulled into the view.
-constexpr double pullMargin = 48;
-
-double placed(double origin, double size, double room, double marginAfter) {
+// Within the margins a content that fits lies in the middle, and the edges of a larger one come no farther.
+double placed(double origin, double size, double view, double marginAfter) {
+    const double room = view - CanvasViewport::sideMargin - marginAfter;
     if (size <= room)
-        return (room - size) / 2;
-    return std::clamp(origin, room - size - marginAfter, pullMargin);
+        return CanvasViewport::sideMargin + (room - size) / 2;
+    return std::clamp(origin, view - marginAfter - size, CanvasViewport::sideMargin);
 }
 
 } // namespace
@@ -49,12 +48,7 @@ double CanvasViewport::smallestScale() const {
 void CanvasViewport::fit() {
     m_isFit = true;
     m_scale = fitScale();
-    const QSizeF size = m_content.size() * zoom();
-    const double left = (m_view.width() - size.width()) / 2;
-    const double room = m_view.height() - sideMargin - bottomMargin;
-    const double top = sideMargin + std::max((room - size.height()) / 2, 0.0);
-    m_exactOrigin = {left, top};
-    m_origin = onPixels(m_exactOrigin);
+    place(QPointF());
 }
 
 QPointF CanvasViewport::onPixels(QPointF point) const {
@@ -93,7 +87,7 @@ void CanvasViewport::reveal(const QRectF &rect) {
 
 void CanvasViewport::place(QPointF origin) {
     const QSizeF size = m_content.size() * zoom();
-    const double x = placed(origin.x(), size.width(), m_view.width(), pullMargin);
+    const double x = placed(origin.x(), size.width(), m_view.width(), sideMargin);
     const double y = placed(origin.y(), size.height(), m_view.height(), bottomMargin);
     m_exactOrigin = {x, y};
     m_origin = onPixels(m_exactOrigin);

@@ -36,7 +36,7 @@ public:
     void fit();
     // What is at `anchor`, in view space, stays there.
     void setScale(double scale, QPointF anchor);
-    // In view space. A content that is smaller than the view stays in its middle.
+    // In view space. A content that there is room for within the margins stays in the middle.
     void pan(QPointF delta);
     // Moves as little as it must so that a rectangle in image space is seen; a content that is seen whole
     // stays.

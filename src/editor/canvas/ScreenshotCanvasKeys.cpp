@@ -3,6 +3,7 @@
 #include "editor/canvas/AnnotationEditing.h"
 #include "editor/canvas/CanvasTextEditor.h"
 #include "editor/canvas/DrawingGesture.h"
+#include "editor/canvas/EditorCropOverlay.h"
 #include "editor/canvas/ScreenshotCanvasView.h"
 #include "editor/canvas/ToolKeys.h"
 
@@ -24,7 +25,7 @@ bool isReturn(int key) {
 
 void ScreenshotCanvasView::keyPressEvent(QKeyEvent *event) {
     if (event->key() == Qt::Key_Space && !event->isAutoRepeat() && !m_gesture) {
-        m_isSpaceHeld = true;
+        holdSpace(true);
         setCursor(Qt::OpenHandCursor);
         return;
     }
@@ -34,13 +35,20 @@ void ScreenshotCanvasView::keyPressEvent(QKeyEvent *event) {
 
 // Whoever has the focus then is told of the release.
 void ScreenshotCanvasView::focusOutEvent(QFocusEvent *event) {
-    m_isSpaceHeld = false;
+    holdSpace(false);
     QWidget::focusOutEvent(event);
+}
+
+// While it is held the view is taken hold of, whatever lies over it.
+void ScreenshotCanvasView::holdSpace(bool isHeld) {
+    m_isSpaceHeld = isHeld;
+    if (m_cropOverlay)
+        m_cropOverlay->setAttribute(Qt::WA_TransparentForMouseEvents, isHeld);
 }
 
 void ScreenshotCanvasView::keyReleaseEvent(QKeyEvent *event) {
     if (event->key() == Qt::Key_Space && !event->isAutoRepeat() && m_isSpaceHeld) {
-        m_isSpaceHeld = false;
+        holdSpace(false);
         return updateHover(mapFromGlobal(QCursor::pos()));
     }
     // A modifier changes what is being drawn.
@@ -230,13 +238,21 @@ bool ScreenshotCanvasView::focusNextPrevChild(bool next) {
 void ScreenshotCanvasView::undoEdit() {
     if (!m_document)
         return;
-    finishTyping();
+    // What is not done yet is not done; what is typed has its own undo.
+    if (m_gesture)
+        return cancelGesture();
+    if (m_textEditor)
+        return m_textEditor->undo();
     if (!m_cropSession)
         m_document->history().undo();
 }
 
 void ScreenshotCanvasView::redoEdit() {
-    if (m_document && !m_cropSession && !isTyping())
+    if (!m_document || m_gesture)
+        return;
+    if (m_textEditor)
+        return m_textEditor->redo();
+    if (!m_cropSession)
         m_document->history().redo();
 }
 
@@ -258,6 +274,10 @@ void ScreenshotCanvasView::paste() {
     if (!m_document || m_cropSession)
         return;
     finishTyping();
+    if (!commands().canPaste(m_pasteboard)) {
+        Q_EMIT failed(tr("Numbers end at 9,999."));
+        return;
+    }
     const QRectF seen = m_viewport.toImage(QRectF(rect())) & m_viewport.content();
     if (commands().paste(m_pasteboard, seen.center()))
         setTool(EditorTool::select);

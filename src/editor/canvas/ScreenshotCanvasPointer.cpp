@@ -203,6 +203,11 @@ std::vector<QRectF> ScreenshotCanvasView::alignmentTargets(const QSet<QUuid> &mo
 
 void ScreenshotCanvasView::mouseMoveEvent(QMouseEvent *event) {
     m_pointer = event->position();
+    // The release went to somebody else.
+    if (event->buttons() == Qt::NoButton) {
+        m_panFrom.reset();
+        cancelGesture();
+    }
     if (m_panFrom) {
         const QPointF way = event->position() - std::exchange(*m_panFrom, event->position());
         // What is seen whole has nowhere to go.
@@ -231,6 +236,7 @@ void ScreenshotCanvasView::mouseReleaseEvent(QMouseEvent *event) {
 void ScreenshotCanvasView::finishGesture() {
     const std::unique_ptr<CanvasGesture> gesture = std::move(m_gesture);
     const CanvasDraft draft = m_draft;
+    m_layers.endDraft();
     if (draft.selection)
         m_document->setSelectedIDs(*draft.selection);
     if (!draft.annotations.empty()) {
@@ -255,6 +261,7 @@ void ScreenshotCanvasView::cancelGesture() {
         return;
     m_gesture.reset();
     m_draft = {};
+    m_layers.endDraft();
     update();
 }
 
@@ -357,16 +364,20 @@ void ScreenshotCanvasView::contextMenuEvent(QContextMenuEvent *event) {
         menu->add(title, isEnabled ? std::function<void()>(action) : nullptr);
     };
     using Order = AnnotationCommands::Order;
+    const auto order = [this](Order to) {
+        if (m_document)
+            commands().order(to);
+    };
     add(tr("Cut"), hasSelection, [this] { cut(); });
     add(tr("Copy"), hasSelection, [this] { copy(); });
     add(tr("Paste"), true, [this] { paste(); });
     add(tr("Duplicate"), hasSelection, [this] { duplicateObject(); });
     add(tr("Delete"), hasSelection, [this] { deleteSelected(); });
     menu->addSeparator();
-    add(tr("Bring to front"), hasSelection, [this] { commands().order(Order::front); });
-    add(tr("Bring forward"), hasSelection, [this] { commands().order(Order::forward); });
-    add(tr("Send backward"), hasSelection, [this] { commands().order(Order::backward); });
-    add(tr("Send to back"), hasSelection, [this] { commands().order(Order::back); });
+    add(tr("Bring to front"), hasSelection, [order] { order(Order::front); });
+    add(tr("Bring forward"), hasSelection, [order] { order(Order::forward); });
+    add(tr("Send backward"), hasSelection, [order] { order(Order::backward); });
+    add(tr("Send to back"), hasSelection, [order] { order(Order::back); });
     menu->popup(event->globalPos());
 }
 

@@ -8,6 +8,9 @@
 #include "editor/canvas/ScreenshotCanvasView.h"
 #include "editor/model/AnnotationText.h"
 
+#include <QGuiApplication>
+#include <QInputMethod>
+
 #include <algorithm>
 #include <utility>
 
@@ -169,6 +172,10 @@ void ScreenshotCanvasView::typeText(const ScreenshotAnnotation &annotation) {
 void ScreenshotCanvasView::finishTyping() {
     if (!m_textEditor)
         return;
+    // What is still being composed is meant too.
+    QGuiApplication::inputMethod()->commit();
+    if (!m_textEditor)
+        return;
     const ScreenshotAnnotation typed = m_textEditor->annotation();
     CanvasTextEditor *editor = m_textEditor;
     m_textEditor.clear();
@@ -207,11 +214,13 @@ void ScreenshotCanvasView::applyCrop() {
     const QRectF crop = m_cropSession->rect();
     const QRectF source = m_viewport.toView(crop);
     m_cropOverlay->hide();
-    const QPixmap fragment = grab(source.toAlignedRect());
+    // As far as it is seen.
+    const QRectF seen = source & QRectF(rect());
+    const QPixmap fragment = grab(seen.toAlignedRect());
+    const QRectF part = m_viewport.toImage(seen);
     endCrop(crop);
-    auto *transition = new EditorCropTransition(fragment, source, Theme::of(*this).canvas, this);
-    transition->animate(m_viewport.toView(m_viewport.content()),
-                        [transition](bool) { transition->deleteLater(); });
+    auto *transition = new EditorCropTransition(fragment, seen, Theme::of(*this).canvas, this);
+    transition->animate(m_viewport.toView(part), [transition](bool) { transition->deleteLater(); });
     setTool(m_toolBeforeCrop);
 }
 
@@ -221,7 +230,7 @@ void ScreenshotCanvasView::cancelCrop() {
 }
 
 void ScreenshotCanvasView::endCrop(const std::optional<QRectF> &crop) {
-    const EditorCropSession session = *std::exchange(m_cropSession, nullptr);
+    const std::unique_ptr<EditorCropSession> session = std::exchange(m_cropSession, nullptr);
     setFocusProxy(nullptr);
     // Before what has it is hidden, which would hand it on as the Tab key does.
     setFocus();
@@ -230,7 +239,7 @@ void ScreenshotCanvasView::endCrop(const std::optional<QRectF> &crop) {
         m_cropOverlay->deleteLater();
         m_cropOverlay.clear();
     }
-    if (crop && *crop != session.initial())
+    if (crop && *crop != session->initial())
         m_document->applyCrop(*crop);
     m_viewport.setContent(shownContent());
     m_viewport.fit();

@@ -10,6 +10,7 @@
 #include "editor/canvas/EditorCropOverlay.h"
 #include "editor/model/GrownRect.h"
 
+#include <QAccessible>
 #include <QPaintEvent>
 #include <QPainter>
 
@@ -77,7 +78,18 @@ void ScreenshotCanvasView::documentChanged() {
     cancelGesture();
     updateContent();
     update();
+    tellAssistivePrograms();
     Q_EMIT changed();
+}
+
+void ScreenshotCanvasView::tellAssistivePrograms() {
+    const std::size_t count = m_document->annotations().size();
+    if (!QAccessible::isActive())
+        return;
+    QAccessibleEvent event(this,
+                           count == m_toldCount ? QAccessible::SelectionWithin : QAccessible::ObjectReorder);
+    m_toldCount = count;
+    QAccessible::updateAccessibility(&event);
 }
 
 void ScreenshotCanvasView::updateContent() {
@@ -106,6 +118,8 @@ void ScreenshotCanvasView::changeEvent(QEvent *event) {
         m_layers.forget();
         update();
     }
+    if (event->type() == QEvent::ActivationChange && !isActiveWindow())
+        holdSpace(false);
     QWidget::changeEvent(event);
 }
 
@@ -123,8 +137,11 @@ CanvasScene ScreenshotCanvasView::scene() const {
 }
 
 void ScreenshotCanvasView::paintEvent(QPaintEvent *event) {
-    if (m_viewport.displayScale() != devicePixelRatioF())
+    if (m_viewport.displayScale() != devicePixelRatioF()) {
         m_viewport.setView(size(), devicePixelRatioF());
+        // What lies over the canvas moves too, after this.
+        QMetaObject::invokeMethod(this, &ScreenshotCanvasView::viewportChanged, Qt::QueuedConnection);
+    }
     QPainter painter(this);
     const QRectF exposed = event->rect();
     CanvasScene shown = scene();

@@ -124,6 +124,8 @@ private:
     void drawDecorations(QPainter &painter, const QRectF &exposed);
     void viewportChanged();
     void updateContent();
+    // Of what was drawn or selected.
+    void tellAssistivePrograms();
     [[nodiscard]] QRectF extentOf(const CanvasDraft &draft) const;
     [[nodiscard]] QRectF replacedExtent(const CanvasDraft &draft) const;
     void setDraft(CanvasDraft draft);
@@ -143,6 +145,7 @@ private:
     bool pinch(const QEvent &event);
 
     // Keys (ScreenshotCanvasKeys.cpp).
+    void holdSpace(bool isHeld);
     bool handlePlainKey(const QKeyEvent &event);
     bool handleArrow(const QKeyEvent &event);
     bool handleCropKey(int key);
@@ -168,6 +171,8 @@ private:
     std::shared_ptr<const ImagePyramid> m_image;
     CanvasViewport m_viewport;
     CanvasLayers m_layers;
+    // How many annotations assistive programs know of.
+    std::size_t m_toldCount = 0;
     // What is shown roughly during a zoom is drawn again when it has ended.
     WorkItem m_refinement;
     // Around the selected ones, before they are moved. Image space.

@@ -118,10 +118,19 @@ void EditorNameField::mousePressEvent(QMouseEvent *) {
 }
 
 void EditorNameField::accept() {
-    const QString name = m_edit->text().trimmed();
-    if (!name.isEmpty() && name != m_name)
-        Q_EMIT renameRequested(name);
+    const QString name = m_edit->text();
+    if (name != m_name)
+        Q_EMIT renameRequested(name.trimmed());
     m_edit->clearFocus();
+}
+
+void EditorNameField::cancelEditing() {
+    if (!m_isEditing)
+        return;
+    m_edit->clearFocus();
+    // In a window that is not active nobody is told of the focus.
+    if (m_isEditing)
+        endEditing();
 }
 
 void EditorNameField::restore() {

@@ -17,6 +17,8 @@ public:
     void setName(const QString &baseName, const QString &extension);
     void setDirty(bool isDirty);
     [[nodiscard]] bool isEditing() const { return m_isEditing; }
+    // The name stays as it is.
+    void cancelEditing();
     [[nodiscard]] QSize sizeHint() const override;
 
 Q_SIGNALS:

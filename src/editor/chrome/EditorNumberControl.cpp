@@ -8,6 +8,8 @@
 #include <QKeyEvent>
 #include <QLocale>
 
+#include <cstdlib>
+
 namespace tembra {
 
 namespace {
@@ -83,7 +85,7 @@ void EditorNumberControl::step(int steps) {
     const std::int64_t next = m_number + steps;
     const bool passesZero = next == 0 || (next > 0) != (m_number > 0);
     const std::int64_t number = passesZero ? next + (steps > 0 ? 1 : -1) : next;
-    if (number <= EditorNumber::largest)
+    if (std::abs(number) <= EditorNumber::largest)
         Q_EMIT chosen(number);
 }
 

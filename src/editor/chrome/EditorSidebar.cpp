@@ -6,6 +6,7 @@
 #include "editor/chrome/EditorSidebarDelegate.h"
 #include "editor/chrome/EditorSidebarModel.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
@@ -62,6 +63,21 @@ void EditorSidebar::setCurrent(const QString &path) {
     if (row < 0)
         return selectionModel()->clear();
     setCurrentIndex(m_items->index(row));
+}
+
+void EditorSidebar::keyPressEvent(QKeyEvent *event) {
+    switch (event->key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+        QListView::keyPressEvent(event);
+        return event->accept();
+    default:
+        event->ignore();
+    }
 }
 
 void EditorSidebar::currentChanged(const QModelIndex &current, const QModelIndex &previous) {

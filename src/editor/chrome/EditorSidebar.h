@@ -34,6 +34,8 @@ Q_SIGNALS:
     void chosen(const QString &path);
 
 protected:
+    // Keys that do not choose are for others: letters are those of the tools.
+    void keyPressEvent(QKeyEvent *event) override;
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
     void updateGeometries() override;
     void scrollContentsBy(int dx, int dy) override;

@@ -40,6 +40,7 @@ void EditorDocuments::wire() {
                                saved.png);
     };
     m_exports.onFailure = [this](const EditorFailure &failure) { fail(failure); };
+    m_exports.onFinished = [this] { stateChanged(); };
     m_checks.onState = [this](const EditorDocument &document) { fileStateChanged(document); };
     m_checks.onMoved = [this] { stateChanged(); };
 }
@@ -86,14 +87,15 @@ void EditorDocuments::reload() {
         return;
     m_refused.reset();
     m_requests.advance();
-    m_opening.load(
-        current()->loaded.path, m_preview,
-        [this, id = current()->id, shot = current()->shot()](const Result<ScreenshotEditLoaded> &result) {
-            if (!result)
-                notLoaded(id, shot, result.error());
-            else if (m_documents.isCurrent(id))
-                show(std::make_unique<EditorDocument>(Id{++m_lastId}, shot, *result), false);
-        });
+    m_opening.load(current()->loaded.path, m_preview,
+                   [this, id = current()->id, shot = current()->shot(),
+                    edits = current()->currentEdits()](const Result<ScreenshotEditLoaded> &result) {
+                       if (!result)
+                           notLoaded(id, shot, result.error());
+                       // What was edited meanwhile is not lost.
+                       else if (m_documents.isCurrent(id) && current()->currentEdits() == edits)
+                           show(std::make_unique<EditorDocument>(Id{++m_lastId}, shot, *result), false);
+                   });
 }
 
 void EditorDocuments::copyAsNew() {
@@ -126,6 +128,8 @@ void EditorDocuments::copied(const Shot &shot, const EditorFileTasks::Outcome &o
 }
 
 void EditorDocuments::show(std::unique_ptr<EditorDocument> document, bool keepsPrevious) {
+    if (onCurrentWillChange)
+        onCurrentWillChange();
     m_opening.cancelDecode();
     std::unique_ptr<EditorDocument> previous = m_documents.setCurrent(std::move(document));
     if (previous && keepsPrevious && isNeeded(*previous)) {
@@ -208,17 +212,15 @@ void EditorDocuments::saveAll(const Completion &completion) {
 }
 
 void EditorDocuments::rename(const QString &name, Completion completion) {
-    renameTo(name, false, std::move(completion));
-}
-
-void EditorDocuments::renameKeepingBoth(const QString &name, Completion completion) {
-    renameTo(name, true, std::move(completion));
-}
-
-void EditorDocuments::renameTo(const QString &name, bool keepsBoth, Completion completion) {
     requireMainThread();
     if (current())
-        m_saving.rename(current()->id, name, keepsBoth, std::move(completion));
+        m_saving.rename(current()->id, name, false, std::move(completion));
+}
+
+void EditorDocuments::renameKeepingBoth(Id id, const QString &name, Completion completion) {
+    requireMainThread();
+    if (m_documents.find(id))
+        m_saving.rename(id, name, true, std::move(completion));
 }
 
 void EditorDocuments::saveCopy(const QString &path, EditorExports::SaveCompletion completion) {

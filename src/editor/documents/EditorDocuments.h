@@ -37,6 +37,8 @@ public:
     EditorDocuments(const EditorDocuments &) = delete;
     EditorDocuments &operator=(const EditorDocuments &) = delete;
 
+    // What is being done to the current document is to be finished now.
+    std::function<void()> onCurrentWillChange;
     // Another document is current, or none; the one before is there until this returns.
     std::function<void()> onCurrentChanged;
     // The current document's original in full size, when `image()` was smaller before.
@@ -88,7 +90,8 @@ public:
     void saveAll(const Completion &completion);
     // The name without the extension.
     void rename(const QString &name, Completion completion = {});
-    void renameKeepingBoth(const QString &name, Completion completion = {});
+    // After `EditorFailure::Offer::keepBoth`.
+    void renameKeepingBoth(Id id, const QString &name, Completion completion = {});
     // A plain image of the current document, or of another after `EditorFailure::Offer::saveCopy`. The path
     // is one that the user agreed to have replaced; without an extension that can be written it gets the
     // document's. That of the document itself saves it.
@@ -115,7 +118,6 @@ private:
     void taskFinished(Id id);
     void fileStateChanged(const EditorDocument &document);
     void trash(Id id);
-    void renameTo(const QString &name, bool keepsBoth, Completion completion);
     void fail(const EditorFailure &failure) const;
     void stateChanged() const;
 

@@ -85,10 +85,14 @@ EditorFileTasks::Write EditorExports::copyOf(const Shot &shot, EditorDocumentId 
 
 void EditorExports::copy(const EditorDocument &document, Completion completion) {
     auto done = underWay(document.id, std::move(completion));
-    withPng(document, [this, source = document.loaded.path,
+    m_copies.advance();
+    withPng(document, [this, source = document.loaded.path, request = m_copies.ticket(),
                        done = std::move(done)](const Result<QByteArray> &png) {
         if (!png)
             return done(failure(png.error()));
+        // What was copied later is on the clipboard already.
+        if (!request.isCurrent())
+            return done({});
         m_services.copies.copy(*png, source, [life = m_life.ticket(), done](const Result<void> &copied) {
             if (life.isCurrent())
                 done(copied);
@@ -149,6 +153,8 @@ EditorExports::underWay(EditorDocumentId id, std::function<void(const Result<Val
             report(id, result.error());
         if (life.isCurrent() && completion)
             completion(result);
+        if (life.isCurrent() && onFinished)
+            onFinished();
     };
 }
 

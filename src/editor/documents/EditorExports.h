@@ -23,6 +23,8 @@ public:
                   const EditorDocumentsServices &services);
 
     std::function<void(const EditorFailure &)> onFailure;
+    // Something that was under way has ended.
+    std::function<void()> onFinished;
 
     // In the type of the path's extension; with none that can be written the document's own is appended. The
     // path as it was given may be taken: that was agreed to.
@@ -63,6 +65,8 @@ private:
     ScreenshotEdits m_renderedEdits;
     QByteArray m_png;
     int m_underWay = 0;
+    // Of what is to be on the clipboard.
+    Generation m_copies;
     Generation m_life;
 };
 

@@ -31,7 +31,9 @@ public:
             return false;
         // The later one is done already.
         const ScreenshotEdits between = later.m_change.undone(m_document.m_edits);
-        m_change = EditsChange::between(m_change.undone(between), m_document.m_edits);
+        const ScreenshotEdits before = m_change.undone(between);
+        m_change = EditsChange::between(before, m_document.m_edits);
+        setObsolete(before == m_document.m_edits);
         return true;
     }
 
@@ -94,6 +96,7 @@ void ScreenshotEditDocument::refreshBaseline(const ScreenshotEditLoaded &loaded)
     requireMainThread();
     m_savedRecord = loaded.record;
     m_savedFingerprint = loaded.expectedHash;
+    ++m_baselines;
 }
 
 std::int64_t ScreenshotEditDocument::nextNumber() const {
@@ -155,7 +158,9 @@ void ScreenshotEditDocument::apply(std::vector<ScreenshotAnnotation> annotations
     requireMainThread();
     m_editingBegan = true;
     // Pushing does the change.
-    m_history.push(new Change(*this, {std::move(annotations), crop}, name, series));
+    // What was saved can be gone back to.
+    const QString mergeable = series.isEmpty() ? series : series + QString::number(m_baselines);
+    m_history.push(new Change(*this, {std::move(annotations), crop}, name, mergeable));
 }
 
 void ScreenshotEditDocument::set(ScreenshotEdits edits) {

@@ -80,6 +80,8 @@ private:
     const QSizeF m_originalSize;
     ScreenshotEdits m_edits;
     bool m_editingBegan = false;
+    // How often what is saved has changed.
+    int m_baselines = 0;
     QSet<QUuid> m_selectedIDs;
     QUndoStack m_history;
 };

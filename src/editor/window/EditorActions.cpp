@@ -5,6 +5,7 @@
 #include "editor/window/EditorQuestions.h"
 #include "editor/window/ScreenshotEditorWindow.h"
 #include "editor/window/ScreenshotEditorWindowController.h"
+#include "imaging/Sha256.h"
 
 #include <QDrag>
 #include <QMimeData>
@@ -24,30 +25,42 @@ constexpr int dragPictureSide = 160;
 
 void ScreenshotEditorWindowController::save() {
     m_window->canvas().finishTyping();
-    if (!m_documents->current() || m_isSaving)
+    if (!m_documents->current())
         return;
-    m_isSaving = true;
+    const EditorDocumentId id = m_documents->current()->id;
+    m_saving.insert(id);
     refresh();
-    m_documents->save([this](const Result<void> &saved) {
-        m_isSaving = false;
-        if (saved)
-            m_window->banner().dismiss();
-        refresh();
-        refreshSidebar();
-    });
+    m_documents->save(id, whileOpen([this, id](const Result<void> &saved) {
+                          m_saving.erase(id);
+                          if (saved && isShown(id))
+                              m_window->banner().dismiss();
+                          refresh();
+                          refreshSidebar();
+                      }));
 }
 
+// Under the name of the screenshot that is meant, which need not be the one that is seen.
 void ScreenshotEditorWindowController::saveCopy(EditorDocumentId document) {
     m_window->canvas().finishTyping();
-    const EditorDocument *current = m_documents->current();
-    const QString folder = current ? QFileInfo(current->loaded.path).path() : QString();
-    const QString name = current ? tr("%1 copy").arg(current->name()) + current->extension() : QString();
-    EditorQuestions::askForCopy(*m_window, folder + u'/' + name, [this, document](const QString &path) {
-        m_documents->saveCopy(document, path, [this](const Result<QString> &saved) {
-            if (saved)
-                say(tr("A copy was saved as “%1”.").arg(QFileInfo(*saved).fileName()));
-        });
-    });
+    QString path;
+    if (isShown(document))
+        path = m_documents->current()->loaded.path;
+    for (const EditorUnsavedDocument &unsaved : m_documents->unsavedDocuments()) {
+        if (unsaved.id == document)
+            path = unsaved.shot.location;
+    }
+    if (path.isEmpty())
+        return;
+    const QFileInfo file(path);
+    const QString extension = file.suffix().isEmpty() ? QString() : u'.' + file.suffix();
+    const QString name = tr("%1 copy").arg(file.completeBaseName()) + extension;
+    const auto save = [this, document](const QString &chosen) {
+        m_documents->saveCopy(document, chosen, whileOpen([this](const Result<QString> &saved) {
+                                  if (saved)
+                                      say(tr("A copy was saved as “%1”.").arg(QFileInfo(*saved).fileName()));
+                              }));
+    };
+    EditorQuestions::askForCopy(*m_window, file.path() + u'/' + name, whileOpen(save));
 }
 
 void ScreenshotEditorWindowController::copyImage() {
@@ -59,7 +72,7 @@ void ScreenshotEditorWindowController::copyImage() {
 // The picture is rendered while the button is down; a drag that has ended by then is none.
 void ScreenshotEditorWindowController::dragImage() {
     m_window->canvas().finishTyping();
-    m_documents->dragImage([this](const Result<EditorDraggedImage> &image) {
+    m_documents->dragImage(whileOpen([this](const Result<EditorDraggedImage> &image) {
         const bool isStillDown = QGuiApplication::mouseButtons() & Qt::LeftButton;
         if (!image || !isStillDown)
             return;
@@ -73,7 +86,7 @@ void ScreenshotEditorWindowController::dragImage() {
             picture.scaled(dragPictureSide, dragPictureSide, Qt::KeepAspectRatio, Qt::SmoothTransformation)));
         drag->setHotSpot({drag->pixmap().width() / 2, drag->pixmap().height() / 2});
         drag->exec(Qt::CopyAction);
-    });
+    }));
 }
 
 // The one that came after it, or before; without any the window has nothing to show.
@@ -102,6 +115,8 @@ void ScreenshotEditorWindowController::choose(const QString &path) {
     const auto found = std::ranges::find(shots, path, &Shot::location);
     if (found != shots.end())
         m_documents->open(*found, previewRequest());
+    else
+        refreshSidebar();
 }
 
 // Once somebody wants to blur words.
@@ -112,7 +127,9 @@ void ScreenshotEditorWindowController::seekWords() {
     if (!document || !areWanted || m_wordsOf == document->id)
         return;
     m_wordsOf = document->id;
-    m_words->start(document->loaded.record.id, document->loaded.original);
+    // Another picture under the same record is another one to be read.
+    const QUuid id = QUuid::createUuidV5(document->loaded.record.id, sha256Hex(document->loaded.original));
+    m_words->start(id, document->loaded.original);
 }
 
 void ScreenshotEditorWindowController::wordsChanged() {

@@ -5,6 +5,7 @@
 #include "editor/chrome/EditorBanner.h"
 #include "editor/chrome/EditorDock.h"
 #include "editor/chrome/EditorHeader.h"
+#include "editor/chrome/EditorNameField.h"
 #include "editor/chrome/EditorPalette.h"
 #include "editor/chrome/EditorSidebar.h"
 #include "editor/chrome/EditorZoomControl.h"
@@ -28,6 +29,12 @@ QString nameOf(EditorTool tool) {
     return QString::fromLatin1(names[static_cast<std::size_t>(tool)]);
 }
 
+// What is kept of an image to be shown at once when it is shown again.
+double keptScale(QSize size) {
+    constexpr double side = 1'280;
+    return side / std::max({size.width(), size.height(), 1});
+}
+
 QString nameOf(EditorWordRecognition::State state) {
     static constexpr std::array names{"idle", "loading", "ready", "failed"};
     return QString::fromLatin1(names[static_cast<std::size_t>(state)]);
@@ -37,7 +44,10 @@ QString nameOf(EditorWordRecognition::State state) {
 
 void ScreenshotEditorWindowController::currentChanged() {
     m_imageGeneration.advance();
-    m_window->banner().dismiss();
+    m_wordsOf = EditorDocumentId::none;
+    // Half a name is not that of another file.
+    m_window->header().nameField().cancelEditing();
+    say({});
     EditorDocument *document = m_documents->current();
     if (!document) {
         m_window->canvas().setDocument(nullptr, nullptr);
@@ -58,13 +68,13 @@ void ScreenshotEditorWindowController::showFullImage(const QImage &image) {
     performInBackground(
         m_services.documents.images, m_services.documents.scheduler, m_imageGeneration.ticket(),
         [image, size] { return std::make_shared<const ImagePyramid>(image, size); },
-        [this](const std::shared_ptr<const ImagePyramid> &pyramid) {
+        [this, size](const std::shared_ptr<const ImagePyramid> &pyramid) {
             EditorDocument *document = m_documents->current();
             if (!document || pyramid->isNull())
                 return;
             // One copy of the pixels is enough.
             document->image = pyramid->level(1).image;
-            document->loaded.preview = {};
+            document->loaded.preview = pyramid->level(keptScale(size)).image;
             m_window->canvas().setImage(pyramid);
         });
 }
@@ -74,7 +84,7 @@ void ScreenshotEditorWindowController::refresh() {
         return;
     ScreenshotCanvasView &canvas = m_window->canvas();
     EditorHeaderState header = editorHeaderState(m_documents->current());
-    header.isSaving = m_isSaving;
+    header.isSaving = m_documents->current() && m_saving.contains(m_documents->current()->id);
     // What is typed is saved too.
     header.canSave = header.canSave || canvas.isTyping();
     m_window->header().apply(header);
@@ -131,10 +141,15 @@ void ScreenshotEditorWindowController::shotsChanged() {
 }
 
 void ScreenshotEditorWindowController::say(const QString &text) {
+    m_tellsOfFile = false;
     if (text.isEmpty())
         m_window->banner().dismiss();
     else
         m_window->banner().present({.text = text});
+}
+
+bool ScreenshotEditorWindowController::isShown(EditorDocumentId document) const {
+    return m_window && m_documents->current() && m_documents->current()->id == document;
 }
 
 void ScreenshotEditorWindowController::showFailure(const EditorFailure &failure) {
@@ -154,30 +169,44 @@ void ScreenshotEditorWindowController::showFailure(const EditorFailure &failure)
         message.actions = {{tr("Save a copy"), [this, id = failure.document] { saveCopy(id); }}};
         break;
     case Offer::keepBoth:
-        message.actions = {
-            {tr("Keep both"), [this, name = failure.wantedName] { m_documents->renameKeepingBoth(name); }}};
+        message.actions = {{tr("Keep both"), [this, id = failure.document, name = failure.wantedName] {
+                                m_documents->renameKeepingBoth(id, name);
+                            }}};
         break;
     }
+    m_tellsOfFile = false;
     m_window->banner().present(message);
     refresh();
+    // The one that was chosen may not be the one that is shown.
+    refreshSidebar();
 }
 
 void ScreenshotEditorWindowController::showChangedOutside(bool canReload) {
-    EditorBannerMessage message;
-    if (canReload) {
-        message.text = tr("Another program changed this screenshot.");
-        message.actions = {{tr("Reload"), [this] { m_documents->reload(); }}};
-    } else {
+    const EditorDocumentId id = m_documents->current()->id;
+    const EditorBannerMessage::Action reloading{tr("Reload"), [this, id] { reload(id); }};
+    EditorBannerMessage message{.text = tr("Another program changed this screenshot."),
+                                .actions = {reloading}};
+    if (!canReload) {
         message.text =
             tr("Another program changed this screenshot. Your edits are still here. Save a copy to "
                "keep them.");
-        message.actions = {{tr("Save a copy"), [this] { saveCopy(m_documents->current()->id); }},
-                           {tr("Reload"), [this] {
-                                EditorQuestions::askToReload(*m_window, m_documents->current()->fileName(),
-                                                             [this] { m_documents->reload(); });
-                            }}};
+        message.actions = {{tr("Save a copy"), [this, id] { saveCopy(id); }}, reloading};
     }
     m_window->banner().present(message);
+    m_tellsOfFile = true;
+}
+
+// What was edited since the banner came is asked about.
+void ScreenshotEditorWindowController::reload(EditorDocumentId document) {
+    m_window->canvas().finishTyping();
+    if (!isShown(document))
+        return;
+    if (!m_documents->current()->edits.isDirty())
+        return m_documents->reload();
+    EditorQuestions::askToReload(*m_window, m_documents->current()->fileName(), [this, document] {
+        if (isShown(document))
+            m_documents->reload();
+    });
 }
 
 // The palette's, then the custom one, then a new custom one.
@@ -221,7 +250,7 @@ EditorStatus ScreenshotEditorWindowController::status() const {
     status.message = m_window->banner().isHidden() ? QString() : m_window->banner().text();
     status.words = nameOf(m_words->state());
     status.wordCount = static_cast<int>(m_words->regions().size());
-    status.isBusy = m_documents->isOpening() || m_isSaving;
+    status.isBusy = m_documents->isOpening() || !m_saving.empty();
     for (const EditorUnsavedDocument &unsaved : m_documents->unsavedDocuments())
         status.unsaved += unsaved.shot.location;
     if (EditorDocument *document = m_documents->current()) {

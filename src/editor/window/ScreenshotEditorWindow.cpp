@@ -12,6 +12,7 @@
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QVBoxLayout>
 
 namespace tembra {
@@ -72,7 +73,9 @@ void ScreenshotEditorWindow::changeEvent(QEvent *event) {
 
 // What no control wanted is the canvas's: the letters of the tools hold in the whole window.
 void ScreenshotEditorWindow::keyPressEvent(QKeyEvent *event) {
-    if (!m_canvas->handleKey(*event))
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool isOfControl = isReturn || qobject_cast<QLineEdit *>(focusWidget());
+    if (isOfControl || !m_canvas->handleKey(*event))
         QWidget::keyPressEvent(event);
 }
 

@@ -56,6 +56,7 @@ void ScreenshotEditorWindowController::open(const Shot &shot, const ScreenRect &
     requireMainThread();
     if (!m_window)
         makeWindow(display);
+    m_window->canvas().finishTyping();
     m_documents->open(shot, previewRequest());
     m_window->setWindowState(m_window->windowState() & ~Qt::WindowMinimized);
     m_window->show();
@@ -154,20 +155,26 @@ void ScreenshotEditorWindowController::connectCanvas() {
 }
 
 void ScreenshotEditorWindowController::connectDocuments() {
-    m_documents->onCurrentChanged = [this] { currentChanged(); };
-    m_documents->onFullImage = [this](const QImage &image) { showFullImage(image); };
-    m_documents->onStateChanged = [this] {
+    m_documents->onCurrentWillChange = whileOpen([this] { m_window->canvas().finishTyping(); });
+    m_documents->onCurrentChanged = whileOpen([this] { currentChanged(); });
+    m_documents->onFullImage = whileOpen([this](const QImage &image) { showFullImage(image); });
+    m_documents->onStateChanged = whileOpen([this] {
         refresh();
         refreshSidebar();
-    };
-    m_documents->onError = [this](const EditorFailure &failure) { showFailure(failure); };
-    m_documents->onChangedOutside = [this](bool canReload) { showChangedOutside(canReload); };
-    m_documents->onFileGone = [this] {
+        continueClosing();
+    });
+    m_documents->onError = whileOpen([this](const EditorFailure &failure) { showFailure(failure); });
+    m_documents->onChangedOutside = whileOpen([this](bool canReload) { showChangedOutside(canReload); });
+    m_documents->onFileGone = whileOpen([this] {
         say(tr("This screenshot is no longer in its folder. Save a copy to keep your edits."));
-    };
-    m_documents->onFileRestored = [this] { say({}); };
-    m_documents->onRemoved = [this](const Shot &shot) { removed(shot); };
-    m_words->onChange = [this] { wordsChanged(); };
+        m_tellsOfFile = true;
+    });
+    m_documents->onFileRestored = whileOpen([this] {
+        if (m_tellsOfFile)
+            say({});
+    });
+    m_documents->onRemoved = whileOpen([this](const Shot &shot) { removed(shot); });
+    m_words->onChange = whileOpen([this] { wordsChanged(); });
 }
 
 void ScreenshotEditorWindowController::close() {
@@ -192,7 +199,8 @@ bool ScreenshotEditorWindowController::canTerminate() {
     return false;
 }
 
-void ScreenshotEditorWindowController::askToClose(std::function<void()> closed) {
+void ScreenshotEditorWindowController::askToClose(const std::function<void()> &closed) {
+    m_whenAnswered = closed;
     if (m_isAsking)
         return;
     QStringList names;
@@ -200,41 +208,63 @@ void ScreenshotEditorWindowController::askToClose(std::function<void()> closed) 
         names += unsaved.fileName;
     // What is being written needs no question, only its time.
     if (names.isEmpty())
-        return closeAnswered(true, closed);
+        return closeWhenIdle(closed);
     m_isAsking = true;
+    m_window->setWindowState(m_window->windowState() & ~Qt::WindowMinimized);
     m_window->show();
     m_window->raise();
-    EditorQuestions::askToClose(*m_window, names, [this, closed](EditorQuestions::CloseAnswer answer) {
+    const auto answered = [this](EditorQuestions::CloseAnswer answer) {
         m_isAsking = false;
         if (answer != EditorQuestions::CloseAnswer::cancel)
-            closeAnswered(answer == EditorQuestions::CloseAnswer::save, closed);
-    });
+            closeAnswered(answer == EditorQuestions::CloseAnswer::save, m_whenAnswered);
+    };
+    EditorQuestions::askToClose(*m_window, names, whileOpen(answered));
 }
 
 void ScreenshotEditorWindowController::closeAnswered(bool saves, const std::function<void()> &closed) {
     if (!saves) {
         m_documents->discardAll();
-        if (m_documents->canClose())
-            return closed();
+        return closeWhenIdle(closed);
     }
-    m_isSaving = true;
-    refresh();
-    m_documents->saveAll([this, closed](const Result<void> &saved) {
-        m_isSaving = false;
+    m_documents->saveAll(whileOpen([this, closed](const Result<void> &saved) {
         refresh();
-        // After this completion has returned to the documents.
         if (saved)
-            m_services.documents.scheduler.post([ticket = m_imageGeneration.ticket(), closed] {
-                if (ticket.isCurrent())
-                    closed();
-            });
-    });
+            closeWhenIdle(closed);
+    }));
+}
+
+void ScreenshotEditorWindowController::closeWhenIdle(const std::function<void()> &closed) {
+    m_closing = closed;
+    continueClosing();
+}
+
+// Later, as this may be called from what is to go.
+void ScreenshotEditorWindowController::continueClosing() {
+    if (!m_closing)
+        return;
+    m_services.documents.scheduler.post(whileOpen([this] {
+        if (!m_closing)
+            return;
+        if (m_documents->canClose())
+            std::exchange(m_closing, {})();
+        else if (!m_documents->unsavedDocuments().empty())
+            askToClose(std::exchange(m_closing, {}));
+    }));
 }
 
 void ScreenshotEditorWindowController::endWindow() {
     m_imageGeneration.advance();
+    m_windowGeneration.advance();
+    m_wordsOf = EditorDocumentId::none;
+    m_saving.clear();
+    m_closing = {};
+    m_isAsking = false;
     if (!(m_window->windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen)))
         m_services.defaults.setNumberArray(sizeKey, {double(m_window->width()), double(m_window->height())});
+    // It lives a little longer, and has nobody to tell anything.
+    disconnect(m_window.get(), nullptr, this, nullptr);
+    for (const QObject *part : m_window->findChildren<QObject *>())
+        disconnect(part, nullptr, this, nullptr);
     m_window->canvas().setDocument(nullptr, nullptr);
     m_words->cancel();
     m_window->hide();

@@ -12,6 +12,7 @@
 
 #include <functional>
 #include <memory>
+#include <set>
 #include <vector>
 
 namespace tembra {
@@ -53,12 +54,23 @@ public:
 private:
     // The window (ScreenshotEditorWindowController.cpp).
     void makeWindow(const ScreenRect &display);
+    // What came too late for this window is not for the next.
+    template <class Work>
+    [[nodiscard]] auto whileOpen(Work work) const {
+        return [ticket = m_windowGeneration.ticket(), work](auto &&...arguments) {
+            if (ticket.isCurrent())
+                work(std::forward<decltype(arguments)>(arguments)...);
+        };
+    }
     void connectWindow();
     void connectCanvas();
     void connectDocuments();
     void close();
-    void askToClose(std::function<void()> closed);
+    void askToClose(const std::function<void()> &closed);
     void closeAnswered(bool saves, const std::function<void()> &closed);
+    // Closes once nothing is under way any more, and asks again about what was edited meanwhile.
+    void closeWhenIdle(const std::function<void()> &closed);
+    void continueClosing();
     void endWindow();
     [[nodiscard]] ScreenshotEditPreviewRequest previewRequest() const;
 
@@ -71,6 +83,8 @@ private:
     void showFailure(const EditorFailure &failure);
     void showChangedOutside(bool canReload);
     void say(const QString &text);
+    [[nodiscard]] bool isShown(EditorDocumentId document) const;
+    void reload(EditorDocumentId document);
     void chooseColor(int number);
     void chooseCustomColor();
 
@@ -96,10 +110,19 @@ private:
     std::optional<EditorColor> m_customColor;
     // As they were when the user asked to move one to the Trash.
     std::vector<Shot> m_shotsBefore;
-    bool m_isSaving = false;
+    // What is being saved, as far as somebody waits for it.
+    std::set<EditorDocumentId> m_saving;
     bool m_isAsking = false;
+    // What follows on the answer: the end of the window, or of the program.
+    std::function<void()> m_whenAnswered;
+    // What is to happen when everything is saved or given up.
+    std::function<void()> m_closing;
+    // The banner tells of what another program did to the file.
+    bool m_tellsOfFile = false;
     bool m_isShownDirty = false;
     Generation m_imageGeneration;
+    // Of the window.
+    Generation m_windowGeneration;
 };
 
 } // namespace tembra

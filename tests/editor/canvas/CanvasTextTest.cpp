@@ -55,11 +55,7 @@ TEST_F(CanvasTextTest, endsByAPressBesideItAndByTab) {
                                        [this] { open.key(Qt::Key_Tab); },
                                        [this] { open.key(Qt::Key_Backtab, Qt::ShiftModifier); },
                                        [this] { open.key(Qt::Key_Return, Qt::ControlModifier); },
-                                       [this] { open.canvas.setTool(EditorTool::arrow); },
-                                       [this] {
-                                           open.canvas.undoEdit();
-                                           open.canvas.redoEdit();
-                                       }};
+                                       [this] { open.canvas.setTool(EditorTool::arrow); }};
     for (const auto &end : ends) {
         const std::size_t count = open.annotations().size();
         begin({300, 300});
@@ -82,13 +78,17 @@ TEST_F(CanvasTextTest, isTypedAgainByADoubleClickAndGoesWhenItIsEmpty) {
 
     open.key(Qt::Key_Return);
     ASSERT_TRUE(open.canvas.isTyping());
-    open.type(QStringLiteral("other"));
+    open.type(QStringLiteral(" more"));
+    open.canvas.undoEdit();
+    open.canvas.redoEdit();
+    EXPECT_TRUE(open.canvas.isTyping()) << "what is typed has its own undo";
     open.key(Qt::Key_Escape);
-    EXPECT_EQ(open.last().text->string, QStringLiteral("other"));
+    EXPECT_EQ(open.last().text->string, words.text->string + QStringLiteral(" more"));
     EXPECT_EQ(open.last().id, words.id);
     EXPECT_EQ(open.document.history().undoText(), QStringLiteral("Change text"));
 
     open.key(Qt::Key_Return);
+    open.key(Qt::Key_A, Qt::ControlModifier);
     open.key(Qt::Key_Delete);
     open.key(Qt::Key_Escape);
     EXPECT_TRUE(open.annotations().empty());

@@ -175,7 +175,7 @@ TEST(CanvasTarget, everyKindCanBeTakenByItsHandles) {
     const std::pair<ScreenshotAnnotation, std::size_t> cases[]{
         {shape(Kind::rectangle, {100, 100, 100, 100}, red, 4), 8},
         {shape(Kind::rectangle, {100, 100, 100, 10}, red, 4), 6},
-        {shape(Kind::rectangle, {100, 100, 10, 10}, red, 4), 4},
+        {shape(Kind::rectangle, {100, 100, 10, 10}, red, 4), 1},
         {arrow({10, 10}, {60, 60}, red, 4), 3},
         {make(Kind::line, {{10, 10}, {60, 60}}, red, 4), 2},
         {text({100, 100}, QStringLiteral("words"), 20, red), 1},

@@ -148,7 +148,7 @@ TEST_F(EditorDocumentFilesTest, offersToKeepBothWhenTheNameIsTaken) {
     EXPECT_EQ(failures.front().offer, Offer::keepBoth);
     EXPECT_EQ(failures.front().wantedName, QStringLiteral("b"));
     EXPECT_EQ(told.back(), QStringLiteral("finish nothing"));
-    documents->renameKeepingBoth(failures.front().wantedName);
+    documents->renameKeepingBoth(failures.front().document, failures.front().wantedName);
     settle();
     EXPECT_EQ(documents->name(), QStringLiteral("b copy"));
 

@@ -9,5 +9,7 @@ using namespace tembra;
 int main(int argc, char **argv) {
     const QCoreApplication application(argc, argv);
     const TesseractRecognizer recognizer({QCoreApplication::arguments().last(), {}});
-    return recognizer.recognize(QImage(8, 8, QImage::Format_RGB32), {}) ? 0 : 1;
+    QImage blank(8, 8, QImage::Format_RGB32);
+    blank.fill(Qt::white);
+    return recognizer.recognize(blank, {}) ? 0 : 1;
 }

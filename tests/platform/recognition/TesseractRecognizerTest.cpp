@@ -98,9 +98,14 @@ protected:
         file.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
         return file.fileName();
     }
+    [[nodiscard]] static QImage blank() {
+        QImage image(8, 8, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        return image;
+    }
     [[nodiscard]] int errorOf(const QString &file, std::chrono::milliseconds limit = 1min) const {
         const TesseractRecognizer recognizer({file, english, limit});
-        const auto lines = recognizer.recognize(QImage(8, 8, QImage::Format_RGB32), cancellation);
+        const auto lines = recognizer.recognize(blank(), cancellation);
         return lines || lines.error().message.isEmpty() ? 0 : lines.error().code;
     }
 
@@ -155,7 +160,7 @@ TEST_F(FaultyWorker, isOneErrorWhateverItsFault) {
     EXPECT_EQ(errorOf(program("exec sleep 100"), 100ms), TextRecognizer::notRecognized);
     EXPECT_EQ(errorOf(program("exec yes"), 200ms), TextRecognizer::notRecognized);
     const TesseractRecognizer foreign({worker, {QStringLiteral("nolanguage")}});
-    EXPECT_EQ(foreign.recognize(QImage(8, 8, QImage::Format_RGB32), {}).error().code,
+    EXPECT_EQ(foreign.recognize(blank(), {}).error().code,
               TextRecognizer::noLanguage);
 }
 

@@ -8,6 +8,7 @@
 #include <cstring>
 #include <fstream>
 #include <sys/mman.h>
+#include <sys/prctl.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -35,6 +36,7 @@ void limitItself() {
     setrlimit(RLIMIT_CPU, &time);
     // Nothing of the picture is to stay on the disk.
     setrlimit(RLIMIT_CORE, &none);
+    prctl(PR_SET_DUMPABLE, 0);
     // The desktop comes first.
     constexpr int niceness = 5;
     setpriority(PRIO_PROCESS, 0, niceness);
