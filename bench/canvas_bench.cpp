@@ -14,6 +14,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QWheelEvent>
+#include <QWindow>
 
 #include <cmath>
 
@@ -103,11 +104,17 @@ void report(const char *what, const Drag &drag, double floor) {
         median(drag.moves) <= 8 ? "pass" : "FALLS SHORT");
 }
 
+void awaitExposed(QWidget &window) {
+    while (!window.windowHandle() || !window.windowHandle()->isExposed())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    QCoreApplication::processEvents();
+}
+
 double fillWindow() {
     BareWindow window;
     window.resize(windowSize);
     window.show();
-    QCoreApplication::processEvents();
+    awaitExposed(window);
     std::vector<double> fills;
     for (int round = 0; round < 50; ++round) {
         window.update();
@@ -145,7 +152,7 @@ int main(int argc, char **argv) {
     document.onChange = [&canvas] { canvas.documentChanged(); };
     canvas.resize(windowSize);
     canvas.show();
-    QCoreApplication::processEvents();
+    awaitExposed(canvas);
     const double before = memory().now;
     auto pyramid = std::make_shared<const ImagePyramid>(interfacePicture(imageSize, 1), imageSize);
     canvas.setDocument(&document, pyramid);
