@@ -2,8 +2,9 @@
 
 #include "editor/model/GrownRect.h"
 
+#include <QtMath>
+
 #include <array>
-#include <cmath>
 #include <utility>
 
 namespace tembra {
@@ -91,11 +92,11 @@ void drawPixelGrid(QPainter &painter, const CanvasViewport &viewport, const QRec
     const double least = 1 / viewport.displayScale();
     for (const QColor &color : {QColor(0, 0, 0, 38), QColor(255, 255, 255, 26)}) {
         const double shift = color.red() == 0 ? 0 : least;
-        for (double x = std::ceil(seen.left()); x <= seen.right(); ++x) {
+        for (int x = qCeil(seen.left()); x <= seen.right(); ++x) {
             const QPointF top = viewport.toView(QPointF(x, seen.top()));
             painter.fillRect(QRectF(top.x() + shift, top.y(), least, seen.height() * viewport.zoom()), color);
         }
-        for (double y = std::ceil(seen.top()); y <= seen.bottom(); ++y) {
+        for (int y = qCeil(seen.top()); y <= seen.bottom(); ++y) {
             const QPointF left = viewport.toView(QPointF(seen.left(), y));
             painter.fillRect(QRectF(left.x(), left.y() + shift, seen.width() * viewport.zoom(), least),
                              color);

@@ -6,6 +6,7 @@
 
 #include <QMouseEvent>
 #include <QScrollBar>
+#include <QTextCursor>
 
 namespace tembra {
 

@@ -8,6 +8,8 @@
 #include "imaging/Sha256.h"
 
 #include <QDrag>
+#include <QFileInfo>
+#include <QGuiApplication>
 #include <QMimeData>
 #include <QUrl>
 

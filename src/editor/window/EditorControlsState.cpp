@@ -52,7 +52,7 @@ EditorDockState editorDockState(const ScreenshotCanvasView &canvas) {
 EditorHeaderState editorHeaderState(EditorDocument *document) {
     if (!document)
         return {.hasScreenshot = false};
-    QUndoStack &history = document->edits.history();
+    const QUndoStack &history = document->edits.history();
     return {.name = document->name(),
             .extension = document->extension().mid(1),
             .isDirty = document->edits.isDirty(),

@@ -15,6 +15,7 @@
 #include "editor/window/ScreenshotEditorWindowController.h"
 
 #include <QColorDialog>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <utility>
@@ -82,7 +83,7 @@ void ScreenshotEditorWindowController::showFullImage(const QImage &image) {
 void ScreenshotEditorWindowController::refresh() {
     if (!m_window)
         return;
-    ScreenshotCanvasView &canvas = m_window->canvas();
+    const ScreenshotCanvasView &canvas = m_window->canvas();
     EditorHeaderState header = editorHeaderState(m_documents->current());
     header.isSaving = m_documents->current() && m_saving.contains(m_documents->current()->id);
     // What is typed is saved too.

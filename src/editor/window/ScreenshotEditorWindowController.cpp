@@ -11,6 +11,7 @@
 #include "editor/window/ScreenshotEditorWindow.h"
 
 #include <QGuiApplication>
+#include <QLayout>
 #include <QScreen>
 
 #include <algorithm>
