@@ -1,10 +1,10 @@
 #include "editor/canvas/AccessibleCanvas.h"
 
+#include "editor/canvas/AnnotationEditing.h"
 #include "editor/canvas/ScreenshotCanvasView.h"
 
 #include <QAccessibleWidget>
 
-#include <algorithm>
 #include <map>
 
 namespace tembra {
@@ -78,9 +78,7 @@ private:
     [[nodiscard]] const ScreenshotAnnotation *annotation() const {
         if (!m_canvas || !m_canvas->document())
             return nullptr;
-        const auto &all = m_canvas->document()->annotations();
-        const auto found = std::ranges::find(all, m_id, &ScreenshotAnnotation::id);
-        return found == all.end() ? nullptr : &*found;
+        return annotationEditing::find(m_canvas->document()->annotations(), m_id);
     }
 
     const QPointer<ScreenshotCanvasView> m_canvas;

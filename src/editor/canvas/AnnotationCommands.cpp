@@ -42,6 +42,18 @@ QRectF boundsOf(const std::vector<ScreenshotAnnotation> &annotations) {
     return bounds;
 }
 
+std::vector<QPointF> cornersOf(const std::vector<ScreenshotAnnotation> &annotations) {
+    std::vector<QPointF> corners;
+    for (const ScreenshotAnnotation &annotation : annotations)
+        corners.push_back(annotation.path().boundingRect().topLeft());
+    return corners;
+}
+
+// How far a copy lies from what it is a copy of.
+double copyStep(QSizeF image) {
+    return std::round(16 * annotationEditing::imageUnit(image));
+}
+
 QPointF rounded(QPointF point) {
     return {std::round(point.x()), std::round(point.y())};
 }
@@ -152,7 +164,7 @@ bool AnnotationCommands::insertCopies(const Annotations &originals, QPointF delt
 
 void AnnotationCommands::duplicate() {
     const Annotations originals = m_document.selectedAnnotations();
-    const double step = std::round(16 * annotationEditing::imageUnit(m_document.originalSize()));
+    const double step = copyStep(m_document.originalSize());
     const QRectF bounds = boundsOf(originals);
     const auto way = [step](double high, double most) { return high + step <= most ? step : -step; };
     insertCopies(originals, {way(bounds.right(), m_limits.right()), way(bounds.bottom(), m_limits.bottom())},
@@ -181,15 +193,13 @@ bool AnnotationCommands::paste(Pasteboard &pasteboard, QPointF middle) {
     if (!m_limits.contains(bounds))
         delta = rounded(middle - bounds.center());
     // Copies do not hide what they are copies of.
-    std::vector<QPointF> taken;
-    for (const ScreenshotAnnotation &one : m_document.annotations())
-        taken.push_back(one.path().boundingRect().topLeft());
+    const std::vector<QPointF> taken = cornersOf(m_document.annotations());
+    const std::vector<QPointF> copied = cornersOf(*read);
     const auto covers = [&](const QPointF &way) {
-        return std::ranges::any_of(*read, [&](const ScreenshotAnnotation &copy) {
-            return std::ranges::count(taken, copy.path().boundingRect().topLeft() + way) > 0;
-        });
+        return std::ranges::any_of(
+            copied, [&](QPointF corner) { return std::ranges::count(taken, corner + way) > 0; });
     };
-    const double step = std::round(16 * annotationEditing::imageUnit(m_document.originalSize()));
+    const double step = copyStep(m_document.originalSize());
     for (int tries = 0; covers(delta) && tries < 100; ++tries)
         delta += QPointF(step, step);
     return insertCopies(*read, delta, text(QT_TRANSLATE_NOOP("ScreenshotEdit", "Paste")));

@@ -154,6 +154,11 @@ ScreenshotAnnotation restyled(const ScreenshotAnnotation &annotation, const Edit
     return result;
 }
 
+const ScreenshotAnnotation *find(std::span<const ScreenshotAnnotation> annotations, const QUuid &id) {
+    const auto found = std::ranges::find(annotations, id, &ScreenshotAnnotation::id);
+    return found == annotations.end() ? nullptr : &*found;
+}
+
 QRectF alignmentRect(const ScreenshotAnnotation &annotation) {
     return annotation.hasRectHandles() ? annotation.shapeRect() : annotation.path().boundingRect();
 }

@@ -7,6 +7,7 @@
 #include <QSizeF>
 
 #include <optional>
+#include <span>
 #include <utility>
 
 // How annotations are made and changed, as functions of values. Image space.
@@ -26,6 +27,9 @@ namespace tembra::annotationEditing {
 // A change has no effect on what the kind does not have. A badge stays within `limits`.
 [[nodiscard]] ScreenshotAnnotation restyled(const ScreenshotAnnotation &annotation,
                                             const EditorStyleChange &change, const QRectF &limits);
+// The one with an id; nothing when it is not among them.
+[[nodiscard]] const ScreenshotAnnotation *find(std::span<const ScreenshotAnnotation> annotations,
+                                               const QUuid &id);
 // What of it comes into line with others: the rectangle of a shape or blur, else the outline's.
 [[nodiscard]] QRectF alignmentRect(const ScreenshotAnnotation &annotation);
 [[nodiscard]] ScreenshotAnnotation moved(const ScreenshotAnnotation &annotation, QPointF delta);

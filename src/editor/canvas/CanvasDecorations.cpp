@@ -1,6 +1,7 @@
 #include "editor/canvas/CanvasDecorations.h"
 
 #include "controls/Palette.h"
+#include "editor/canvas/AnnotationEditing.h"
 #include "editor/canvas/CanvasTarget.h"
 #include "editor/model/GrownRect.h"
 
@@ -34,7 +35,7 @@ QRectF CanvasDecorations::frameOf(const ScreenshotAnnotation &annotation) {
     // Beside the stroke of a rectangle, whose colour is to be seen.
     if (annotation.kind == ScreenshotAnnotation::Kind::rectangle)
         return annotation.bounds();
-    return annotation.hasRectHandles() ? annotation.shapeRect() : annotation.path().boundingRect();
+    return annotationEditing::alignmentRect(annotation);
 }
 
 // Arrows and lines have the handles at their ends to show that they are selected, rectangles those along

@@ -1,5 +1,6 @@
 #include "editor/canvas/CanvasTarget.h"
 
+#include "editor/canvas/AnnotationEditing.h"
 #include "editor/model/AnnotationText.h"
 #include "editor/model/RectHandles.h"
 
@@ -65,8 +66,7 @@ std::optional<CanvasTarget> CanvasTarget::at(QPointF point, std::span<const Scre
                                              const QSet<QUuid> &selected, double zoom) {
     const double tolerance = bodyTolerance / zoom;
     if (selected.size() == 1) {
-        const auto only = std::ranges::find(annotations, *selected.begin(), &ScreenshotAnnotation::id);
-        if (only != annotations.end()) {
+        if (const auto *only = annotationEditing::find(annotations, *selected.begin())) {
             if (const auto handle = handleAt(point, *only, zoom))
                 return handle;
         }

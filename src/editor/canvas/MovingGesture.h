@@ -1,5 +1,6 @@
 #pragma once
 
+#include "editor/canvas/AlignmentSurroundings.h"
 #include "editor/canvas/CanvasGesture.h"
 
 namespace tembra {
@@ -8,11 +9,8 @@ namespace tembra {
 // held; Shift keeps to one axis. Something of them stays within `limits`.
 class MovingGesture final : public CanvasGesture {
 public:
-    struct Surroundings {
-        QRectF limits;
-        std::vector<QRectF> targets;
-        double tolerance = 0;
-    };
+    using Surroundings = AlignmentSurroundings;
+
     // `areCopies` when the originals stay where they are.
     MovingGesture(std::vector<ScreenshotAnnotation> annotations, QPointF start, Surroundings surroundings,
                   bool areCopies);

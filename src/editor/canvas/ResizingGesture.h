@@ -1,5 +1,6 @@
 #pragma once
 
+#include "editor/canvas/AlignmentSurroundings.h"
 #include "editor/canvas/CanvasGesture.h"
 #include "editor/canvas/HandleGrip.h"
 
@@ -9,11 +10,8 @@ namespace tembra {
 // Its edges come into line with `targets` within `tolerance`, unless Ctrl or Shift is held.
 class ResizingGesture final : public CanvasGesture {
 public:
-    struct Surroundings {
-        QRectF limits;
-        std::vector<QRectF> targets;
-        double tolerance = 0;
-    };
+    using Surroundings = AlignmentSurroundings;
+
     // `start` is where the press was, at or beside the handle.
     ResizingGesture(ScreenshotAnnotation annotation, int handle, QPointF start, Surroundings surroundings);
 

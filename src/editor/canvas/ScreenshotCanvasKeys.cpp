@@ -275,7 +275,7 @@ void ScreenshotCanvasView::paste() {
         return;
     finishTyping();
     if (!commands().canPaste(m_pasteboard)) {
-        Q_EMIT failed(tr("Numbers end at 9,999."));
+        tellNumbersEnd();
         return;
     }
     const QRectF seen = m_viewport.toImage(QRectF(rect())) & m_viewport.content();
@@ -296,7 +296,7 @@ void ScreenshotCanvasView::duplicateObject() {
     if (m_document->canNumberCopies(m_document->selectedAnnotations()))
         commands().duplicate();
     else
-        Q_EMIT failed(tr("Numbers end at 9,999."));
+        tellNumbersEnd();
 }
 
 void ScreenshotCanvasView::deleteSelected() {

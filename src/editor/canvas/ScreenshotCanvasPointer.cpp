@@ -67,9 +67,7 @@ std::optional<CanvasTarget> ScreenshotCanvasView::targetAt(QPointF view) const {
     if (!target || m_tool == EditorTool::select || target->handle)
         return target;
     // A tool that draws takes hold of nothing but what is selected; the text tool of texts.
-    const auto &all = m_document->annotations();
-    const auto known = std::ranges::find(all, target->id, &ScreenshotAnnotation::id);
-    const bool isText = m_tool == EditorTool::text && known->kind == Kind::text;
+    const bool isText = m_tool == EditorTool::text && known(target->id)->kind == Kind::text;
     const bool isSelected = m_document->selectedIDs().contains(target->id) && m_tool != EditorTool::pencil;
     return isText || isSelected ? target : std::nullopt;
 }
@@ -100,8 +98,7 @@ std::unique_ptr<CanvasGesture> ScreenshotCanvasView::gestureFor(QPointF image,
                                                                 Qt::KeyboardModifiers modifiers) {
     const auto target = targetAt(m_viewport.toView(image));
     if (target && m_tool == EditorTool::text && !target->handle) {
-        const auto &all = m_document->annotations();
-        typeText(*std::ranges::find(all, target->id, &ScreenshotAnnotation::id));
+        typeText(*known(target->id));
         return nullptr;
     }
     if (target)
@@ -141,7 +138,7 @@ std::unique_ptr<CanvasGesture> ScreenshotCanvasView::takingHold(const CanvasTarg
     std::vector<ScreenshotAnnotation> moving = m_document->selectedAnnotations();
     const bool copies = modifiers & Qt::AltModifier;
     if (copies && !m_document->canNumberCopies(moving)) {
-        Q_EMIT failed(tr("Numbers end at 9,999."));
+        tellNumbersEnd();
         return nullptr;
     }
     if (copies)
@@ -184,7 +181,7 @@ std::unique_ptr<CanvasGesture> ScreenshotCanvasView::drawing(QPointF image) {
 std::unique_ptr<CanvasGesture> ScreenshotCanvasView::placingNumber() {
     ScreenshotAnnotation number = prototype(Kind::number);
     if (number.number->value > EditorNumber::largest) {
-        Q_EMIT failed(tr("Numbers end at 9,999."));
+        tellNumbersEnd();
         return nullptr;
     }
     return std::make_unique<PlacingGesture>(std::move(number), m_viewport.content());
@@ -241,9 +238,7 @@ void ScreenshotCanvasView::finishGesture() {
         m_document->setSelectedIDs(*draft.selection);
     if (!draft.annotations.empty()) {
         const auto &last = draft.annotations.back();
-        const auto known = std::ranges::find(m_document->annotations(), last.id, &ScreenshotAnnotation::id);
-        const bool isNew = known == m_document->annotations().end();
-        if (m_tool == EditorTool::number && m_nextNumber && last.number && isNew)
+        if (m_tool == EditorTool::number && m_nextNumber && last.number && !known(last.id))
             m_nextNumber = last.number->value == -1 ? 1 : last.number->value + 1;
         commands().put(draft.annotations, gesture->actionName());
     }
@@ -268,10 +263,8 @@ void ScreenshotCanvasView::cancelGesture() {
 void ScreenshotCanvasView::mouseDoubleClickEvent(QMouseEvent *event) {
     const auto target = targetAt(event->position());
     if (event->button() == Qt::LeftButton && target && !target->handle && m_tool == EditorTool::select) {
-        const auto &all = m_document->annotations();
-        const auto known = std::ranges::find(all, target->id, &ScreenshotAnnotation::id);
-        if (known->text)
-            return typeText(*known);
+        if (const ScreenshotAnnotation *annotation = known(target->id); annotation->text)
+            return typeText(*annotation);
     }
     mousePressEvent(event);
 }

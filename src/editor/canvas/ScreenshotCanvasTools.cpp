@@ -156,9 +156,12 @@ void ScreenshotCanvasView::typeNewText(QPointF image) {
     typeText(annotation);
 }
 
+void ScreenshotCanvasView::tellNumbersEnd() {
+    Q_EMIT failed(tr("Numbers end at 9,999."));
+}
+
 void ScreenshotCanvasView::typeText(const ScreenshotAnnotation &annotation) {
-    const auto &all = m_document->annotations();
-    m_isNewText = std::ranges::find(all, annotation.id, &ScreenshotAnnotation::id) == all.end();
+    m_isNewText = !known(annotation.id);
     m_document->setSelectedIDs(m_isNewText ? QSet<QUuid>() : QSet<QUuid>{annotation.id});
     m_textEditor = new CanvasTextEditor(annotation, m_viewport, this);
     connect(m_textEditor, &CanvasTextEditor::finished, this, [this] {

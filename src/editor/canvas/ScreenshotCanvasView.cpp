@@ -4,6 +4,7 @@
 
 #include "controls/Theme.h"
 #include "editor/canvas/AccessibleCanvas.h"
+#include "editor/canvas/AnnotationEditing.h"
 #include "editor/canvas/CanvasBackground.h"
 #include "editor/canvas/CanvasDecorations.h"
 #include "editor/canvas/CanvasTextEditor.h"
@@ -201,8 +202,8 @@ std::vector<ScreenshotAnnotation> ScreenshotCanvasView::shownSelection() const {
     for (const ScreenshotAnnotation &annotation : m_document->annotations()) {
         if (!ids.contains(annotation.id))
             continue;
-        const auto draft = std::ranges::find(m_draft.annotations, annotation.id, &ScreenshotAnnotation::id);
-        selected.push_back(draft == m_draft.annotations.end() ? annotation : *draft);
+        const auto *draft = annotationEditing::find(m_draft.annotations, annotation.id);
+        selected.push_back(draft ? *draft : annotation);
     }
     return selected;
 }
@@ -227,6 +228,10 @@ QRectF ScreenshotCanvasView::extentOf(const CanvasDraft &draft) const {
     return view.isEmpty() ? view : grown(view, CanvasDecorations::reach);
 }
 
+const ScreenshotAnnotation *ScreenshotCanvasView::known(const QUuid &id) const {
+    return annotationEditing::find(m_document->annotations(), id);
+}
+
 // Where those were that a draft shows elsewhere.
 QRectF ScreenshotCanvasView::replacedExtent(const CanvasDraft &draft) const {
     if (draft.movedBy)
@@ -234,10 +239,8 @@ QRectF ScreenshotCanvasView::replacedExtent(const CanvasDraft &draft) const {
                      CanvasDecorations::reach);
     QRectF extent;
     for (const ScreenshotAnnotation &replaced : draft.annotations) {
-        const auto known =
-            std::ranges::find(m_document->annotations(), replaced.id, &ScreenshotAnnotation::id);
-        if (known != m_document->annotations().end())
-            extent |= grown(m_viewport.toView(known->bounds()), CanvasDecorations::reach);
+        if (const auto *before = known(replaced.id))
+            extent |= grown(m_viewport.toView(before->bounds()), CanvasDecorations::reach);
     }
     return extent;
 }

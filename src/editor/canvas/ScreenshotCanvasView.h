@@ -130,6 +130,9 @@ private:
     [[nodiscard]] QRectF replacedExtent(const CanvasDraft &draft) const;
     void setDraft(CanvasDraft draft);
 
+    // The document's annotation; nothing when it has none with that id.
+    [[nodiscard]] const ScreenshotAnnotation *known(const QUuid &id) const;
+
     // The pointer (ScreenshotCanvasPointer.cpp).
     [[nodiscard]] std::optional<CanvasTarget> targetAt(QPointF view) const;
     [[nodiscard]] std::unique_ptr<CanvasGesture> gestureFor(QPointF image, Qt::KeyboardModifiers modifiers);
@@ -155,6 +158,7 @@ private:
     void placeInMiddle();
 
     // Text, crop and style (ScreenshotCanvasTools.cpp).
+    void tellNumbersEnd();
     [[nodiscard]] ScreenshotAnnotation prototype(ScreenshotAnnotation::Kind kind) const;
     [[nodiscard]] EditorStyle styleOfTool(ScreenshotAnnotation::Kind kind) const;
     void typeText(const ScreenshotAnnotation &annotation);
