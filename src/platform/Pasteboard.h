@@ -16,12 +16,14 @@ namespace tembra {
 // The clipboard that programs share. Main thread.
 class Pasteboard {
 public:
-    // A file to be pasted as a file and, where it is an image, as that image; or data of a type of the
-    // program's own.
+    static inline const QString plainText = QStringLiteral("public.utf8-plain-text");
+
+    // A file to be pasted as a file and, where it is an image, as that image; or text; or data of a type of
+    // the program's own.
     struct Item {
         // Absolute; empty for data alone.
         QString path;
-        // "public.png", "public.tiff" or a type of the program's own; empty without data.
+        // "public.png", "public.tiff", `plainText` or a type of the program's own; empty without data.
         QString type;
         QByteArray data;
 

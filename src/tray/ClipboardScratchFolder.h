@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/Result.h"
-#include "tray/PasteboardContent.h"
+#include "platform/PasteboardContent.h"
 
 #include <QByteArray>
 #include <QString>

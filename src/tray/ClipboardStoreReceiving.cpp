@@ -2,8 +2,8 @@
 
 #include "base/Background.h"
 #include "base/MainThread.h"
+#include "platform/PasteboardContent.h"
 #include "tray/ClipboardStore.h"
-#include "tray/PasteboardContent.h"
 
 #include <QCoreApplication>
 #include <QDir>

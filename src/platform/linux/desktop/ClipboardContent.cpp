@@ -17,6 +17,9 @@ const QString uriList = QStringLiteral("text/uri-list");
 const QString copiedFiles = QStringLiteral("x-special/gnome-copied-files");
 const QString png = QStringLiteral("image/png");
 const QString tiff = QStringLiteral("image/tiff");
+// As programs of every age ask for it.
+const QStringList text{QStringLiteral("text/plain;charset=utf-8"), QStringLiteral("text/plain"),
+                       QStringLiteral("UTF8_STRING")};
 
 QString imageFormat(const Pasteboard::Item &item) {
     if (item.data.isEmpty())
@@ -77,6 +80,8 @@ ClipboardContent::ClipboardContent(const std::vector<Pasteboard::Item> &items) {
     for (const Pasteboard::Item &item : items) {
         if (!item.path.isEmpty())
             m_files.append(fileUri(item.path));
+        else if (item.type == Pasteboard::plainText)
+            std::ranges::for_each(text, [&](const QString &format) { m_others.insert(format, item.data); });
         else if (imageFormat(item).isEmpty() && !item.data.isEmpty())
             m_others.insert(item.type, item.data);
     }

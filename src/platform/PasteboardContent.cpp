@@ -1,4 +1,4 @@
-#include "tray/PasteboardContent.h"
+#include "platform/PasteboardContent.h"
 
 #include "base/FileUri.h"
 

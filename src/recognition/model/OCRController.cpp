@@ -1,0 +1,120 @@
+#include "recognition/model/OCRController.h"
+
+#include "base/MainThread.h"
+#include "platform/Pasteboard.h"
+#include "recognition/model/OCRRecognitionTask.h"
+#include "recognition/model/OCRRecognizing.h"
+
+#include <QCoreApplication>
+
+namespace tembra {
+
+namespace {
+
+// Lines that the panel's usual height has room for.
+constexpr size_t fewLines = 4;
+
+// Without words that are nothing but white space, and lines of such.
+OCRText trimmed(OCRText text) {
+    for (TextRecognizer::Line &line : text.lines)
+        std::erase_if(line.words, [](const auto &word) { return word.text.trimmed().isEmpty(); });
+    std::erase_if(text.lines, [](const auto &line) { return line.words.empty(); });
+    return text;
+}
+
+Result<void> writeString(Pasteboard &pasteboard, const QString &text) {
+    return pasteboard.writeObjects({{{}, Pasteboard::plainText, text.toUtf8()}});
+}
+
+} // namespace
+
+OCRController::OCRController(OCRRecognizing &recognizer, Pasteboard &pasteboard, Scheduler &scheduler)
+    : m_recognizer(recognizer), m_pasteboard(pasteboard), m_scheduler(scheduler) {}
+
+OCRController::~OCRController() {
+    cancelTask();
+}
+
+void OCRController::recognize(const OCRInput &input) {
+    requireMainThread();
+    cancelTask();
+    enter(OCRState::Loading{});
+    m_task = m_recognizer.recognize(
+        input, [this, &scheduler = m_scheduler, ticket = m_generation.ticket()](Result<OCRRecognition> result) {
+            scheduler.post([this, ticket, result = std::move(result)]() mutable {
+                if (ticket.isCurrent())
+                    finish(std::move(result));
+            });
+        });
+}
+
+void OCRController::reset() {
+    requireMainThread();
+    cancelTask();
+    enter(OCRState::Idle{});
+}
+
+void OCRController::toggleOCRSize() {
+    requireMainThread();
+    m_state.isExpanded = !m_state.isExpanded;
+    m_chosenSize = m_state.isExpanded;
+    if (onStateChange)
+        onStateChange();
+    if (onResize)
+        onResize();
+}
+
+void OCRController::setLayout(OCRTextLayout layout) {
+    requireMainThread();
+    if (std::exchange(m_state.layout, layout) != layout && onStateChange)
+        onStateChange();
+}
+
+Result<void> OCRController::copyOCR() {
+    requireMainThread();
+    return writeString(m_pasteboard, m_state.result());
+}
+
+bool OCRController::copyOCRSelection(const QString &selection) {
+    requireMainThread();
+    return !selection.isEmpty() && writeString(m_pasteboard, selection).has_value();
+}
+
+void OCRController::cancelTask() {
+    if (m_task)
+        m_task->cancel();
+    m_task.reset();
+    m_generation.advance();
+}
+
+void OCRController::enter(OCRState::Phase phase) {
+    const bool wantedRoom = m_state.wantsRoom();
+    m_state.phase = std::move(phase);
+    if (const auto *const text = std::get_if<OCRState::Text>(&m_state.phase))
+        sizeTo(text->text);
+    else
+        m_picture = {};
+    if (onStateChange)
+        onStateChange();
+    if (m_state.wantsRoom() != wantedRoom && onResize)
+        onResize();
+}
+
+void OCRController::finish(Result<OCRRecognition> result) {
+    m_task.reset();
+    if (!result)
+        return enter(OCRState::Error{
+            QCoreApplication::translate("OCR", "Could not read this image. Try another one.")});
+    OCRText text = trimmed(std::move(result->text));
+    if (text.lines.empty())
+        return enter(
+            OCRState::Error{QCoreApplication::translate("OCR", "No text found. Try another image.")});
+    m_picture = std::move(result->picture);
+    enter(OCRState::Text{std::move(text)});
+}
+
+void OCRController::sizeTo(const OCRText &text) {
+    m_state.isExpanded = m_chosenSize.value_or(text.lines.size() > fewLines);
+}
+
+} // namespace tembra
