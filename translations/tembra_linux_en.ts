@@ -30,6 +30,16 @@
     </message>
 </context>
 <context>
+    <name>tembra::OCRResultCard</name>
+    <message numerus="yes">
+        <source>%n words</source>
+        <translation>
+            <numerusform>%n word</numerusform>
+            <numerusform>%n words</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>FolderChooser</name>
     <message>
         <source>New macOS screenshots will be saved here and appear in Tembra.</source>

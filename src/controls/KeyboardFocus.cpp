@@ -1,9 +1,28 @@
 #include "controls/KeyboardFocus.h"
 
 #include <QFocusEvent>
+#include <QKeyEvent>
 #include <QWidget>
 
 namespace tembra {
+
+namespace {
+
+// It leads nowhere by itself, as when it is held for a shortcut or a click.
+bool isModifier(const QKeyEvent &event) {
+    switch (event.key()) {
+    case Qt::Key_Control:
+    case Qt::Key_Shift:
+    case Qt::Key_Alt:
+    case Qt::Key_AltGr:
+    case Qt::Key_Meta:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
 
 KeyboardFocus::KeyboardFocus(QWidget &widget) : m_widget(widget) {
     widget.installEventFilter(this);
@@ -29,7 +48,8 @@ bool KeyboardFocus::eventFilter(QObject *, QEvent *event) {
         break;
     }
     case QEvent::KeyPress:
-        setShown(m_widget.hasFocus());
+        if (!isModifier(*static_cast<QKeyEvent *>(event)))
+            setShown(m_widget.hasFocus());
         break;
     case QEvent::MouseButtonPress:
         setShown(false);

@@ -22,6 +22,7 @@ inline constexpr QColor iconActive{255, 255, 255};
 inline constexpr QColor accent{59, 130, 246};
 inline constexpr QColor onAccent{255, 255, 255};
 inline constexpr QColor selection{59, 130, 246, 46};
+inline constexpr QColor textSelection{44, 80, 135};
 inline constexpr QColor highlight{255, 255, 255, 15};
 inline constexpr QColor focusRing{96, 156, 255};
 

@@ -24,6 +24,8 @@ Measures measures(TembraButton::Size size) {
         return {27, 12, 7, typography::itemSize};
     case TembraButton::Size::bar:
         return {28, 14, 8, typography::bodySize};
+    case TembraButton::Size::card:
+        return {30, 13, 8, typography::itemSize};
     case TembraButton::Size::regular:
         return {30, 14, 8, typography::bodySize};
     case TembraButton::Size::large:

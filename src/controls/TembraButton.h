@@ -11,8 +11,9 @@ class TembraButton final : public PaintedButton {
 public:
     // `primary` stands out; `plain` stands back; `accent` is the one that keeps what was done.
     enum class Kind { primary, plain, accent };
-    // `compact` fits a settings row, `bar` the bar along a window's top; `large` is the only one on its page.
-    enum class Size { compact, bar, regular, large };
+    // `compact` fits a settings row, `bar` the bar along a window's top, `card` the head of a card; `large` is
+    // the only one on its page.
+    enum class Size { compact, bar, card, regular, large };
 
     explicit TembraButton(Kind kind = Kind::primary, QWidget *parent = nullptr);
     TembraButton(Kind kind, Size size, const QString &title, QWidget *parent = nullptr);
