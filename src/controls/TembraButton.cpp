@@ -25,7 +25,7 @@ Measures measures(TembraButton::Size size) {
     case TembraButton::Size::bar:
         return {28, 14, 8, typography::bodySize};
     case TembraButton::Size::card:
-        return {30, 13, 8, typography::itemSize};
+        return {30, 12, 8, typography::itemSize};
     case TembraButton::Size::regular:
         return {30, 14, 8, typography::bodySize};
     case TembraButton::Size::large:

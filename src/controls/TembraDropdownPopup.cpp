@@ -10,6 +10,8 @@
 #include <QKeyEvent>
 #include <QPainter>
 
+#include <cmath>
+
 namespace tembra {
 
 namespace {
@@ -72,8 +74,9 @@ void TembraDropdownPopup::open() {
 }
 
 QSize TembraDropdownPopup::bodySize() const {
-    const int textWidth = QFontMetrics(font()).horizontalAdvance(currentText());
-    return QSize(textWidth + 2 * sideMargin + chevronRoom, bodyHeight);
+    // Never less than the title is wide, which would be cut then.
+    const double textWidth = std::ceil(QFontMetricsF(font()).horizontalAdvance(currentText()));
+    return QSize(static_cast<int>(textWidth) + 2 * sideMargin + chevronRoom, bodyHeight);
 }
 
 PaintedButton::Outline TembraDropdownPopup::paint(QPainter &painter, const Theme &theme) {

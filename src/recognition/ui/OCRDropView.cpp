@@ -1,16 +1,25 @@
 #include "recognition/ui/OCRDropView.h"
 
+#include "controls/ControlPainting.h"
 #include "controls/DropZoneAppearance.h"
 #include "controls/Palette.h"
 #include "controls/TembraButton.h"
 #include "controls/TextLabel.h"
+#include "controls/Theme.h"
 #include "controls/Typography.h"
+#include "recognition/ui/OCRCard.h"
 
 #include <QLabel>
 #include <QPainter>
 #include <QVBoxLayout>
 
 namespace tembra {
+
+namespace {
+
+constexpr float veilOpacity = 0.7F;
+
+} // namespace
 
 OCRDropView::OCRDropView(QWidget *parent) : QWidget(parent) {
     build();
@@ -62,6 +71,13 @@ void OCRDropView::setOverlay(bool overlay) {
 
 void OCRDropView::paintEvent(QPaintEvent *) {
     QPainter painter(this);
+    if (m_overlay) {
+        // A text would else be read into what is said over it.
+        QColor veil = Theme::of(*this).field;
+        veil.setAlphaF(veilOpacity);
+        painter.setRenderHint(QPainter::Antialiasing);
+        drawField(painter, rect(), OCRCard::radius, veil);
+    }
     DropZoneAppearance::draw(painter, rect(), m_highlighted, m_overlay, {});
 }
 

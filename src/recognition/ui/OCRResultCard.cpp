@@ -30,6 +30,8 @@ constexpr int inset = 20;
 constexpr int headTop = 18;
 constexpr int headHeight = 30;
 constexpr int headSpacing = 8;
+// Less than a button's own: the button keeps its width.
+constexpr int copiedMargin = 8;
 constexpr int textTop = 62;
 constexpr int bottomInset = 12;
 
@@ -82,7 +84,7 @@ void OCRResultCard::build() {
     m_size = new TembraButton(Kind::plain, Size::card, tr("Expand panel"), this);
     m_copy = new TembraButton(Kind::primary, Size::card, tr("Copy"), this);
     const int copiedWidth =
-        m_copy->fontMetrics().horizontalAdvance(tr("Copied")) + 2 * (ringMargin + headSpacing / 2);
+        m_copy->fontMetrics().horizontalAdvance(tr("Copied")) + 2 * (ringMargin + copiedMargin);
     m_copy->setMinimumWidth(std::max(m_copy->sizeHint().width(), copiedWidth));
     m_text = new OCRResultTextView(this);
     m_picture = new OCRPictureView(this);
@@ -119,13 +121,14 @@ void OCRResultCard::layOutHead() {
     const int middle = headTop + headHeight / 2;
     int edge = width() - inset + ringMargin;
     for (QWidget *control : std::initializer_list<QWidget *>{m_copy, m_size, m_newImage, m_layouts}) {
-        const QSize size = control->sizeHint().expandedTo(control->minimumSize());
+        const QSize size(std::max(control->sizeHint().width(), control->minimumWidth()),
+                         headHeight + 2 * ringMargin);
         const int x = edge - size.width();
         const bool isShown = x >= inset - ringMargin && (control != m_layouts || m_offersLayouts);
         control->setVisible(isShown);
         if (!isShown)
             continue;
-        put(*control, QRect(QPoint(x, middle - size.height() / 2), size));
+        put(*control, QRect(QPoint(x, headTop - ringMargin), size));
         edge = x - headSpacing + 2 * ringMargin;
     }
     const QSize count = m_count->sizeHint();

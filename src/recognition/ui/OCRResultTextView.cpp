@@ -12,6 +12,8 @@
 #include <QLinearGradient>
 #include <QMimeData>
 #include <QPainter>
+#include <QProxyStyle>
+#include <QStyleOption>
 #include <QTextBlock>
 
 #include <algorithm>
@@ -44,6 +46,38 @@ QString shown(QString text) {
     return text;
 }
 
+// Lets the text run out into its card at an edge where `hidden` points of it are beyond.
+void fade(QPainter &painter, const QRectF &area, double edge, int hidden, const QColor &card) {
+    if (hidden <= 0)
+        return;
+    QColor strong = card;
+    strong.setAlphaF(std::min(1.0F, static_cast<float>(hidden) / fadeHeight));
+    QColor clear = card;
+    clear.setAlpha(0);
+    const double inner = edge + (edge > area.top() ? -fadeHeight : fadeHeight);
+    QLinearGradient gradient(0, edge, 0, inner);
+    gradient.setColorAt(0, strong);
+    gradient.setColorAt(1, clear);
+    painter.fillRect(QRectF(area.left(), std::min(edge, inner), area.width(), fadeHeight), gradient);
+}
+
+// Shows which link the keyboard acts on in our way.
+class LinkFocusStyle final : public QProxyStyle {
+public:
+    using QProxyStyle::QProxyStyle;
+
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *result) const override {
+        auto *const format = qstyleoption_cast<QStyleHintReturnVariant *>(result);
+        if (hint != SH_TextControl_FocusIndicatorTextCharFormat || !format)
+            return QProxyStyle::styleHint(hint, option, widget, result);
+        QTextCharFormat outlined;
+        outlined.setProperty(QTextFormat::OutlinePen, QPen(palette::focusRing, 2));
+        format->variant = outlined;
+        return 1;
+    }
+};
+
 bool isForOthers(const QKeyEvent &event) {
     return event.matches(QKeySequence::Copy) || event.matches(QKeySequence::Cut) ||
            event.matches(QKeySequence::Paste);
@@ -63,6 +97,9 @@ QPalette colors(QPalette palette, const Theme &theme) {
 OCRResultTextView::OCRResultTextView(QWidget *parent)
     : QTextBrowser(parent), m_scroller(new ShelfScroller(*verticalScrollBar(), this)) {
     setAccessibleName(tr("Recognized text"));
+    auto *const style = new LinkFocusStyle;
+    style->setParent(this);
+    setStyle(style);
     setFont(typography::font(typography::headlineSize));
     setPalette(colors(palette(), Theme::of(*this)));
     setFrameShape(QFrame::NoFrame);
@@ -262,25 +299,15 @@ void OCRResultTextView::resizeEvent(QResizeEvent *event) {
 void OCRResultTextView::paintEvent(QPaintEvent *event) {
     QTextBrowser::paintEvent(event);
     QPainter painter(viewport());
-    const QRect area = viewport()->rect();
+    const QRectF area = viewport()->rect();
     const QScrollBar &bar = *verticalScrollBar();
     const QColor card = Theme::of(*this).field;
-    QColor clear = card;
-    clear.setAlpha(0);
-    const auto fade = [&](int from, int to) {
-        QLinearGradient gradient(0, from, 0, to);
-        gradient.setColorAt(0, card);
-        gradient.setColorAt(1, clear);
-        painter.fillRect(0, std::min(from, to), area.width(), fadeHeight, gradient);
-    };
-    if (bar.value() > bar.minimum())
-        fade(0, fadeHeight);
-    if (bar.value() < bar.maximum())
-        fade(area.height(), area.height() - fadeHeight);
+    fade(painter, area, area.top(), bar.value() - bar.minimum(), card);
+    fade(painter, area, area.bottom(), bar.maximum() - bar.value(), card);
     if (!m_keyboardFocus.isShown())
         return;
     painter.setRenderHint(QPainter::Antialiasing);
-    drawFocusRing(painter, QRectF(area).adjusted(3, 3, -3, -3), 5);
+    drawFocusRing(painter, area.adjusted(3, 3, -3, -3), 5);
 }
 
 } // namespace tembra
