@@ -20,6 +20,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace tembra {
 namespace {
 
@@ -45,7 +47,10 @@ public:
     QList<QKeySequence> keys;
 
 protected:
-    void keyPressEvent(QKeyEvent *event) override { keys += QKeySequence(event->keyCombination()); }
+    void keyPressEvent(QKeyEvent *event) override {
+        if (event->key() != Qt::Key_Control)
+            keys += QKeySequence(event->keyCombination());
+    }
 };
 
 class OCRPanelTest : public testing::Test {
@@ -227,9 +232,7 @@ TEST_F(OCRPanelTest, leavesCopyingPastingAndEscapeToWhatItStandsIn) {
     const QKeyCombination keys[] = {Qt::CTRL | Qt::Key_C, Qt::CTRL | Qt::Key_V, Qt::Key_Escape};
     for (const QKeyCombination key : keys) {
         QTest::keyClick(&text(), key.key(), key.keyboardModifiers());
-        ASSERT_FALSE(window.keys.isEmpty());
-        EXPECT_EQ(window.keys.takeLast(), QKeySequence(key));
-        EXPECT_TRUE(window.keys.isEmpty()) << window.keys.last().toString().toStdString();
+        EXPECT_EQ(std::exchange(window.keys, {}), QList{QKeySequence(key)});
     }
     QTest::keyClick(&text(), Qt::Key_A, Qt::ControlModifier);
     EXPECT_TRUE(window.keys.isEmpty());
@@ -259,11 +262,10 @@ TEST_F(OCRPanelTest, takesImagesInEveryPhaseAndNothingElse) {
         EXPECT_TRUE(drag(file));
         EXPECT_TRUE(drop(file));
         EXPECT_FALSE(showsOverlay());
-        EXPECT_FALSE(drop(words));
     }
     ASSERT_EQ(inputs.count(), 4);
     EXPECT_EQ(inputs.first().first().value<OCRInput>(), (OCRInput{OCRInput::File{u"/pictures/one.png"_s}}));
-    EXPECT_TRUE(drop(pixels));
+    EXPECT_TRUE(drag(pixels) && drop(pixels));
     EXPECT_TRUE(std::holds_alternative<OCRInput::Data>(inputs.last().first().value<OCRInput>().source));
     for (const QWidget *child : panel->findChildren<QWidget *>())
         EXPECT_FALSE(child->acceptDrops()) << child->metaObject()->className();
