@@ -7,6 +7,7 @@
 #include "base/QtScheduler.h"
 #include "base/ThreadQueue.h"
 #include "platform/Platform.h"
+#include "recognition/model/OCRRecognizer.h"
 #include "platform/linux/LinuxCaptureMarkers.h"
 #include "platform/linux/LinuxFileFacts.h"
 #include "platform/linux/LinuxFolderFiles.h"
@@ -89,6 +90,7 @@ int main(int argc, char **argv) {
         {*platform.folderEvents, scheduler, systemUptime, systemNow, queue, detector,
          [](const QString &) { return true; }},
         std::make_shared<FolderReader>(*platform.folderFiles, detector, [] { return QString(); }));
+    OCRRecognizer recognizer(*platform.textRecognizer, *platform.pictureDecoder, queue);
     const ShelfServices services{scheduler,
                                  systemUptime,
                                  systemNow,
@@ -101,6 +103,7 @@ int main(int argc, char **argv) {
                                  *platform.thumbnails,
                                  *platform.fileFacts,
                                  *platform.pictureDecoder,
+                                 recognizer,
                                  queue};
     ClipboardStore store({.scheduler = scheduler,
                           .uptime = systemUptime,

@@ -47,6 +47,7 @@ public:
     Result<void> openFolder(const QString &) override { return {}; }
     std::vector<Application> applicationsFor(const QStringList &) const override { return {}; }
     Result<void> open(const QStringList &, const QString &) override { return {}; }
+    Result<void> openLink(const QUrl &) override { return {}; }
 };
 
 class NoPromises final : public FilePromises {

@@ -35,7 +35,9 @@ AppDelegate::AppDelegate(Platform &platform, Scheduler &scheduler)
       m_previewQueue(QStringLiteral("Tembra.Preview")),
       m_editorQueue(QStringLiteral("Tembra.Editor.IO")),
       m_editorImageQueue(QStringLiteral("Tembra.Editor.Images")),
-      m_wordQueue(QStringLiteral("Tembra.Editor.WordRecognition")) {}
+      m_wordQueue(QStringLiteral("Tembra.Editor.WordRecognition")),
+      m_ocrQueue(QStringLiteral("local.dova.Tembra.ocr")),
+      m_ocrRecognizer(*platform.textRecognizer, *platform.pictureDecoder, m_ocrQueue) {}
 
 AppDelegate::~AppDelegate() = default;
 
@@ -125,6 +127,7 @@ std::unique_ptr<ShelfController> AppDelegate::makeShelfController() {
                                  .thumbnails = *m_platform.thumbnails,
                                  .files = *m_platform.fileFacts,
                                  .pictures = *m_platform.pictureDecoder,
+                                 .recognizer = m_ocrRecognizer,
                                  .previewQueue = m_previewQueue,
                                  .isCapture = [this](const QString &path) { return isCapture(path); },
                                  .makeRecordingPlayer = makeRecordingPlayer};

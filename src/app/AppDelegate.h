@@ -2,6 +2,7 @@
 
 #include "base/ThreadQueue.h"
 #include "platform/Platform.h"
+#include "recognition/model/OCRRecognizer.h"
 #include "screenshots/ScreenshotCaptureDetector.h"
 #include "screenshots/ScreenshotFolderTraversal.h"
 
@@ -72,6 +73,8 @@ private:
     ThreadQueue m_editorQueue;
     ThreadQueue m_editorImageQueue;
     ThreadQueue m_wordQueue;
+    ThreadQueue m_ocrQueue;
+    OCRRecognizer m_ocrRecognizer;
     std::unique_ptr<EditorImageCopies> m_imageCopies;
     std::unique_ptr<AppSettings> m_settings;
     std::unique_ptr<AppFlowCoordinator> m_coordinator;

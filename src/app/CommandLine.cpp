@@ -23,25 +23,45 @@ tl::unexpected<Error> wrongUsage(const QString &message) {
 std::optional<CommandLine::Verb> verbNamed(const QString &word) {
     using Verb = CommandLine::Verb;
     static const QHash<QString, Verb> verbs{
-        {QStringLiteral("open"), Verb::open},        {QStringLiteral("close"), Verb::close},
-        {QStringLiteral("toggle"), Verb::toggle},    {QStringLiteral("status"), Verb::status},
-        {QStringLiteral("add"), Verb::add},          {QStringLiteral("edit"), Verb::edit},
-        {QStringLiteral("scan"), Verb::scan},        {QStringLiteral("render"), Verb::render},
-        {QStringLiteral("quit"), Verb::quit},        {QStringLiteral("help"), Verb::help},
-        {QStringLiteral("--help"), Verb::help},      {QStringLiteral("-h"), Verb::help},
-        {QStringLiteral("--version"), Verb::version}};
+        {QStringLiteral("open"), Verb::open},     {QStringLiteral("close"), Verb::close},
+        {QStringLiteral("toggle"), Verb::toggle}, {QStringLiteral("status"), Verb::status},
+        {QStringLiteral("add"), Verb::add},       {QStringLiteral("edit"), Verb::edit},
+        {QStringLiteral("scan"), Verb::scan},     {QStringLiteral("render"), Verb::render},
+        {QStringLiteral("ocr"), Verb::ocr},       {QStringLiteral("quit"), Verb::quit},
+        {QStringLiteral("help"), Verb::help},     {QStringLiteral("--help"), Verb::help},
+        {QStringLiteral("-h"), Verb::help},       {QStringLiteral("--version"), Verb::version}};
     const auto found = verbs.constFind(word);
     return found == verbs.cend() ? std::nullopt : std::optional(*found);
+}
+
+bool hasJson(CommandLine::Verb verb) {
+    using Verb = CommandLine::Verb;
+    return verb == Verb::status || verb == Verb::scan || verb == Verb::ocr;
+}
+
+// What `ocr` can be told; false for every other word.
+bool takeTextOption(CommandLine &line, const QString &word) {
+    if (word == u"--words")
+        line.words = true;
+    else if (word == u"--paragraphs")
+        line.textLayout = OCRTextLayout::paragraphs;
+    else if (word == u"--one-line")
+        line.textLayout = OCRTextLayout::oneLine;
+    else
+        return false;
+    return true;
 }
 
 // Takes one word after the verb, and its value where it has one.
 Result<void> takeWord(CommandLine &line, QStringList &words) {
     using Verb = CommandLine::Verb;
     const QString word = words.takeFirst();
-    if (word == u"--json" && (line.verb == Verb::status || line.verb == Verb::scan)) {
+    if (word == u"--json" && hasJson(line.verb)) {
         line.json = true;
         return {};
     }
+    if (line.verb == Verb::ocr && takeTextOption(line, word))
+        return {};
     if (word == u"--tab" && line.verb == Verb::open) {
         if (words.isEmpty() || !shelfTabNamed(words.constFirst()))
             return wrongUsage(translated("--tab takes tray, screenshots or text."));
@@ -59,7 +79,8 @@ Result<void> takeWord(CommandLine &line, QStringList &words) {
         (word == u"-o" ? line.output : line.edits) = words.takeFirst();
         return {};
     }
-    const bool takesPath = line.verb == Verb::scan || line.verb == Verb::render || line.verb == Verb::edit;
+    const bool takesPath = line.verb == Verb::scan || line.verb == Verb::render || line.verb == Verb::edit ||
+                           line.verb == Verb::ocr;
     if (takesPath && line.path.isEmpty() && !word.startsWith(u'-')) {
         line.path = word;
         return {};
@@ -88,6 +109,8 @@ Result<CommandLine> CommandLine::parse(const QStringList &words) {
         return wrongUsage(translated("add takes the files to put into the file tray."));
     if (line.verb == Verb::edit && line.path.isEmpty())
         return wrongUsage(translated("edit takes the image to open."));
+    if (line.verb == Verb::ocr && line.path.isEmpty())
+        return wrongUsage(translated("ocr takes the image to read."));
     if (line.verb == Verb::render && (line.path.isEmpty() || line.edits.isEmpty() || line.output.isEmpty()))
         return wrongUsage(translated("render takes an image, --edits and -o with a file each."));
     return line;
@@ -106,6 +129,8 @@ QString CommandLine::usage() {
                       "  tembra scan FOLDER [--json]  tell what is recognised as a capture, and why\n"
                       "  tembra render FILE --edits EDITS.json -o OUT\n"
                       "                               draw annotations and crop onto an image\n"
+                      "  tembra ocr FILE [--paragraphs | --one-line] [--words] [--json]\n"
+                      "                               read the text of an image\n"
                       "  tembra quit                  end the running one\n"
                       "  tembra --version, --help\n");
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Result.h"
+#include "recognition/model/OCRTextLayout.h"
 
 #include <QString>
 #include <QStringList>
@@ -9,10 +10,10 @@ namespace tembra {
 
 // What the words of the command line ask for. A value; parsing has no effects.
 struct CommandLine {
-    enum class Verb { start, open, close, toggle, add, edit, status, scan, render, quit, help, version };
+    enum class Verb { start, open, close, toggle, add, edit, status, scan, render, ocr, quit, help, version };
 
     Verb verb = Verb::start;
-    // The folder of `scan`, the image of `render` and `edit`.
+    // The folder of `scan`, the image of `render`, `edit` and `ocr`.
     QString path;
     // What `render` is to draw, and where the result goes.
     QString edits;
@@ -21,6 +22,9 @@ struct CommandLine {
     QStringList files;
     // The tab of `open`: "tray", "screenshots" or "text"; empty when none is named.
     QString tab;
+    // How `ocr` puts the text together, and whether it tells each word's box.
+    OCRTextLayout textLayout = OCRTextLayout::lines;
+    bool words = false;
     bool json = false;
 
     // `words` without the program's own name. Error: one sentence that says what is wrong with the words.

@@ -51,6 +51,12 @@ QJsonValue lastCaptureValue(const ShelfStatus &status) {
                        {QStringLiteral("at"), isoDate(status.lastCapture->at)}};
 }
 
+QJsonObject recognitionObject(const ShelfStatus &status) {
+    return {{QStringLiteral("phase"), status.recognitionPhase},
+            {QStringLiteral("text"), status.recognitionText},
+            {QStringLiteral("expanded"), status.isRecognitionExpanded}};
+}
+
 QJsonObject autoCleanObject(const ShelfStatus &status) {
     QJsonValue next = QJsonValue::Null;
     if (status.nextAutoCleanCheck)
@@ -100,6 +106,7 @@ QByteArray statusJson(const ShelfStatus &status, const EditorStatus &editor, con
                                                      {QStringLiteral("count"), status.notificationCount}}},
         {QStringLiteral("tray"), trayObject(status)},
         {QStringLiteral("editor"), editorObject(editor)},
+        {QStringLiteral("recognition"), recognitionObject(status)},
         {QStringLiteral("lastCapture"), lastCaptureValue(status)},
         {QStringLiteral("autoClean"), autoCleanObject(status)},
         {QStringLiteral("undo"), QJsonArray::fromStringList(status.undo)},

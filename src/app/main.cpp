@@ -1,5 +1,6 @@
 #include "app/AppDelegate.h"
 #include "app/CommandLine.h"
+#include "app/OCRCommand.h"
 #include "app/RenderCommand.h"
 #include "app/ScanCommand.h"
 #include "app/Version.h"
@@ -80,6 +81,7 @@ Result<QString> sendToRunning(const CommandLine &line) {
     case Verb::start:
     case Verb::scan:
     case Verb::render:
+    case Verb::ocr:
     case Verb::help:
     case Verb::version:
         break;
@@ -87,19 +89,20 @@ Result<QString> sendToRunning(const CommandLine &line) {
     return QString();
 }
 
-// Texts are drawn with the desktop's fonts, on no display.
-int runRendering(const CommandLine &line, int argc, char **argv) {
+// With pictures and the desktop's fonts, on no display.
+int runPictureCommand(const CommandLine &line, int argc, char **argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
     QTranslator wording;
     loadWording(wording);
-    return finish(renderImage(line.path, line.edits, line.output));
+    return finish(line.verb == CommandLine::Verb::ocr ? readText(line)
+                                                      : renderImage(line.path, line.edits, line.output));
 }
 
 // A command that ends by itself, without windows.
 int runCommand(const CommandLine &line, int argc, char **argv) {
-    if (line.verb == CommandLine::Verb::render)
-        return runRendering(line, argc, argv);
+    if (line.verb == CommandLine::Verb::render || line.verb == CommandLine::Verb::ocr)
+        return runPictureCommand(line, argc, argv);
     const QCoreApplication application(argc, argv);
     QTranslator wording;
     loadWording(wording);

@@ -4,6 +4,7 @@
 
 #include <QIcon>
 #include <QStringList>
+#include <QUrl>
 
 #include <functional>
 #include <memory>
@@ -42,6 +43,8 @@ public:
     [[nodiscard]] virtual std::vector<Application> applicationsFor(const QStringList &paths) const = 0;
     // Opens the files in that application; with an empty identifier in the default one.
     virtual Result<void> open(const QStringList &paths, const QString &identifier) = 0;
+    // In the program for its scheme.
+    virtual Result<void> openLink(const QUrl &url) = 0;
 };
 
 } // namespace tembra

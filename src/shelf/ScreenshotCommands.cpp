@@ -93,6 +93,17 @@ void ScreenshotCommands::openFiles(const QStringList &paths, const QString &appl
     tembra::openFiles(m_workspace, paths, applicationIdentifier, onError);
 }
 
+bool ScreenshotCommands::canRecognizeSelectedScreenshot() const {
+    const QStringList selected = selectedPaths();
+    return m_settings.state().imageToTextEnabled && selected.size() == 1 &&
+           CaptureMedia::isImageExtension(CaptureMedia::extension(selected.first()));
+}
+
+void ScreenshotCommands::recognizeSelectedScreenshot() {
+    if (canRecognizeSelectedScreenshot())
+        onRecognize(selectedPaths().first());
+}
+
 void ScreenshotCommands::trashSelected() {
     m_session.removeScreenshots(removableSelectedShots());
 }
@@ -109,10 +120,13 @@ std::unique_ptr<QMenu> ScreenshotCommands::menu() {
     const ScreenshotMenuState state{.selectedCount = count,
                                     .pinnedCount = count - static_cast<int>(removableSelectedShots().size()),
                                     .canEdit = std::ranges::any_of(paths, CaptureMedia::isEditable),
+                                    .offersRecognition = m_settings.state().imageToTextEnabled,
+                                    .canRecognize = canRecognizeSelectedScreenshot(),
                                     .applications = m_workspace.applicationsFor(paths)};
     return screenshotMenu(state, {.copy = [this] { copySelectedScreenshots(); },
                                   .openInEditor = onOpenInEditor,
                                   .openWith = [this](const QString &id) { openScreenshotsWith(id); },
+                                  .recognize = [this] { recognizeSelectedScreenshot(); },
                                   .reveal = [this] { revealSelectedScreenshots(); },
                                   .togglePins = [this] { toggleSelectedScreenshotPins(); },
                                   .trash = [this] { trashSelected(); }});

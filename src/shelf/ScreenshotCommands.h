@@ -29,6 +29,8 @@ public:
     ShowFailure onError;
     // The selected ones are to open in the editor.
     std::function<void()> onOpenInEditor;
+    // The text of the image at that path is wanted.
+    std::function<void(const QString &path)> onRecognize;
 
     // As the shelf shows them now.
     [[nodiscard]] std::vector<ScreenshotSection> sections() const;
@@ -46,6 +48,9 @@ public:
     void openScreenshotsWith(const QString &applicationIdentifier);
     // In the default application when the identifier is empty.
     void openFiles(const QStringList &paths, const QString &applicationIdentifier);
+    // One image is selected, and its text can be shown.
+    [[nodiscard]] bool canRecognizeSelectedScreenshot() const;
+    void recognizeSelectedScreenshot();
     // Those that are not pinned.
     void trashSelected();
     void openFolder(const QString &folder);

@@ -18,6 +18,8 @@ std::optional<ShelfCommand> withCtrl(int key) {
         return ShelfCommand::pin;
     case Qt::Key_F:
         return ShelfCommand::reveal;
+    case Qt::Key_T:
+        return ShelfCommand::recognize;
     default:
         return std::nullopt;
     }

@@ -1,5 +1,6 @@
 #include "shelf/ShelfContent.h"
 
+#include "recognition/ui/OCRPanel.h"
 #include "shelf/AccessibleShelf.h"
 #include "shelf/CaptureNotificationView.h"
 #include "shelf/ClipboardShelf.h"
@@ -51,20 +52,27 @@ void ShelfContent::build(const ShelfServices &services, ClipboardStore &store) {
     const FilePresentation presentation{services.thumbnails, services.files, m_thumbnailCache};
     m_grid = new NativeScreenshotGrid(presentation, this);
     m_tray = new ClipboardShelf(store, services, presentation, this);
+    m_recognition = new OCRPanel(services.scheduler, this);
     m_message = new ScreenshotMessageView(this);
     m_notification = new CaptureNotificationView(services.thumbnails, services.files, this);
 }
 
 void ShelfContent::connectTray() {
     connect(m_header, &ShelfHeader::tabDraggedOver, this, &ShelfContent::tabDraggedOver);
-    connect(m_header, &ShelfHeader::droppedOnTray, this,
-            [this](const QMimeData *content) { m_tray->receiveDrop(*content); });
+    connect(m_header, &ShelfHeader::droppedOn, this, &ShelfContent::receiveDrop);
     connect(m_tray, &ClipboardShelf::filesDropped, this, &ShelfContent::filesDropped);
     connect(m_tray, &ClipboardShelf::filesTakenOut, this, &ShelfContent::filesTakenOut);
     connect(m_tray, &ClipboardShelf::menuRequested, this, &ShelfContent::trayMenuRequested);
     connect(m_tray, &ClipboardShelf::dragRequested, this, &ShelfContent::dragRequested);
     connect(m_tray, &ClipboardShelf::selectionChanged, this, &ShelfContent::selectionChanged);
     connect(m_tray, &ClipboardShelf::failed, this, &ShelfContent::failed);
+}
+
+void ShelfContent::receiveDrop(ShelfTab tab, const QMimeData *content) {
+    if (tab == ShelfTab::fileTray)
+        m_tray->receiveDrop(*content);
+    else if (const auto input = OCRInput::read(*content))
+        Q_EMIT m_recognition->inputReceived(*input);
 }
 
 void ShelfContent::apply(State state) {
@@ -90,14 +98,18 @@ void ShelfContent::apply(State state) {
 }
 
 void ShelfContent::showTab(State &state) {
-    const bool isTray = m_activeTab == ShelfTab::fileTray;
-    m_grid->setVisible(!isTray && !state.message);
-    m_message->setVisible(!isTray && state.message);
-    m_tray->setVisible(isTray);
-    if (isTray) {
+    const bool isScreenshots = m_activeTab == ShelfTab::screenshots;
+    m_grid->setVisible(isScreenshots && !state.message);
+    m_message->setVisible(isScreenshots && state.message);
+    m_tray->setVisible(m_activeTab == ShelfTab::fileTray);
+    m_recognition->apply(state.recognition, state.recognizedPicture);
+    m_recognition->setVisible(m_activeTab == ShelfTab::imageToText);
+    if (m_activeTab == ShelfTab::fileTray) {
         m_tray->setShowsFileNames(state.showsFileNames);
         return m_tray->refresh();
     }
+    if (!isScreenshots)
+        return;
     if (state.message) {
         // Nothing that is hidden stays selected.
         m_grid->render({});
@@ -108,12 +120,14 @@ void ShelfContent::showTab(State &state) {
 }
 
 std::vector<QWidget *> ShelfContent::tabHosts() const {
-    return {m_grid, m_message, m_tray};
+    return {m_grid, m_message, m_tray, m_recognition};
 }
 
 QWidget *ShelfContent::tabHost(ShelfTab tab) const {
     if (tab == ShelfTab::fileTray)
         return m_tray;
+    if (tab == ShelfTab::imageToText)
+        return m_recognition;
     return m_message->isHidden() ? static_cast<QWidget *>(m_grid) : m_message;
 }
 
@@ -132,7 +146,9 @@ void ShelfContent::restoreTabResponder(ShelfTab tab) {
 }
 
 QStringList ShelfContent::selectedPaths() const {
-    return m_activeTab == ShelfTab::fileTray ? m_tray->availableSelection() : m_grid->selectedPaths();
+    if (m_activeTab == ShelfTab::fileTray)
+        return m_tray->availableSelection();
+    return m_activeTab == ShelfTab::screenshots ? m_grid->selectedPaths() : QStringList();
 }
 
 void ShelfContent::takeFocus() {
@@ -170,6 +186,7 @@ void ShelfContent::layOut() {
     m_grid->setGeometry(below);
     m_message->setGeometry(below);
     m_tray->setGeometry(below);
+    m_recognition->setGeometry(below);
     m_notification->setGeometry(rect());
 }
 

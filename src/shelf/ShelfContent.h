@@ -1,5 +1,6 @@
 #pragma once
 
+#include "recognition/model/OCRState.h"
 #include "shelf/CaptureNotification.h"
 #include "shelf/FileGridState.h"
 #include "shelf/FileThumbnailCache.h"
@@ -21,6 +22,7 @@ class CaptureNotificationView;
 class ClipboardShelf;
 class ClipboardStore;
 class NativeScreenshotGrid;
+class OCRPanel;
 class ScreenshotMessageView;
 class ShelfHeader;
 
@@ -39,6 +41,9 @@ public:
         std::optional<ScreenshotMessage> message;
         FileGridState screenshots;
         bool showsFileNames = true;
+        OCRState recognition;
+        // That the text was read from, small.
+        QImage recognizedPicture;
         QSet<ScreenshotFileIdentity> selection;
         // What an offered undo would reverse.
         std::optional<QString> undoName;
@@ -61,6 +66,7 @@ public:
     // Of the screenshots.
     [[nodiscard]] QSet<ScreenshotFileIdentity> selection() const;
     [[nodiscard]] ClipboardShelf &tray() { return *m_tray; }
+    [[nodiscard]] OCRPanel &recognition() { return *m_recognition; }
 
 Q_SIGNALS:
     void tabClicked(tembra::ShelfTab tab);
@@ -94,6 +100,7 @@ protected:
 private:
     void build(const ShelfServices &services, ClipboardStore &store);
     void connectTray();
+    void receiveDrop(ShelfTab tab, const QMimeData *content);
     void layOut();
     void showTab(State &state);
     [[nodiscard]] std::vector<QWidget *> tabHosts() const;
@@ -109,6 +116,7 @@ private:
     ShelfHeader *m_header = nullptr;
     NativeScreenshotGrid *m_grid = nullptr;
     ClipboardShelf *m_tray = nullptr;
+    OCRPanel *m_recognition = nullptr;
     ScreenshotMessageView *m_message = nullptr;
     CaptureNotificationView *m_notification = nullptr;
     // What had the keyboard last in each tab.

@@ -7,6 +7,7 @@
 #include "shelf/ClearScreenshotsDialog.h"
 #include "shelf/ClipboardShelf.h"
 #include "shelf/FolderChooser.h"
+#include "shelf/ImageChooser.h"
 #include "shelf/SafetyReviewDialog.h"
 #include "shelf/ScreenshotCommands.h"
 #include "shelf/ScreenshotFolderMessage.h"
@@ -28,11 +29,6 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr QSize panelSize{744, 256};
-
-// The tabs whose content there is.
-const std::vector<ShelfTab> builtTabs{ShelfTab::screenshots, ShelfTab::fileTray};
-
 bool isShown(const std::vector<ShelfTab> &tabs, ShelfTab tab) {
     return std::ranges::find(tabs, tab) != tabs.end();
 }
@@ -52,6 +48,7 @@ ShelfController::ShelfController(AppSettings &settings, std::unique_ptr<ShelfSes
       m_tabHover(services.scheduler),
       m_announcer(services.scheduler),
       m_preview(services),
+      m_ocr(services.recognizer, services.pasteboard, services.scheduler),
       m_screenshotFeedback(
           [](QStringList &phrases) { std::ranges::shuffle(phrases, *QRandomGenerator::global()); }),
       m_screenshotAutoOpen(services.isCapture) {
@@ -62,7 +59,11 @@ ShelfController::ShelfController(AppSettings &settings, std::unique_ptr<ShelfSes
         showMenu(screenshotApplicationsMenu(m_services.workspace.applicationsFor(paths), open), position);
     };
     m_preview.onOpen = [this](const QStringList &paths) { m_commands->openFiles(paths, QString()); };
+    m_commands->onRecognize = [this](const QString &path) { recognize({OCRInput::File{path}}); };
+    m_ocr.onStateChange = [this] { recognitionChanged(); };
+    m_ocr.onResize = [this] { fitPanel(); };
     askForFolder = askForScreenshotsFolder;
+    askForImage = tembra::askForImage;
     askForSafetyReview = showSafetyReview;
     askForClearing = showClearScreenshots;
     onError = [](const QString &title, const QString &message) {
@@ -134,6 +135,7 @@ ShelfContent &ShelfController::content() {
     m_content = std::make_unique<ShelfContent>(m_services, m_session->clipboard);
     connectTabs();
     connectFiles();
+    connectRecognition();
     return *m_content;
 }
 
@@ -248,7 +250,7 @@ void ShelfController::showExpanded() {
     m_locationMonitor->check();
     if (m_isStale)
         render();
-    m_surfaces->present(ShelfPresentation::expanded(QSize(panelSize.width(), targetPanelHeight())));
+    fitPanel();
     m_session->screenshotAutoCopy.writePostponed();
 }
 
@@ -304,19 +306,16 @@ bool ShelfController::activateTab(ShelfTab tab, bool duringDrag) {
         m_tabBeforeDrag = m_activeTab;
     m_activeTab = tab;
     render();
+    fitPanel();
     return true;
 }
 
 std::vector<ShelfTab> ShelfController::tabs() const {
-    return shownTabs(m_settings.state(), builtTabs);
+    return shownTabs(m_settings.state());
 }
 
 bool ShelfController::canSwitchTabsWithHover(ShelfTab tab) const {
     return m_settings.state().hoverOnTabToOpen && m_expanded && isShown(tabs(), tab);
-}
-
-int ShelfController::targetPanelHeight() const {
-    return panelSize.height();
 }
 
 void ShelfController::applySettings(const AppSettingsState &state) {
@@ -328,6 +327,8 @@ void ShelfController::applySettings(const AppSettingsState &state) {
     configureAutoOpen();
     if (!isShown(tabs(), m_activeTab))
         m_activeTab = ShelfTab::screenshots;
+    if (!state.imageToTextEnabled)
+        m_ocr.reset();
     reconcileDisplayWindows();
     updateFolderState();
 }
@@ -359,6 +360,8 @@ void ShelfController::render() {
     const QStringList undoable = m_session->screenshotUndoManager.undoNames();
     if (m_undoOffer.isPending() && !undoable.isEmpty())
         state.undoName = undoable.first();
+    state.recognition = m_ocr.state();
+    state.recognizedPicture = m_ocr.picture();
     const AppSettingsState &settings = m_settings.state();
     state.showsFileNames = settings.showFileNames;
     state.message = screenshotFolderMessage(m_folderState.value_or(ScreenshotFolderState::none));

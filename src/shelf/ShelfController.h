@@ -2,6 +2,7 @@
 
 #include "base/Generation.h"
 #include "base/Result.h"
+#include "recognition/model/OCRController.h"
 #include "screenshots/ScreenshotAutoCopy.h"
 #include "screenshots/ScreenshotAutoOpen.h"
 #include "screenshots/ScreenshotDestination.h"
@@ -58,6 +59,8 @@ public:
     // Asks the user for a folder, starting at the one suggested; nothing when the user changed their mind.
     // Replaceable.
     std::function<std::optional<QString>(const QString &suggested)> askForFolder;
+    // Asks for an image file, starting in a folder; nothing when the user changed their mind. Replaceable.
+    std::function<std::optional<QString>(const QString &folder)> askForImage;
     // Shows a failure as title and message. Replaceable.
     std::function<void(const QString &title, const QString &message)> onError;
     // Asks whether auto-clean, which would move that many files, is to stay on. Replaceable.
@@ -108,6 +111,8 @@ public:
     Result<void> openScreenshotEditor(const QString &path);
     // The first of the selected ones that the editor opens.
     void openSelectedScreenshotsInEditor();
+    // Reads the text of an image, in its tab.
+    void recognize(const OCRInput &input);
     // All screenshots, after a question.
     void clearScreenshots();
     void revealFolder();
@@ -123,6 +128,7 @@ public:
 private:
     void connectTabs();
     void connectFiles();
+    void connectRecognition();
     void connectHover();
     void connectAnnouncer();
     void connectSession();
@@ -161,6 +167,15 @@ private:
     void perform(ShelfCommand command);
     void dragSelected();
     void pasteIntoTray();
+    bool handleRecognitionKey(ShelfCommand command);
+    void chooseImage();
+    void pasteForRecognition();
+    void copyRecognizedText();
+    bool copyRecognizedSelection();
+    void openLink(const QUrl &url);
+    void recognitionChanged();
+    // The shelf takes the size that its tab wants.
+    void fitPanel();
     void trayChanged();
     void updatePreview();
     [[nodiscard]] QRectF previewArea() const;
@@ -180,6 +195,7 @@ private:
     [[nodiscard]] bool canSwitchTabsWithHover(ShelfTab tab) const;
     [[nodiscard]] std::vector<ShelfTab> tabs() const;
     [[nodiscard]] int targetPanelHeight() const;
+    [[nodiscard]] std::optional<double> availableHeight() const;
 
     AppSettings &m_settings;
     ShelfServices m_services;
@@ -193,6 +209,7 @@ private:
     TabHover m_tabHover;
     CaptureAnnouncer m_announcer;
     FilePreview m_preview;
+    OCRController m_ocr;
     ScreenshotFeedback m_screenshotFeedback;
     ScreenshotAutoOpen m_screenshotAutoOpen;
 

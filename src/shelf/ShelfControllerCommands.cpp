@@ -25,6 +25,8 @@ bool ShelfController::handleShelfKey(const QKeyEvent &event) {
     const auto command = shelfCommand(event);
     if (!command || !m_expanded || !m_content)
         return false;
+    if (m_activeTab == ShelfTab::imageToText)
+        return handleRecognitionKey(*command);
     // What is not seen is not acted on.
     const bool actsOnSelection =
         *command != ShelfCommand::undo && *command != ShelfCommand::redo && *command != ShelfCommand::paste;
@@ -51,6 +53,8 @@ void ShelfController::perform(ShelfCommand command) {
         return isTray ? void() : m_commands->toggleSelectedScreenshotPins();
     case ShelfCommand::reveal:
         return isTray ? tray.revealSelected() : m_commands->revealSelectedScreenshots();
+    case ShelfCommand::recognize:
+        return isTray ? void() : m_commands->recognizeSelectedScreenshot();
     case ShelfCommand::remove:
         return isTray ? tray.removeSelected() : m_commands->trashSelected();
     case ShelfCommand::preview:

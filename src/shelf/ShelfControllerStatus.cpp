@@ -10,6 +10,22 @@
 
 namespace tembra {
 
+namespace {
+
+QString phaseName(const OCRState &state) {
+    static const QStringList names{QStringLiteral("idle"), QStringLiteral("loading"),
+                                   QStringLiteral("result"), QStringLiteral("error")};
+    return names.at(static_cast<qsizetype>(state.phase.index()));
+}
+
+// The text, or why there is none.
+QString shownText(const OCRState &state) {
+    const auto *const error = std::get_if<OCRState::Error>(&state.phase);
+    return error ? error->message : state.result();
+}
+
+} // namespace
+
 ShelfStatus ShelfController::status() const {
     ShelfStatus status;
     const FolderShelf &shelf = m_session->folderShelf();
@@ -36,6 +52,9 @@ ShelfStatus ShelfController::status() const {
         status.notificationDetail = showing->detail();
         status.notificationCount = showing->captureCount;
     }
+    status.recognitionPhase = phaseName(m_ocr.state());
+    status.recognitionText = shownText(m_ocr.state());
+    status.isRecognitionExpanded = m_ocr.state().isExpanded;
     status.lastCapture = m_lastCapture;
     status.autoCleanDays = static_cast<int>(m_settings.state().screenshotAutoClean);
     status.autoCleanReview = static_cast<int>(m_session->autoCleanReview());

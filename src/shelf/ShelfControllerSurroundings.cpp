@@ -55,6 +55,7 @@ void ShelfController::scheduleDisplayReconciliation() {
 
 void ShelfController::reconcileDisplayWindows() {
     m_surfaces->reconcileDisplayWindows(m_settings.state().displayPreference);
+    fitPanel();
     // An open shelf that came here from another display waits for the pointer to follow.
     if (!m_expanded)
         m_hover.requestPointerEvaluation();

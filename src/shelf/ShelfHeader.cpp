@@ -98,11 +98,12 @@ void ShelfHeader::build() {
         connect(button, &ShelfButton::entered, this, [this, tab] { Q_EMIT tabHovered(tab); });
         connect(button, &ShelfButton::left, this, [this, tab] { Q_EMIT tabLeft(tab); });
         m_buttons.push_back(button);
-        if (tab != ShelfTab::fileTray)
+        if (tab == ShelfTab::screenshots)
             continue;
         button->setAcceptDrops(true);
         connect(button, &ShelfButton::draggedOver, this, [this, tab] { Q_EMIT tabDraggedOver(tab); });
-        connect(button, &ShelfButton::dropped, this, &ShelfHeader::droppedOnTray);
+        connect(button, &ShelfButton::dropped, this,
+                [this, tab](const QMimeData *content) { Q_EMIT droppedOn(tab, content); });
     }
     update();
 }

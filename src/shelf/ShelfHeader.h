@@ -32,7 +32,7 @@ Q_SIGNALS:
     void tabHovered(tembra::ShelfTab tab);
     // Something is held over the tab's button, or dropped on it.
     void tabDraggedOver(tembra::ShelfTab tab);
-    void droppedOnTray(const QMimeData *content);
+    void droppedOn(tembra::ShelfTab tab, const QMimeData *content);
     void tabLeft(tembra::ShelfTab tab);
     void undoClicked();
     // Where a menu of the button is to open.

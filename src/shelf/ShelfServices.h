@@ -19,6 +19,8 @@
 
 namespace tembra {
 
+class OCRRecognizing;
+
 // What the shelf takes from the platform; everything outlives it.
 struct ShelfServices {
     Scheduler &scheduler;
@@ -33,6 +35,7 @@ struct ShelfServices {
     Thumbnails &thumbnails;
     const FileFactsReader &files;
     const PictureDecoder &pictures;
+    OCRRecognizing &recognizer;
     // Reads what the preview shows.
     SerialQueue &previewQueue;
     // Whether a file is a capture.

@@ -52,6 +52,10 @@ struct ShelfStatus {
     };
     std::vector<TrayEntry> tray;
     QString trayStatus;
+    // Of the text recognition: "idle", "loading", "result" or "error", and what is shown.
+    QString recognitionPhase;
+    QString recognitionText;
+    bool isRecognitionExpanded = false;
     // 0 is never.
     int autoCleanDays = 0;
     int autoCleanReview = 0;

@@ -41,6 +41,7 @@ public:
     bool activateForOpening(DisplayPreference preference, ScreenPoint pointer);
     // On the active surface; without one nothing happens.
     void present(const ShelfPresentation &presentation);
+    [[nodiscard]] const ShelfPresentation &presentation() const { return m_presentation; }
 
     [[nodiscard]] ShelfDisplayWindow *active() const { return m_active; }
     // The display of the active surface has gone, and the windows are not yet in step with that.

@@ -11,6 +11,7 @@
 #include "support/FakeDesktop.h"
 #include "support/FakeFileFacts.h"
 #include "support/FakeInputMonitor.h"
+#include "support/FakeOCRRecognizer.h"
 #include "support/FakePasteboard.h"
 #include "support/FakeThumbnails.h"
 #include "support/FakeWorkspace.h"
@@ -78,12 +79,13 @@ protected:
     FakeThumbnails thumbnails;
     FakeFileFacts files;
     NoPictures pictures;
+    FakeOCRRecognizer recognizer;
     FakePasteboard pasteboard;
     TrayServices tray{scheduler, files, workspace};
     ClipboardStore store{tray.services()};
     ManualQueue queue;
     ShelfContent content{{scheduler, scheduler.uptimeClock(), scheduler.wallClock({}), displays, workspace,
-                          input, panels, zones, pasteboard, thumbnails, files, pictures, queue},
+                          input, panels, zones, pasteboard, thumbnails, files, pictures, recognizer, queue},
                          store};
     ShelfContent::State state;
 };

@@ -3,6 +3,7 @@
 #include "shelf/ShelfSurfaces.h"
 #include "support/FakeDesktop.h"
 #include "support/FakeInputMonitor.h"
+#include "support/FakeOCRRecognizer.h"
 #include "support/FakeWorkspace.h"
 #include "support/ManualQueue.h"
 #include "support/SessionServices.h"
@@ -37,10 +38,11 @@ protected:
     FakePanelWindows panelWindows;
     FakeHotZones hotZones;
     NoThumbnails thumbnails;
+    FakeOCRRecognizer recognizer;
     QWidget content;
     ShelfSurfaces surfaces{{parts.scheduler, parts.scheduler.uptimeClock(), parts.now, displays, workspace,
                             input, panelWindows, hotZones, parts.pasteboard, thumbnails, parts.files,
-                            parts.pictures, previewQueue, [](const QString &) { return true; }},
+                            parts.pictures, recognizer, previewQueue, [](const QString &) { return true; }},
                            [this]() -> QWidget & { return content; }};
 };
 

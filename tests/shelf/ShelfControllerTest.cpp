@@ -9,11 +9,13 @@
 #include "support/FakeDesktop.h"
 #include "support/FakeFolderEvents.h"
 #include "support/FakeInputMonitor.h"
+#include "support/FakeOCRRecognizer.h"
 #include "support/FakeWorkspace.h"
 #include "support/Files.h"
 #include "support/Pictures.h"
 #include "support/SessionServices.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
 #include <QProxyStyle>
@@ -64,8 +66,8 @@ protected:
             std::make_unique<ScreenshotLocationMonitor>([this] { return destination; }, queue, scheduler,
                                                         workspace),
             ShelfServices{scheduler, scheduler.uptimeClock(), clock, displays, workspace, input, panelWindows,
-                          hotZones, parts.pasteboard, thumbnails, files, parts.pictures, previewQueue,
-                          [this](const QString &path) { return detector.isCapture(path); }});
+                          hotZones, parts.pasteboard, thumbnails, files, parts.pictures, recognizer,
+                          previewQueue, [this](const QString &path) { return detector.isCapture(path); }});
         controller->onError = [this](const QString &title, const QString &) { errors += title; };
         controller->askForClearing = [this](int count, int pinned, std::function<void()> clear) {
             EXPECT_EQ(pinned, 1);
@@ -125,6 +127,16 @@ protected:
     }
 
     [[nodiscard]] ShelfStatus status() const { return controller->status(); }
+    // Of the panel for text recognition, by its title.
+    [[nodiscard]] static QAbstractButton *recognitionButton(const QString &title) {
+        const QWidgetList widgets = QApplication::allWidgets();
+        for (QWidget *widget : widgets) {
+            auto *const button = qobject_cast<QAbstractButton *>(widget);
+            if (button && button->isVisible() && button->text() == title)
+                return button;
+        }
+        return nullptr;
+    }
 
     QTemporaryDir root;
     QString folder = root.filePath(QStringLiteral("Screenshots"));
@@ -145,6 +157,7 @@ protected:
     FakePanelWindows panelWindows;
     FakeHotZones hotZones;
     NoThumbnails thumbnails;
+    FakeOCRRecognizer recognizer;
     AppSettings settings{defaults, FolderPreferences(), ScreenshotFolderAccess(bookmarks, files, folders),
                          functions()};
     ScreenshotDestination destination;
@@ -275,6 +288,56 @@ TEST_F(ShelfControllerTest, aFolderThatTheToolRefusesChangesNothing) {
     controller->askForFolder = [](const QString &) { return std::nullopt; };
     controller->chooseFolder();
     EXPECT_EQ(status().folder, folder);
+}
+
+TEST_F(ShelfControllerTest, showsTheTextOfAnImageInAPanelThatHasRoomForIt) {
+    const QStringList longText(30, QStringLiteral("a line of text"));
+    start();
+    controller->openManually();
+    const double usual = status().frame.height;
+    for (const double height : {800.0, 500.0}) {
+        DisplayFacts display = displays.screens.front();
+        display.frame.height = height;
+        display.availableHeight = height;
+        displays.set({display});
+        scheduler.advance(1s);
+        controller->recognize({OCRInput::File{QStringLiteral("/a.png")}});
+        EXPECT_EQ(status().tab, ShelfTab::imageToText);
+        EXPECT_EQ(status().recognitionPhase, QStringLiteral("loading"));
+        recognizer.succeed(longText);
+        settle();
+        EXPECT_EQ(status().recognitionText, longText.join(u'\n'));
+        EXPECT_EQ(status().frame.height, std::min(584.0, height - 16));
+    }
+    controller->activateTab(ShelfTab::screenshots);
+    EXPECT_EQ(status().frame.height, usual);
+    controller->activateTab(ShelfTab::imageToText);
+    EXPECT_GT(status().frame.height, usual);
+
+    controller->recognize({OCRInput::File{QStringLiteral("/b.png")}});
+    settings.setImageToTextEnabled(false);
+    EXPECT_TRUE(recognizer.runs.back()->isCancelled);
+    EXPECT_EQ(status().tab, ShelfTab::screenshots);
+    EXPECT_EQ(status().frame.height, usual);
+    controller->recognize({OCRInput::File{QStringLiteral("/c.png")}});
+    EXPECT_EQ(recognizer.runs.size(), 3U);
+}
+
+TEST_F(ShelfControllerTest, readsAnImageThatIsChosen) {
+    start();
+    std::optional<QString> chosen;
+    controller->askForImage = [&](const QString &) { return chosen; };
+    controller->openManually();
+    controller->activateTab(ShelfTab::imageToText);
+    auto *const choose = recognitionButton(QStringLiteral("Choose Image"));
+    ASSERT_NE(choose, nullptr);
+    choose->click();
+    EXPECT_TRUE(recognizer.runs.empty());
+    chosen = QStringLiteral("/a.png");
+    choose->click();
+    ASSERT_EQ(recognizer.runs.size(), 1U);
+    EXPECT_EQ(recognizer.runs[0]->input, (OCRInput{OCRInput::File{*chosen}}));
+    EXPECT_TRUE(status().expanded);
 }
 
 TEST_F(ShelfControllerTest, whatIsTodaysIsYesterdaysAfterMidnight) {

@@ -4,6 +4,7 @@
 #include "support/FakeDesktop.h"
 #include "support/FakeFileFacts.h"
 #include "support/FakeInputMonitor.h"
+#include "support/FakeOCRRecognizer.h"
 #include "support/FakePasteboard.h"
 #include "support/FakeThumbnails.h"
 #include "support/FakeWorkspace.h"
@@ -76,13 +77,14 @@ protected:
     FakePanelWindows panels;
     FakeHotZones zones;
     NoPictures pictures;
+    FakeOCRRecognizer recognizer;
     ManualQueue queue;
     FileThumbnailCache cache;
     TrayServices parts{scheduler, files, workspace};
     ClipboardStore store{parts.services()};
     ClipboardShelf view{store,
                         {scheduler, scheduler.uptimeClock(), scheduler.wallClock({}), displays, workspace,
-                         input, panels, zones, pasteboard, thumbnails, files, pictures, queue},
+                         input, panels, zones, pasteboard, thumbnails, files, pictures, recognizer, queue},
                         {thumbnails, files, cache},
                         nullptr};
     QStringList failures;

@@ -33,6 +33,11 @@ public:
         return openRefusal;
     }
 
+    Result<void> openLink(const QUrl &url) override {
+        openedLink = url;
+        return openRefusal;
+    }
+
     void raise(Event event) {
         const auto observers = *m_observers;
         for (const auto &[number, onEvent] : observers)
@@ -45,6 +50,7 @@ public:
     std::vector<Application> applications;
     QStringList opened;
     QString openedWith;
+    QUrl openedLink;
     Result<void> openRefusal;
 
 private:

@@ -38,19 +38,21 @@ OCRController::~OCRController() {
 void OCRController::recognize(const OCRInput &input) {
     requireMainThread();
     cancelTask();
+    m_picture = {};
     enter(OCRState::Loading{});
-    m_task = m_recognizer.recognize(
-        input, [this, &scheduler = m_scheduler, ticket = m_generation.ticket()](Result<OCRRecognition> result) {
-            scheduler.post([this, ticket, result = std::move(result)]() mutable {
-                if (ticket.isCurrent())
-                    finish(std::move(result));
-            });
+    m_task = m_recognizer.recognize(input, [this, &scheduler = m_scheduler,
+                                            ticket = m_generation.ticket()](Result<OCRRecognition> result) {
+        scheduler.post([this, ticket, result = std::move(result)]() mutable {
+            if (ticket.isCurrent())
+                finish(std::move(result));
         });
+    });
 }
 
 void OCRController::reset() {
     requireMainThread();
     cancelTask();
+    m_picture = {};
     enter(OCRState::Idle{});
 }
 
@@ -90,10 +92,7 @@ void OCRController::cancelTask() {
 void OCRController::enter(OCRState::Phase phase) {
     const bool wantedRoom = m_state.wantsRoom();
     m_state.phase = std::move(phase);
-    if (const auto *const text = std::get_if<OCRState::Text>(&m_state.phase))
-        sizeTo(text->text);
-    else
-        m_picture = {};
+    m_state.isExpanded = m_chosenSize.value_or(fittingSize());
     if (onStateChange)
         onStateChange();
     if (m_state.wantsRoom() != wantedRoom && onResize)
@@ -102,9 +101,11 @@ void OCRController::enter(OCRState::Phase phase) {
 
 void OCRController::finish(Result<OCRRecognition> result) {
     m_task.reset();
-    if (!result)
+    if (!result) {
+        qWarning("No text was recognized: %s", qUtf8Printable(result.error().message));
         return enter(OCRState::Error{
             QCoreApplication::translate("OCR", "Could not read this image. Try another one.")});
+    }
     OCRText text = trimmed(std::move(result->text));
     if (text.lines.empty())
         return enter(
@@ -113,8 +114,11 @@ void OCRController::finish(Result<OCRRecognition> result) {
     enter(OCRState::Text{std::move(text)});
 }
 
-void OCRController::sizeTo(const OCRText &text) {
-    m_state.isExpanded = m_chosenSize.value_or(text.lines.size() > fewLines);
+bool OCRController::fittingSize() const {
+    if (std::holds_alternative<OCRState::Idle>(m_state.phase))
+        return false;
+    const auto *const text = std::get_if<OCRState::Text>(&m_state.phase);
+    return m_state.isExpanded || (text && text->text.lines.size() > fewLines);
 }
 
 } // namespace tembra

@@ -51,7 +51,8 @@ private:
     void cancelTask();
     void enter(OCRState::Phase phase);
     void finish(Result<OCRRecognition> result);
-    void sizeTo(const OCRText &text);
+    // Grows with the text; shrinks when there is nothing left.
+    [[nodiscard]] bool fittingSize() const;
 
     OCRRecognizing &m_recognizer;
     Pasteboard &m_pasteboard;

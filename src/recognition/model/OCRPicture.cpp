@@ -23,12 +23,14 @@ tl::unexpected<Error> refused(OCRPicture::ErrorCode code, const QString &message
 }
 
 tl::unexpected<Error> missing(const QString &path) {
-    return refused(OCRPicture::missing, QCoreApplication::translate("OCR", "%1 isn’t an image file.").arg(path));
+    return refused(OCRPicture::missing,
+                   QCoreApplication::translate("OCR", "%1 isn’t an image file.").arg(path));
 }
 
 tl::unexpected<Error> unreadable() {
-    return refused(OCRPicture::unreadable,
-                   QCoreApplication::translate("OCR", "The image is damaged, too large or of an unknown kind."));
+    return refused(
+        OCRPicture::unreadable,
+        QCoreApplication::translate("OCR", "The image is damaged, too large or of an unknown kind."));
 }
 
 tl::unexpected<Error> animation() {

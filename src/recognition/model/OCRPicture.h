@@ -9,8 +9,8 @@ namespace tembra {
 
 class PictureDecoder;
 
-// Opens the image whose text is wanted. Upright, 32 bits a pixel. Any thread. Error: in `OCRPicture::errorDomain`,
-// with a sentence that says why.
+// Opens the image whose text is wanted. Upright, 32 bits a pixel. Any thread. Error: in
+// `OCRPicture::errorDomain`, with a sentence that says why.
 struct OCRPicture {
     static inline const QString errorDomain = QStringLiteral("Tembra.OCRPicture");
     enum ErrorCode {

@@ -26,10 +26,6 @@ Result<OCRRecognition> read(const OCRInput &input, const TextRecognizer &recogni
     return OCRRecognition{{std::move(*lines)}, image->size(), reduced(*image)};
 }
 
-bool isCancellation(const Error &error) {
-    return error.domain == TextRecognizer::errorDomain && error.code == TextRecognizer::cancelled;
-}
-
 } // namespace
 
 class OCRRecognizer::Task final : public OCRRecognitionTask {
@@ -41,20 +37,18 @@ private:
     const Cancellation m_cancellation;
 };
 
-OCRRecognizer::OCRRecognizer(const TextRecognizer &recognizer, const PictureDecoder &decoder, SerialQueue &queue)
+OCRRecognizer::OCRRecognizer(const TextRecognizer &recognizer, const PictureDecoder &decoder,
+                             SerialQueue &queue)
     : m_recognizer(recognizer), m_decoder(decoder), m_queue(queue) {}
 
 std::shared_ptr<OCRRecognitionTask> OCRRecognizer::recognize(const OCRInput &input, Completion completion) {
     auto task = std::make_shared<Task>();
-    m_queue.post([&recognizer = m_recognizer, &decoder = m_decoder, input, task,
-                  completion = std::move(completion)] {
-        if (task->cancellation().isCancelled())
-            return;
-        auto result = read(input, recognizer, decoder, task->cancellation());
-        if (!result && !isCancellation(result.error()))
-            qWarning("No text was recognized: %s", qUtf8Printable(result.error().message));
-        completion(std::move(result));
-    });
+    m_queue.post(
+        [&recognizer = m_recognizer, &decoder = m_decoder, input, task, completion = std::move(completion)] {
+            if (task->cancellation().isCancelled())
+                return;
+            completion(read(input, recognizer, decoder, task->cancellation()));
+        });
     return task;
 }
 

@@ -38,8 +38,9 @@ struct OCRState {
         const auto *const text = std::get_if<Text>(&phase);
         return text ? text->text.string(layout) : QString();
     }
-    // There is more than the shelf's usual height has room for.
-    [[nodiscard]] bool wantsRoom() const { return isExpanded && std::holds_alternative<Text>(phase); }
+    // The panel is to be higher than the shelf usually is. A panel that shrank by itself could slip away
+    // from under the pointer, so it keeps its room until it is empty.
+    [[nodiscard]] bool wantsRoom() const { return isExpanded && !std::holds_alternative<Idle>(phase); }
 
     bool operator==(const OCRState &) const = default;
 };

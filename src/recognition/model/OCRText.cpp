@@ -18,8 +18,9 @@ constexpr double indent = 1.2;
 constexpr double mostGrowth = 1.6;
 
 QRectF boxOf(const Line &line) {
-    return std::accumulate(line.words.begin(), line.words.end(), QRectF(),
-                           [](const QRectF &box, const TextRecognizer::Word &word) { return box | word.box; });
+    return std::accumulate(
+        line.words.begin(), line.words.end(), QRectF(),
+        [](const QRectF &box, const TextRecognizer::Word &word) { return box | word.box; });
 }
 
 // Chinese and Japanese do without spaces between words.
@@ -77,7 +78,8 @@ struct Block {
 
 OCRLineStart startAfter(const QRectF &before, const QRectF &box) {
     const double height = std::max(1.0, std::min(before.height(), box.height()));
-    const bool isElsewhere = box.top() < before.center().y() || box.top() - before.bottom() > sectionGap * height ||
+    const bool isElsewhere = box.top() < before.center().y() ||
+                             box.top() - before.bottom() > sectionGap * height ||
                              box.left() > before.right() || box.right() < before.left();
     if (isElsewhere)
         return OCRLineStart::section;
@@ -127,8 +129,7 @@ std::vector<OCRLineStart> OCRText::lineStarts() const {
         const Block block{{boxes.begin() + static_cast<std::ptrdiff_t>(first),
                            boxes.begin() + static_cast<std::ptrdiff_t>(end)}};
         for (size_t i = first + 1; i < end; ++i) {
-            if (isListItem(lines[i]) ||
-                hasRoomFor(boxes[i - 1], lines[i].words.front(), block.rightEdge()))
+            if (isListItem(lines[i]) || hasRoomFor(boxes[i - 1], lines[i].words.front(), block.rightEdge()))
                 starts[i] = OCRLineStart::paragraph;
         }
         first = end;

@@ -12,13 +12,13 @@
 
 namespace tembra {
 
-OCRPanel::OCRPanel(Scheduler &scheduler, QWidget *parent)
-    : QWidget(parent),
-      m_dropView(new OCRDropView(this)),
-      m_loading(new OCRLoadingView(this)),
-      m_card(new OCRResultCard(scheduler, this)),
-      m_overlay(new OCRDropView(this)) {
+OCRPanel::OCRPanel(Scheduler &scheduler, QWidget *parent) : QWidget(parent) {
+    // First: what a view is to assistive programs is asked once, while it is made.
     installAccessibleRecognition();
+    m_dropView = new OCRDropView(this);
+    m_loading = new OCRLoadingView(this);
+    m_card = new OCRResultCard(scheduler, this);
+    m_overlay = new OCRDropView(this);
     setAcceptDrops(true);
     setAccessibleName(tr("Image to Text"));
     m_overlay->setOverlay(true);

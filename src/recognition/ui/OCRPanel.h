@@ -61,11 +61,11 @@ private:
 
     OCRState m_state;
     QImage m_picture;
-    OCRDropView *m_dropView;
-    OCRLoadingView *m_loading;
-    OCRResultCard *m_card;
+    OCRDropView *m_dropView = nullptr;
+    OCRLoadingView *m_loading = nullptr;
+    OCRResultCard *m_card = nullptr;
     // Over the other views while an image is held over them.
-    OCRDropView *m_overlay;
+    OCRDropView *m_overlay = nullptr;
 };
 
 } // namespace tembra

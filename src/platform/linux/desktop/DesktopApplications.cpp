@@ -131,4 +131,13 @@ Result<void> DesktopApplications::open(const QStringList &paths, const QString &
                            QString::fromUtf8(error ? error->message : "")));
 }
 
+Result<void> DesktopApplications::openLink(const QUrl &url) {
+    GError *problem = nullptr;
+    if (g_app_info_launch_default_for_uri(url.toEncoded().constData(), nullptr, &problem))
+        return {};
+    const std::unique_ptr<GError, FreeError> error(problem);
+    return failed(QCoreApplication::translate("Workspace", "“%1” could not be opened: %2")
+                      .arg(url.toDisplayString(), QString::fromUtf8(error ? error->message : "")));
+}
+
 } // namespace tembra

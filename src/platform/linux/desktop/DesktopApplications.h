@@ -15,6 +15,7 @@ namespace tembra {
 struct DesktopApplications {
     [[nodiscard]] static std::vector<Workspace::Application> applicationsFor(const QStringList &paths);
     static Result<void> open(const QStringList &paths, const QString &identifier);
+    static Result<void> openLink(const QUrl &url);
 };
 
 } // namespace tembra

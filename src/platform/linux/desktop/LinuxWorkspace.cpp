@@ -53,4 +53,8 @@ Result<void> LinuxWorkspace::open(const QStringList &paths, const QString &ident
     return DesktopApplications::open(paths, identifier);
 }
 
+Result<void> LinuxWorkspace::openLink(const QUrl &url) {
+    return DesktopApplications::openLink(url);
+}
+
 } // namespace tembra

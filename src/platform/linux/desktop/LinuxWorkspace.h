@@ -22,6 +22,7 @@ public:
     Result<void> openFolder(const QString &path) override;
     [[nodiscard]] std::vector<Application> applicationsFor(const QStringList &paths) const override;
     Result<void> open(const QStringList &paths, const QString &identifier) override;
+    Result<void> openLink(const QUrl &url) override;
 
 private:
     struct Watches;
