@@ -82,6 +82,11 @@ INSTANTIATE_TEST_SUITE_P(
              {section, section},
              u"Quarterly report and\n\nits next steps"_s,
              u"Quarterly report and its next steps"_s},
+        Case{"entries far apart",
+             {{u"General"_s, 10, 10}, {u"Editor"_s, 10, 45}, {u"About"_s, 10, 80}, {u"Quit"_s, 10, 150}},
+             {section, paragraph, paragraph, section},
+             u"General\nEditor\nAbout\n\nQuit"_s,
+             u"General Editor About Quit"_s},
         Case{
             "a list",
             {{u"1. Confirm the budget with them"_s, 10, 10},

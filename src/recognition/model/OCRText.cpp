@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <numeric>
+#include <optional>
+#include <span>
 
 namespace tembra {
 
@@ -11,9 +13,13 @@ namespace {
 
 using Line = TextRecognizer::Line;
 
-// Of the height of a line: a wider gap stands out, lines that begin further apart begin anew.
+// Of the height of a line: a wider gap may stand out, one as wide as the second always does, and lines that
+// begin further apart begin anew.
 constexpr double sectionGap = 0.9;
+constexpr double widestGap = 4;
 constexpr double indent = 1.2;
+// Of the next gap: entries of a list may be far apart, but all alike.
+constexpr double standingOut = 1.4;
 // Letters of one paragraph are of one size; what rises above and hangs below them differs.
 constexpr double mostGrowth = 1.6;
 
@@ -76,15 +82,47 @@ struct Block {
     }
 };
 
-OCRLineStart startAfter(const QRectF &before, const QRectF &box) {
-    const double height = std::max(1.0, std::min(before.height(), box.height()));
-    const bool isElsewhere = box.top() < before.center().y() ||
-                             box.top() - before.bottom() > sectionGap * height ||
-                             box.left() > before.right() || box.right() < before.left();
-    if (isElsewhere)
+// The lines stand below each other in one column.
+bool isBelow(const QRectF &before, const QRectF &box) {
+    return box.top() >= before.center().y() && box.left() <= before.right() && box.right() >= before.left();
+}
+
+double gapBetween(const QRectF &before, const QRectF &box) {
+    return std::max(0.0, box.top() - before.bottom());
+}
+
+double heightOf(const QRectF &first, const QRectF &second) {
+    return std::max(1.0, std::min(first.height(), second.height()));
+}
+
+// The smaller gap next to the one above line `i`; nothing where no line stands there.
+std::optional<double> nextGap(std::span<const QRectF> boxes, size_t i) {
+    std::optional<double> gap;
+    if (i >= 2 && isBelow(boxes[i - 2], boxes[i - 1]))
+        gap = gapBetween(boxes[i - 2], boxes[i - 1]);
+    if (i + 1 < boxes.size() && isBelow(boxes[i], boxes[i + 1])) {
+        const double below = gapBetween(boxes[i], boxes[i + 1]);
+        gap = std::min(gap.value_or(below), below);
+    }
+    return gap;
+}
+
+bool beginsSection(std::span<const QRectF> boxes, size_t i) {
+    const double height = heightOf(boxes[i - 1], boxes[i]);
+    const double gap = gapBetween(boxes[i - 1], boxes[i]);
+    if (!isBelow(boxes[i - 1], boxes[i]) || gap > widestGap * height)
+        return true;
+    return gap > sectionGap * height && gap > standingOut * nextGap(boxes, i).value_or(0);
+}
+
+OCRLineStart startOf(std::span<const QRectF> boxes, size_t i) {
+    if (beginsSection(boxes, i))
         return OCRLineStart::section;
-    const bool isOtherText = std::max(before.height(), box.height()) > mostGrowth * height ||
-                             std::abs(box.left() - before.left()) > indent * height;
+    const QRectF &before = boxes[i - 1];
+    const double height = heightOf(before, boxes[i]);
+    const bool isOtherText = std::max(before.height(), boxes[i].height()) > mostGrowth * height ||
+                             std::abs(boxes[i].left() - before.left()) > indent * height ||
+                             gapBetween(before, boxes[i]) > sectionGap * height;
     return isOtherText ? OCRLineStart::paragraph : OCRLineStart::continuation;
 }
 
@@ -120,7 +158,7 @@ std::vector<OCRLineStart> OCRText::lineStarts() const {
         boxes.push_back(boxOf(line));
     std::vector<OCRLineStart> starts(lines.size(), OCRLineStart::section);
     for (size_t i = 1; i < lines.size(); ++i)
-        starts[i] = startAfter(boxes[i - 1], boxes[i]);
+        starts[i] = startOf(boxes, i);
     // Within what stands together, sentences are broken at the right edge only.
     for (size_t first = 0; first < lines.size();) {
         size_t end = first + 1;
