@@ -110,7 +110,9 @@ void OCRPanel::highlightOCRDrop(bool highlighted) {
 }
 
 void OCRPanel::dragEnterEvent(QDragEnterEvent *event) {
-    if (!OCRInput::canRead(*event->mimeData()))
+    // A piece of the shown text may be the path of a file.
+    const auto *const source = qobject_cast<QWidget *>(event->source());
+    if ((source && isAncestorOf(source)) || !OCRInput::canRead(*event->mimeData()))
         return event->ignore();
     event->setDropAction(Qt::CopyAction);
     event->accept();
