@@ -1,3 +1,4 @@
+#include "controls/KeyboardFocus.h"
 #include "controls/TembraButton.h"
 #include "controls/TembraCheckbox.h"
 #include "controls/TembraDropdownPopup.h"
@@ -55,6 +56,21 @@ TEST(Controls, buttonsClickOnceByPointerAndKeyAndNotWhileDisabled) {
     TembraCheckbox box(QStringLiteral("Tick"));
     expectClicks(box, {Qt::Key_Space, Qt::Key_Space});
     EXPECT_TRUE(box.isChecked());
+}
+
+TEST(Controls, theFocusIsShownOnceTheKeyboardLeads) {
+    TembraButton button(TembraButton::Kind::plain, TembraButton::Size::compact, QStringLiteral("Open"));
+    const KeyboardFocus focus(button);
+    show(button);
+    button.setFocus(Qt::MouseFocusReason);
+    const std::pair<Qt::Key, bool> steps[] = {
+        {Qt::Key_Control, false}, {Qt::Key_Shift, false}, {Qt::Key_Left, true}, {Qt::Key_Control, true}};
+    for (const auto &[key, isShown] : steps) {
+        QTest::keyClick(&button, key);
+        EXPECT_EQ(focus.isShown(), isShown) << key;
+    }
+    QTest::mouseClick(&button, Qt::LeftButton);
+    EXPECT_FALSE(focus.isShown());
 }
 
 TEST(Controls, segmentsAreChosenByKeysAndPointer) {

@@ -51,7 +51,7 @@ QStringView withoutSentence(QStringView address) {
 
 QUrl pageAt(QStringView address) {
     const bool isBare = address.startsWith(u"www.", Qt::CaseInsensitive);
-    QUrl url((isBare ? QStringLiteral("https://") : QString()) + address.toString());
+    const QUrl url((isBare ? QStringLiteral("https://") : QString()) + address.toString());
     const QString host = url.host();
     // "www." alone makes no address: it has a name and an ending after it.
     return !url.isValid() || host.isEmpty() || (isBare && host.count(u'.') < 2) ? QUrl() : url;

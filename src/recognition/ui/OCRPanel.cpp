@@ -1,11 +1,13 @@
 #include "recognition/ui/OCRPanel.h"
 
+#include "controls/Motion.h"
 #include "recognition/ui/AccessibleRecognition.h"
 #include "recognition/ui/OCRCard.h"
 #include "recognition/ui/OCRDropView.h"
 #include "recognition/ui/OCRLoadingView.h"
 #include "recognition/ui/OCRResultCard.h"
 #include "recognition/ui/OCRResultTextView.h"
+#include "recognition/ui/PhaseFade.h"
 
 #include <QAccessible>
 #include <QDragEnterEvent>
@@ -44,8 +46,13 @@ void OCRPanel::apply(const OCRState &state, const QImage &picture) {
     const bool isSamePhase = state.phase == m_state.phase;
     if (isSamePhase && state == m_state && picture.cacheKey() == m_picture.cacheKey())
         return;
+    QWidget *const before = phaseView();
     m_state = state;
     m_picture = picture;
+    if (phaseView() != before && isVisible() && !motion::isReduced(*this)) {
+        new PhaseFade(*before);
+        m_overlay->raise();
+    }
     showPhase();
     if (!isSamePhase)
         announce();
@@ -103,7 +110,9 @@ void OCRPanel::highlightOCRDrop(bool highlighted) {
 }
 
 void OCRPanel::dragEnterEvent(QDragEnterEvent *event) {
-    if (!OCRInput::canRead(*event->mimeData()))
+    // A piece of the shown text may be the path of a file.
+    const auto *const source = qobject_cast<QWidget *>(event->source());
+    if ((source && isAncestorOf(source)) || !OCRInput::canRead(*event->mimeData()))
         return event->ignore();
     event->setDropAction(Qt::CopyAction);
     event->accept();

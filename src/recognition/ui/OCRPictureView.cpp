@@ -40,9 +40,8 @@ void OCRPictureView::paintEvent(QPaintEvent *) {
     }
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    QBrush brush(m_scaled);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(brush);
+    painter.setBrush(m_scaled);
     painter.drawRoundedRect(rect(), radius, radius);
     painter.setPen(QPen(palette::previewBorder, 1));
     painter.setBrush(Qt::NoBrush);

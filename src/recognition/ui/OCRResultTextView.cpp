@@ -286,8 +286,10 @@ void OCRResultTextView::leaveEvent(QEvent *event) {
 }
 
 void OCRResultTextView::wheelEvent(QWheelEvent *event) {
-    // Not QTextEdit's, which zooms while Ctrl is held.
-    QAbstractScrollArea::wheelEvent(event);
+    // The text would be zoomed.
+    if (event->modifiers() & Qt::ControlModifier)
+        return event->ignore();
+    QTextBrowser::wheelEvent(event);
 }
 
 void OCRResultTextView::resizeEvent(QResizeEvent *event) {
