@@ -194,6 +194,7 @@ void ShelfController::connectHover() {
             m_hover.requestPointerEvaluation();
     };
     m_surfaces->onPointerActivity = [this] { m_hover.requestPointerEvaluation(); };
+    m_popups.onClosed = [this] { m_hover.requestPointerEvaluation(); };
     m_hover.onActivationClick = [this] { toggleFromShortcut(); };
     // A press opens what hovering would open; in click mode the click is seen wherever it goes.
     m_surfaces->onActivationPressed = [this] {
@@ -387,7 +388,7 @@ HoverSnapshot ShelfController::hoverSnapshot() const {
     snapshot.compact = !m_expanded && m_announcer.showing().has_value();
     snapshot.choosingFolder = m_choosingFolder;
     snapshot.previewOpen =
-        m_dragging || m_preview.isOpen() || (m_menu && m_menu->isVisible()) || m_surfaces->hasLostDisplay();
+        m_dragging || m_preview.isOpen() || PopupWatch::isPopupOpen() || m_surfaces->hasLostDisplay();
     snapshot.activationNotches = m_surfaces->activationNotches();
     if (const ShelfDisplayWindow *active = m_surfaces->active()) {
         snapshot.notch = active->display().activationRect();

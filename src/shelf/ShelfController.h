@@ -12,6 +12,7 @@
 #include "shelf/CaptureAnnouncer.h"
 #include "shelf/FilePreview.h"
 #include "shelf/HoverController.h"
+#include "shelf/PopupWatch.h"
 #include "shelf/ScreenshotFolderState.h"
 #include "shelf/ShelfCommand.h"
 #include "shelf/ShelfServices.h"
@@ -206,6 +207,7 @@ private:
     std::unique_ptr<ShelfContent> m_content;
     std::unique_ptr<ShelfSurfaces> m_surfaces;
     HoverController m_hover;
+    PopupWatch m_popups;
     TabHover m_tabHover;
     CaptureAnnouncer m_announcer;
     FilePreview m_preview;

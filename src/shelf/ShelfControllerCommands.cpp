@@ -154,7 +154,6 @@ void ShelfController::installActiveStatusMenu() {
 
 void ShelfController::showMenu(std::unique_ptr<QMenu> menu, QPoint globalPosition) {
     m_menu = std::move(menu);
-    connect(m_menu.get(), &QMenu::aboutToHide, this, [this] { m_hover.requestPointerEvaluation(); });
     m_menu->popup(globalPosition);
 }
 
