@@ -80,7 +80,7 @@ int main(int argc, char **argv) {
     const QGuiApplication application(argc, argv);
     const QTemporaryDir scratch(scratchTemplate("recognition-bench"));
     const TesseractRecognizer recognizer(
-        {QStringLiteral(TEMBRA_RECOGNITION_WORKER), {QStringLiteral("eng")}});
+        {.file = QStringLiteral(TEMBRA_RECOGNITION_WORKER), .languages = {QStringLiteral("eng")}});
     std::vector<double> times;
     std::vector<double> programTimes;
     std::vector<double> shares;

@@ -12,7 +12,7 @@ namespace tembra::recognition {
 
 namespace {
 
-using StripeLines = tl::expected<std::vector<ReadLine>, ExitCode>;
+using StripeLines = tl::expected<std::vector<ReadLine>, ReadingFault>;
 
 // Letters that are this high on average are read well as they are.
 constexpr int readableHeight = 14;
@@ -68,7 +68,7 @@ StripeLines readStripe(const Page &page, const Stripe &stripe, TextEngine &engin
     const PixOwner part = partOf(page, stripe);
     auto lines = part ? engine.read(part.get()) : std::nullopt;
     if (!lines)
-        return tl::unexpected(unusable);
+        return tl::unexpected(ReadingFault::unusable);
     const double scale = page.scale;
     for (ReadLine &line : *lines) {
         for (ReadWord &word : line)
@@ -80,23 +80,27 @@ StripeLines readStripe(const Page &page, const Stripe &stripe, TextEngine &engin
 
 } // namespace
 
-tl::expected<std::vector<ReadLine>, ExitCode> readPage(Pix *grey, const std::string &languages) {
+PageReader::PageReader(std::string languages)
+    : m_languages(std::move(languages)), m_engines(static_cast<size_t>(engineCount())) {}
+
+tl::expected<std::vector<ReadLine>, ReadingFault> PageReader::read(Pix *grey) {
     const Page page = pageOf(grey);
     if (!page.ink)
-        return tl::unexpected(unusable);
+        return tl::unexpected(ReadingFault::unusable);
     const std::vector<Stripe> parts = stripesOf(page.ink.get());
-    std::vector<StripeLines> read(parts.size(), tl::unexpected(noLanguage));
+    std::vector<StripeLines> read(parts.size(), tl::unexpected(ReadingFault::noLanguage));
     std::atomic<size_t> next = 0;
-    const auto work = [&] {
-        TextEngine engine(languages);
-        for (size_t i = next++; engine.isUsable() && i < parts.size(); i = next++)
-            read[i] = readStripe(page, parts[i], engine);
+    const auto work = [&](std::unique_ptr<TextEngine> &engine) {
+        if (!engine)
+            engine = std::make_unique<TextEngine>(m_languages);
+        for (size_t i = next++; engine->isUsable() && i < parts.size(); i = next++)
+            read[i] = readStripe(page, parts[i], *engine);
     };
     {
         std::vector<std::jthread> others;
-        for (size_t i = 1; i < std::min(parts.size(), static_cast<size_t>(engineCount())); ++i)
-            others.emplace_back(work);
-        work();
+        for (size_t i = 1; i < std::min(parts.size(), m_engines.size()); ++i)
+            others.emplace_back(work, std::ref(m_engines[i]));
+        work(m_engines.front());
     }
     std::vector<std::vector<ReadLine>> lines;
     for (StripeLines &part : read) {

@@ -33,6 +33,8 @@ TextEngine::TextEngine(const std::string &languages) {
     m_isUsable = m_engine.Init(nullptr, languages.c_str(), tesseract::OEM_LSTM_ONLY) == 0;
     if (!m_isUsable)
         return;
+    // What it says of the data is for the log, what it says of each picture is not.
+    m_engine.SetVariable("debug_file", "/dev/null");
     m_engine.SetPageSegMode(tesseract::PSM_SPARSE_TEXT);
     m_engine.SetVariable("thresholding_method", adaptiveThreshold);
     m_engine.SetVariable("invert_threshold", neverInverted);
