@@ -1,23 +1,28 @@
-// The words of a screen of interface text, beside the tesseract program on the same picture as a file. Run
+// Reading the text of interfaces, beside the tesseract program on the same files: errors in hundredths of the
+// characters, and time. With a folder as argument the pictures and what was read of them stay there. Run
 // through bench/run.
 
+#include "InterfaceTexts.h"
 #include "Row.h"
 #include "Scratch.h"
-#include "WordPictures.h"
+#include "TextErrors.h"
+#include "imaging/PictureDecoding.h"
 #include "platform/linux/recognition/TesseractRecognizer.h"
 
-#include <QGuiApplication>
+#include <QApplication>
+#include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include <array>
 #include <cstdlib>
+#include <map>
+#include <memory>
 
 using namespace tembra;
 using namespace tembra::bench;
 
 namespace {
-
-constexpr int rounds = 3;
 
 void require(bool condition, const char *what) {
     if (condition)
@@ -26,77 +31,127 @@ void require(bool condition, const char *what) {
     std::exit(1);
 }
 
-double overlap(const QRectF &first, const QRectF &second) {
-    const QRectF common = first & second;
-    const double shared = common.width() * common.height();
-    return shared / (first.width() * first.height() + second.width() * second.height() - shared);
+QImage pictureIn(const QString &path) {
+    QFile file(path);
+    require(file.open(QIODevice::ReadOnly), "cannot read");
+    const auto image = decodePicture(file.readAll());
+    require(image.has_value(), "not decoded");
+    return *image;
 }
 
-// The share of the drawn words that a box was found for, in hundredths.
-double foundShare(const WordPicture &picture, const std::vector<QRectF> &boxes) {
-    const auto isFound = [&](const WordPicture::Word &word) {
-        return std::ranges::any_of(boxes, [&](const QRectF &box) { return overlap(box, word.box) > 0.5; });
-    };
-    return 100.0 * static_cast<double>(std::ranges::count_if(picture.words, isFound)) /
-           static_cast<double>(picture.words.size());
-}
-
-std::vector<QRectF> ours(const TextRecognizer &recognizer, const WordPicture &picture) {
-    const auto lines = recognizer.recognize(picture.image, {});
+QString textOf(const TextRecognizer &recognizer, const QImage &image) {
+    const auto lines = recognizer.recognize(image, {});
     require(lines.has_value(), "not recognised");
-    std::vector<QRectF> boxes;
+    QStringList texts;
     for (const TextRecognizer::Line &line : *lines) {
+        QStringList words;
         for (const TextRecognizer::Word &word : line.words)
-            boxes.push_back(word.box);
+            words += word.text;
+        texts += words.join(u' ');
     }
-    return boxes;
+    return texts.join(u'\n');
 }
 
-QByteArray runProgram(const QString &file) {
+// Null for as many threads as it likes.
+QString programsTextOf(const InterfaceText &text, const char *threads) {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    if (threads)
+        environment.insert(QStringLiteral("OMP_THREAD_LIMIT"), QString::fromLatin1(threads));
+    else
+        environment.remove(QStringLiteral("OMP_THREAD_LIMIT"));
     QProcess program;
+    program.setProcessEnvironment(environment);
     program.setStandardErrorFile(QProcess::nullDevice());
-    program.start(QStringLiteral("tesseract"), {file, QStringLiteral("-"), QStringLiteral("tsv")});
+    program.start(QStringLiteral("tesseract"),
+                  {text.file, QStringLiteral("-"), QStringLiteral("-l"), text.languages.join(u'+')});
     require(program.waitForFinished(-1) && program.exitCode() == 0, "the tesseract program did not work");
-    return program.readAllStandardOutput();
+    return QString::fromUtf8(program.readAllStandardOutput());
 }
 
-// Of the program's table: the rows of words.
-std::vector<QRectF> boxesOf(const QByteArray &table) {
-    std::vector<QRectF> boxes;
-    for (const QByteArray &row : table.split('\n')) {
-        const QList<QByteArray> fields = row.split('\t');
-        if (fields.size() == 12 && fields[0] == "5" && !fields[11].trimmed().isEmpty())
-            boxes.emplace_back(fields[6].toDouble(), fields[7].toDouble(), fields[8].toDouble(),
-                               fields[9].toDouble());
+TextErrors errorsOf(const InterfaceText &text, const QString &read) {
+    return text.hasColumns ? errorsOfWords(text.truth.simplified(), read.simplified())
+                           : errorsInOrder(text.truth, read);
+}
+
+struct Sum {
+    double errors = 0;
+    double length = 0;
+    double time = 0;
+
+    void add(const TextErrors &more, double milliseconds) {
+        errors += static_cast<double>(more.errors);
+        length += static_cast<double>(more.length);
+        time += milliseconds;
     }
-    return boxes;
+    [[nodiscard]] double hundredths() const { return 100 * errors / length; }
+};
+
+void keep(const QString &folder, const InterfaceText &text, const QString &read) {
+    QFile file(text.file + QStringLiteral(".txt"));
+    if (folder.isEmpty() || !file.open(QIODevice::WriteOnly))
+        return;
+    file.write((text.name + u"\n--- truth\n"_qs + text.truth + u"\n--- read\n"_qs + read + u'\n').toUtf8());
+}
+
+// Of a picture without text there is no share of its characters: they are counted.
+void printCase(const InterfaceText &text, const TextErrors &ours, double time, const TextErrors &program,
+               double programTime) {
+    const bool isShare = ours.length > 0;
+    const auto figure = [&](const TextErrors &errors) {
+        return static_cast<double>(errors.errors) * (isShare ? 100.0 / static_cast<double>(ours.length) : 1);
+    };
+    std::printf("%-32s %6.1f %6.1f %-5s %8.0f %8.0f ms%s\n", qPrintable(text.name), figure(ours),
+                figure(program), isShare ? "%" : "chars", time, programTime,
+                text.hasColumns ? "  (words)" : "");
 }
 
 } // namespace
 
 int main(int argc, char **argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("OMP_THREAD_LIMIT", "1");
-    const QGuiApplication application(argc, argv);
+    const QApplication application(argc, argv);
     const QTemporaryDir scratch(scratchTemplate("recognition-bench"));
-    const TesseractRecognizer recognizer(
-        {.file = QStringLiteral(TEMBRA_RECOGNITION_WORKER), .languages = {QStringLiteral("eng")}});
-    std::vector<double> times;
-    std::vector<double> programTimes;
-    std::vector<double> shares;
-    std::vector<double> programShares;
-    for (int round = 0; round < rounds; ++round) {
-        const WordPicture picture = wordPicture(QSize(1920, 1080), round);
-        const QString file = scratch.filePath(QStringLiteral("screen.png"));
-        require(picture.image.save(file), "cannot write");
-        std::vector<QRectF> boxes;
-        times.push_back(milliseconds([&] { boxes = ours(recognizer, picture); }));
-        shares.push_back(foundShare(picture, boxes));
-        QByteArray table;
-        programTimes.push_back(milliseconds([&] { table = runProgram(file); }));
-        programShares.push_back(foundShare(picture, boxesOf(table)));
+    const QString folder = QApplication::arguments().value(1);
+    const auto texts = interfaceTexts(folder.isEmpty() ? scratch.path() : folder);
+
+    std::map<QString, std::unique_ptr<TesseractRecognizer>> recognizers;
+    Sum ours;
+    Sum program;
+    double first = 0;
+    constexpr std::array<const char *, 3> threads{"1", "2", nullptr};
+    std::array<double, threads.size()> programTimes{};
+    std::puts("errors ours, the program's; time ours, the program's with one thread");
+    for (const InterfaceText &text : texts) {
+        auto &recognizer = recognizers[text.languages.join(u'+')];
+        const QImage image = pictureIn(text.file);
+        if (!recognizer) {
+            recognizer = std::make_unique<TesseractRecognizer>(RecognitionWorker::Program{
+                .file = QStringLiteral(TEMBRA_RECOGNITION_WORKER), .languages = text.languages});
+            const double time = milliseconds([&] { (void)textOf(*recognizer, image); });
+            first = first == 0 ? time : first;
+        }
+        QString read;
+        const double time = milliseconds([&] { read = textOf(*recognizer, image); });
+        const TextErrors errors = errorsOf(text, read);
+        ours.add(errors, time);
+        keep(folder, text, read);
+        QString programRead;
+        std::array<double, threads.size()> times{};
+        for (size_t i = 0; i < threads.size(); ++i) {
+            times[i] = milliseconds([&] { programRead = programsTextOf(text, threads[i]); });
+            programTimes[i] += times[i];
+        }
+        const TextErrors programErrors = errorsOf(text, programRead);
+        program.add(programErrors, times[0]);
+        printCase(text, errors, time, programErrors, times[0]);
     }
-    printRow("the words of a screen / tesseract program", median(times), median(programTimes), "ms", 1.25);
-    std::printf("words found: %.1f %%, by the program %.1f %%\n", median(shares), median(programShares));
+    std::printf(
+        "the program with 1, 2, any threads: %.0f, %.0f, %.0f ms; our first picture, with the start of "
+        "the worker: %.0f ms\n",
+        programTimes[0], programTimes[1], programTimes[2], first);
+    printRow("errors of interface texts / tesseract program", ours.hundredths(), program.hundredths(), "%",
+             0.5);
+    printRow("time of interface texts / its best threads", ours.time, *std::ranges::min_element(programTimes),
+             "ms", 0.6);
     return 0;
 }
