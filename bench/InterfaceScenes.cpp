@@ -470,7 +470,7 @@ InterfaceScene paleForm() {
 
 InterfaceScene chat() {
     const QStringList messages{u"Are you coming to the market on Saturday?"_qs,
-                               u"Yes, around half past nine. Shall I bring the big basket?"_qs,
+                               u"Yes, around half past nine.\nShall I bring the big basket?"_qs,
                                u"Please do! And the list is in the kitchen."_qs,
                                u"Found it. 3 kg of apples?"_qs, u"Better 5, my sister wants to bake."_qs};
     auto page = std::make_unique<QWidget>();
@@ -482,8 +482,6 @@ InterfaceScene chat() {
             label(messages[i],
                   i % 2 == 0 ? u"background: #e9e9eb; color: black; border-radius: 12px; padding: 8px"_qs
                              : u"background: #0a84ff; color: white; border-radius: 12px; padding: 8px"_qs);
-        bubble->setWordWrap(true);
-        bubble->setMaximumWidth(300);
         column->addWidget(bubble, 0, i % 2 == 0 ? Qt::AlignLeft : Qt::AlignRight);
     }
     column->addStretch();

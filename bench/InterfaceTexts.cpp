@@ -182,7 +182,7 @@ void addWholeScreens(Collection &texts) {
 void addPictures(Collection &texts) {
     apply({"Liberation Serif", 18});
     const InterfaceScene scene = article(SceneLanguage::english);
-    texts.write({u"article, turned by EXIF"_qs, {}, scene.texts.join(u'\n')}, rendered(*scene.window, 1),
+    texts.write({u"article, turned by EXIF"_qs, {}, scene.texts.join(u'\n')}, rendered(*scene.window, 1).transformed(QTransform().rotate(-90)),
                 QImageIOHandler::TransformationRotate90);
     texts.write({u"photograph"_qs, {}, {}}, photoPicture(QSize(1600, 1000), 1));
     QImage gradient(1280, 800, QImage::Format_RGB32);

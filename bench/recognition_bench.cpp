@@ -137,7 +137,7 @@ int main(int argc, char **argv) {
         keep(folder, text, read);
         QString programRead;
         std::array<double, threads.size()> times{};
-        for (size_t i = 0; i < threads.size(); ++i) {
+        for (size_t i = 0; i < (std::getenv("OURS") ? 0 : std::getenv("QUICK") ? 1 : threads.size()); ++i) {
             times[i] = milliseconds([&] { programRead = programsTextOf(text, threads[i]); });
             programTimes[i] += times[i];
         }

@@ -1,5 +1,4 @@
 #include "platform/linux/recognition/worker/ReadingOrder.h"
-#include "platform/linux/recognition/worker/Stripes.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -34,23 +33,4 @@ TEST(ReadingOrder, readsAcrossWhatStandsCloseTogether) {
         {line("d", 120, 60), line("b", 115, 0), line("c", 0, 60), line("a", 0, 0), line("over a", 5, 2)});
     EXPECT_THAT(texts(ordered), ElementsAre("a", "over a", "b", "c", "d"));
     EXPECT_TRUE(inReadingOrder({}).empty());
-}
-
-TEST(Stripes, areCutWhereThereIsTheLeastInk) {
-    std::vector<int> rows(1'000, 9);
-    rows[530] = 2;
-    EXPECT_THAT(stripes(rows, 2, 48), ElementsAre(Stripe{0, 578, 0, 530}, Stripe{482, 1'000, 530, 1'000}));
-    rows[470] = 0;
-    EXPECT_THAT(stripes(rows, 2, 48), ElementsAre(Stripe{0, 518, 0, 470}, Stripe{422, 1'000, 470, 1'000}));
-    EXPECT_THAT(stripes(rows, 1, 48), ElementsAre(Stripe{0, 1'000, 0, 1'000}));
-    for (const Stripe &stripe : stripes(std::vector<int>(7), 4, 48))
-        EXPECT_TRUE(stripe.top >= 0 && stripe.top <= stripe.bottom && stripe.bottom <= 7);
-}
-
-TEST(Stripes, giveEachLineOnce) {
-    const std::vector<Stripe> parts{{0, 148, 0, 100}, {52, 200, 100, 200}};
-    const auto lines =
-        joined(parts, {{line("above", 0, 60), line("middle", 0, 94), line("cut", 0, 142, 100, 6)},
-                       {line("half", 0, 60, 100, 12), line("middle, too", 0, 94.5), line("below", 0, 130)}});
-    EXPECT_THAT(texts(lines), ElementsAre("above", "middle", "below"));
 }

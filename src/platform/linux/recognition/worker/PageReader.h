@@ -19,12 +19,12 @@ public:
     // `languages` as the engine names them, joined by "+".
     explicit PageReader(std::string languages);
 
-    // The lines in reading order. Small text is read enlarged.
-    [[nodiscard]] tl::expected<std::vector<ReadLine>, ReadingFault> read(Pix *grey);
+    // The lines in reading order.
+    [[nodiscard]] tl::expected<std::vector<ReadLine>, ReadingFault> read(const GreyPicture &grey);
 
 private:
     const std::string m_languages;
-    // Each is made by the first stripe that it is to read.
+    // Each is made when it is first needed.
     std::vector<std::unique_ptr<TextEngine>> m_engines;
 };
 

@@ -16,23 +16,15 @@ namespace tembra::recognition {
 
 namespace {
 
-PixOwner greyPicture(const PictureHeader &header, const unsigned char *rows) {
-    PixOwner grey(pixCreate(static_cast<int>(header.width), static_cast<int>(header.height), 8));
-    if (!grey)
-        return {};
-    l_uint32 *const data = pixGetData(grey.get());
-    const int wordsPerLine = pixGetWpl(grey.get());
-    for (std::uint32_t y = 0; y < header.height; ++y) {
-        l_uint32 *const line = data + std::ptrdiff_t{y} * wordsPerLine;
-        const unsigned char *const row = rows + std::size_t{y} * header.bytesPerRow;
-        for (std::uint32_t x = 0; x < header.width; ++x)
-            SET_DATA_BYTE(line, x, row[x]);
-    }
+GreyPicture greyPicture(const PictureHeader &header, const unsigned char *rows) {
+    GreyPicture grey(static_cast<int>(header.width), static_cast<int>(header.height));
+    for (int y = 0; y < grey.height; ++y)
+        std::memcpy(grey.row(y), rows + std::size_t{header.bytesPerRow} * static_cast<std::size_t>(y), header.width);
     return grey;
 }
 
-// Null when it is none.
-PixOwner pictureOf(int file) {
+// Nothing when it is none.
+std::optional<GreyPicture> pictureOf(int file) {
     constexpr std::uint32_t longestSide = 32'767;
     struct stat status {};
     if (fstat(file, &status) != 0 || status.st_size < static_cast<off_t>(sizeof(PictureHeader)))
@@ -48,21 +40,23 @@ PixOwner pictureOf(int file) {
                          header.bytesPerRow >= header.width &&
                          std::size_t{header.bytesPerRow} * header.height <= size - sizeof header;
     const auto *const rows = static_cast<const unsigned char *>(memory) + sizeof header;
-    PixOwner picture = isWhole ? greyPicture(header, rows) : PixOwner();
+    std::optional<GreyPicture> picture;
+    if (isWhole)
+        picture = greyPicture(header, rows);
     munmap(memory, size);
     return picture;
 }
 
 } // namespace
 
-PixOwner PictureSocket::next(std::chrono::milliseconds idleTime) const {
+std::optional<GreyPicture> PictureSocket::next(std::chrono::milliseconds idleTime) const {
     pollfd waiting{m_descriptor, POLLIN, 0};
     if (poll(&waiting, 1, static_cast<int>(idleTime.count())) <= 0)
         return {};
     const int file = receive();
     if (file < 0)
         return {};
-    PixOwner picture = say(takenMark) ? pictureOf(file) : PixOwner();
+    std::optional<GreyPicture> picture = say(takenMark) ? pictureOf(file) : std::nullopt;
     close(file);
     return picture;
 }
@@ -70,7 +64,8 @@ PixOwner PictureSocket::next(std::chrono::milliseconds idleTime) const {
 bool PictureSocket::answer(const std::vector<ReadLine> &lines) const {
     std::string text;
     for (const ReadLine &line : lines) {
-        for (const auto &[word, box] : line) {
+        for (const auto &[word, box, confidence] : line) {
+            (void)confidence;
             std::array<char, 96> edges{};
             (void)std::snprintf(edges.data(), edges.size(), "%.1f %.1f %.1f %.1f ", box.left, box.top,
                                 box.right, box.bottom);

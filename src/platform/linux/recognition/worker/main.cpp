@@ -10,6 +10,7 @@
 #include <cstdlib>
 #include <ctime>
 #include <fstream>
+#include <leptonica/allheaders.h>
 #include <malloc.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>
@@ -62,9 +63,9 @@ int main(int argc, char **argv) {
     const std::chrono::milliseconds idleTime(std::atoi(argv[2]));
     const PictureSocket socket(STDIN_FILENO);
     PageReader reader(argv[1]);
-    while (const PixOwner picture = socket.next(idleTime)) {
+    while (const auto picture = socket.next(idleTime)) {
         limitTime();
-        const auto lines = reader.read(picture.get());
+        const auto lines = reader.read(*picture);
         if (!lines) {
             (void)socket.say(lines.error() == ReadingFault::noLanguage ? noLanguageMark : "");
             return EXIT_FAILURE;
