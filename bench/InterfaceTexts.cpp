@@ -136,7 +136,7 @@ void addWindows(Collection &texts) {
 
 void addLanguages(Collection &texts) {
     const Languages german{QStringLiteral("deu"), QStringLiteral("eng")};
-    const Languages russian{QStringLiteral("rus"), QStringLiteral("eng")};
+    const Languages russian{QStringLiteral("eng"), QStringLiteral("rus")};
     const auto in = [](SceneLanguage language, auto scene) { return [=] { return scene(language); }; };
     texts.add("German message box, dark", {"Inter", 13, true}, in(SceneLanguage::german, messageBox), false,
               german);

@@ -14,7 +14,8 @@ struct GreyPicture {
 
     GreyPicture() = default;
     GreyPicture(int pixelWidth, int pixelHeight, std::uint8_t level = 0)
-        : width(pixelWidth), height(pixelHeight),
+        : width(pixelWidth),
+          height(pixelHeight),
           levels(static_cast<std::size_t>(pixelWidth) * static_cast<std::size_t>(pixelHeight), level) {}
 
     [[nodiscard]] std::uint8_t *row(int y) { return levels.data() + std::ptrdiff_t{y} * width; }

@@ -70,8 +70,8 @@ bool isCheckBox(const PixelBox &box) {
 }
 
 // Holds a row against the paper that is nearest in it; gives false where it has none.
-bool markInk(const std::uint8_t *grey, const std::vector<bool> &papers, const std::int32_t *numbers, int width,
-             std::uint8_t *ink) {
+bool markInk(const std::uint8_t *grey, const std::vector<bool> &papers, const std::int32_t *numbers,
+             int width, std::uint8_t *ink) {
     int last = -1;
     for (int x = 0; x <= width; ++x) {
         if (x < width && !papers[static_cast<size_t>(numbers[x])])

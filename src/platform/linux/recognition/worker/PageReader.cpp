@@ -1,9 +1,11 @@
 #include "platform/linux/recognition/worker/PageReader.h"
 
+#include "platform/linux/recognition/worker/Doubt.h"
 #include "platform/linux/recognition/worker/InkPicture.h"
 #include "platform/linux/recognition/worker/ReadingOrder.h"
 
 #include <atomic>
+#include <chrono>
 #include <thread>
 
 namespace tembra::recognition {
@@ -11,6 +13,9 @@ namespace tembra::recognition {
 namespace {
 
 constexpr int mostEngines = 4;
+// Less than the program waits: of a picture that is full of what looks like text a part is better than
+// nothing.
+constexpr std::chrono::seconds mostTime(40);
 
 int engineCount() {
     return std::clamp(static_cast<int>(std::thread::hardware_concurrency()), 1, mostEngines);
@@ -24,13 +29,14 @@ PageReader::PageReader(std::string languages)
 tl::expected<std::vector<ReadLine>, ReadingFault> PageReader::read(const GreyPicture &grey) {
     const GreyPicture ink = inkPicture(grey);
     const std::vector<TextSegment> segments = textSegments(ink);
+    const auto end = std::chrono::steady_clock::now() + mostTime;
     std::vector<std::optional<ReadLine>> read(segments.size());
     std::atomic<size_t> next = 0;
     const auto work = [&](std::unique_ptr<TextEngine> &engine) {
         if (!engine)
             engine = std::make_unique<TextEngine>(m_languages);
         for (size_t i = next++; engine->isUsable() && i < segments.size(); i = next++)
-            read[i] = engine->read(ink, segments[i]);
+            read[i] = std::chrono::steady_clock::now() < end ? engine->read(ink, segments[i]) : ReadLine();
     };
     {
         std::vector<std::jthread> others;
@@ -44,6 +50,7 @@ tl::expected<std::vector<ReadLine>, ReadingFault> PageReader::read(const GreyPic
     for (std::optional<ReadLine> &line : read) {
         if (!line)
             return tl::unexpected(ReadingFault::unusable);
+        leaveOutDoubtful(*line);
         if (!line->empty())
             lines.push_back(std::move(*line));
     }

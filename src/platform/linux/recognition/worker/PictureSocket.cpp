@@ -19,7 +19,8 @@ namespace {
 GreyPicture greyPicture(const PictureHeader &header, const unsigned char *rows) {
     GreyPicture grey(static_cast<int>(header.width), static_cast<int>(header.height));
     for (int y = 0; y < grey.height; ++y)
-        std::memcpy(grey.row(y), rows + std::size_t{header.bytesPerRow} * static_cast<std::size_t>(y), header.width);
+        std::memcpy(grey.row(y), rows + std::size_t{header.bytesPerRow} * static_cast<std::size_t>(y),
+                    header.width);
     return grey;
 }
 
@@ -64,12 +65,12 @@ std::optional<GreyPicture> PictureSocket::next(std::chrono::milliseconds idleTim
 bool PictureSocket::answer(const std::vector<ReadLine> &lines) const {
     std::string text;
     for (const ReadLine &line : lines) {
-        for (const auto &[word, box, confidence] : line) {
-            (void)confidence;
+        for (const ReadWord &word : line) {
+            const TextBox &box = word.box;
             std::array<char, 96> edges{};
             (void)std::snprintf(edges.data(), edges.size(), "%.1f %.1f %.1f %.1f ", box.left, box.top,
                                 box.right, box.bottom);
-            text.append(edges.data()).append(word).append("\n");
+            text.append(edges.data()).append(word.text).append("\n");
         }
         text += '\n';
     }

@@ -31,8 +31,8 @@ struct Regions {
     std::vector<PixelBox> boxes;
 };
 
-// Regions of neighbours, the diagonal ones among them, that `areTogether(offset, offset)` says of. Pixels that
-// `counts(offset)` is false of are in none (-1).
+// Regions of neighbours, the diagonal ones among them, that `areTogether(offset, offset)` says of. Pixels
+// that `counts(offset)` is false of are in none (-1).
 template <class Counts, class AreTogether>
 Regions regionsOf(int width, int height, Counts counts, AreTogether areTogether) {
     Regions result;
@@ -85,7 +85,8 @@ Regions regionsOf(int width, int height, Counts counts, AreTogether areTogether)
     }
     for (int y = 0; y < height; ++y) {
         for (int x = 0; x < width; ++x) {
-            std::int32_t &number = numbers[static_cast<size_t>(y) * static_cast<size_t>(width) + static_cast<size_t>(x)];
+            std::int32_t &number =
+                numbers[static_cast<size_t>(y) * static_cast<size_t>(width) + static_cast<size_t>(x)];
             if (number < 0)
                 continue;
             number = names[static_cast<size_t>(number)];

@@ -19,6 +19,7 @@ constexpr double widestLetterSpace = 0.25;
 constexpr double widestMarkSpace = 1.2;
 constexpr double smallMark = 0.55;
 // In its own height.
+constexpr double wordShape = 1.6;
 constexpr double thinnest = 0.15;
 
 // Ink without soft edges.
@@ -72,13 +73,15 @@ std::vector<Chain> joined(std::vector<Chain> parts, WidestGap widestGap) {
     std::vector<Chain> chains;
     std::vector<size_t> open;
     for (const Chain &part : parts) {
-        std::erase_if(open, [&](size_t i) { return part.box.left - chains[i].box.right > 2 * largestLetter; });
+        std::erase_if(open,
+                      [&](size_t i) { return part.box.left - chains[i].box.right > 2 * largestLetter; });
         int best = 0;
         Chain *bestChain = nullptr;
         for (const size_t i : open) {
             const PixelBox &box = chains[i].box;
             const int common = commonRows(box, part.box);
-            if (common > best && areOnOneLine(box, part.box) && part.box.left - box.right <= widestGap(box, part.box)) {
+            if (common > best && areOnOneLine(box, part.box) &&
+                part.box.left - box.right <= widestGap(box, part.box)) {
                 best = common;
                 bestChain = &chains[i];
             }
@@ -93,15 +96,30 @@ std::vector<Chain> joined(std::vector<Chain> parts, WidestGap widestGap) {
     return chains;
 }
 
-// The height of the tallest chain on the same line nearby.
-int lineHeight(const std::vector<Chain> &chains, const PixelBox &box) {
+// The height of the tallest word on the same line nearby.
+int lineHeight(const std::vector<Chain> &words, const PixelBox &box) {
     int height = 0;
-    for (const Chain &chain : chains) {
-        const int apart = std::max(box.left - chain.box.right, chain.box.left - box.right);
-        if (apart <= 8 * box.height() && chain.letters > 1 && areOnOneLine(chain.box, box))
-            height = std::max(height, chain.box.height());
+    for (const Chain &word : words) {
+        const int apart = std::max(box.left - word.box.right, word.box.left - box.right);
+        if (apart <= 8 * box.height() && areOnOneLine(word.box, box))
+            height = std::max(height, word.box.height());
     }
     return height;
+}
+
+// What is clearly taller than the words that it stands beside, and about as wide as it is tall.
+bool isIcon(const PixelBox &box, const std::vector<Chain> &words) {
+    constexpr double taller = 1.35;
+    constexpr double near = 1.5;
+    if (box.width() >= wordShape * box.height())
+        return false;
+    int height = 0;
+    for (const Chain &word : words) {
+        const int apart = std::max(word.box.left - box.right, box.left - word.box.right);
+        if (apart > 0 && apart <= near * box.height() && 2 * commonRows(word.box, box) >= word.box.height())
+            height = std::max(height, word.box.height());
+    }
+    return height > 0 && box.height() > taller * height;
 }
 
 // Dots, commas, hyphens, quotes go to the line that they stand at; what stands at none is left out.
@@ -116,7 +134,8 @@ std::vector<Chain> withSmallMarks(const std::vector<Chain> &chains, const std::v
             const double across = std::max({0, box.left - mark.right, mark.left - box.right});
             const double down = std::max({0, box.top - mark.bottom, mark.top - box.bottom});
             if (mark.height() > smallMark * box.height() ||
-                across > (down > 0 ? 0.5 : widestMarkSpace) * box.height() || down > 0.25 * box.height() || mark.width() > 2 * box.height())
+                across > (down > 0 ? 0.5 : widestMarkSpace) * box.height() || down > 0.25 * box.height() ||
+                mark.width() > 2 * box.height())
                 continue;
             if (across + 2 * down < bestDistance) {
                 bestDistance = across + 2 * down;
@@ -130,7 +149,8 @@ std::vector<Chain> withSmallMarks(const std::vector<Chain> &chains, const std::v
     for (const PixelBox &mark : marks)
         (void)take(mark);
     for (size_t i = 0; i < chains.size(); ++i)
-        isTaken[i] = chains[i].letters <= 2 && take(chains[i].box);
+        isTaken[i] = chains[i].letters <= 2 && chains[i].box.width() < wordShape * chains[i].box.height() &&
+                     take(chains[i].box);
     size_t i = 0;
     std::erase_if(result, [&](const Chain &) { return isTaken[i++]; });
     return result;
@@ -145,16 +165,13 @@ std::vector<Chain> chainsOf(const std::vector<PixelBox> &letters, const std::vec
     });
     parts = withSmallMarks(parts, marks);
     // A lone bar is the edge of something.
-    std::erase_if(parts, [](const Chain &part) {
-        return part.letters == 1 && isBar(part.box);
-    });
-    const std::vector<Chain> words = parts;
-    // An icon is not of the line that it stands before.
-    std::erase_if(parts, [&](const Chain &part) {
-        const int height = lineHeight(words, part.box);
-        return part.letters == 1 && height > 0 && part.box.height() > 1.35 * height && part.box.width() > 0.5 * part.box.height();
-    });
+    std::erase_if(parts, [](const Chain &part) { return part.letters == 1 && isBar(part.box); });
+    std::vector<Chain> words = parts;
+    std::erase_if(words, [](const Chain &part) { return part.box.width() < wordShape * part.box.height(); });
+    std::erase_if(parts, [&](const Chain &part) { return part.letters == 1 && isIcon(part.box, words); });
     return joined(std::move(parts), [&](const PixelBox &first, const PixelBox &second) {
+        if (isIcon(first, words) || isIcon(second, words))
+            return -1.0;
         return widestSpace * std::max(lineHeight(words, first), lineHeight(words, second));
     });
 }
@@ -163,12 +180,14 @@ TextSegment measured(const GreyPicture &ink, const PixelBox &box) {
     TextSegment segment{box, box.top, box.bottom, faintest};
     int strongest = 0;
     for (int y = box.top; y < box.bottom; ++y)
-        strongest = std::max<int>(strongest, *std::max_element(ink.row(y) + box.left, ink.row(y) + box.right));
+        strongest =
+            std::max<int>(strongest, *std::max_element(ink.row(y) + box.left, ink.row(y) + box.right));
     segment.threshold = std::max(faintest, static_cast<int>(std::lround(edge * strongest)));
     std::vector<int> counts;
     for (int y = box.top; y < box.bottom; ++y)
-        counts.push_back(static_cast<int>(std::count_if(ink.row(y) + box.left, ink.row(y) + box.right,
-                                                        [&](int level) { return level >= segment.threshold; })));
+        counts.push_back(
+            static_cast<int>(std::count_if(ink.row(y) + box.left, ink.row(y) + box.right,
+                                           [&](int level) { return level >= segment.threshold; })));
     constexpr double core = 0.45;
     const int most = *std::ranges::max_element(counts);
     const auto isCore = [&](int count) { return count >= core * most; };
