@@ -116,13 +116,25 @@ TEST_F(RecognitionWorkers, failWithOneErrorWhateverTheFault) {
     EXPECT_EQ(errorWith(program("exec sleep 100"), 100ms), TextRecognizer::notRecognized);
 }
 
-TEST_F(RecognitionWorkers, passOverLanguagesThatAreMissingOrBroken) {
+TEST_F(RecognitionWorkers, passOverLanguagesThatAreMissing) {
     const QString worker = QStringLiteral(TEMBRA_RECOGNITION_WORKER);
     const QString none = QStringLiteral("nolanguage");
     EXPECT_EQ(errorOf(TesseractRecognizer({worker, {none}}).recognize(hello, {})),
               TextRecognizer::noLanguage);
     EXPECT_EQ(textOf(TesseractRecognizer({worker, {none, QStringLiteral("eng")}}).recognize(hello, {})),
               helloText);
+}
+
+TEST_F(RecognitionWorkers, failAloneWhenTheirDataIsDamaged) {
+    for (const QByteArray &data : {QByteArray(), QByteArray("not a language"), QByteArray(100'000, '\x7f')}) {
+        QFile file(folder.filePath(QStringLiteral("eng.traineddata")));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(data);
+        file.close();
+        const QString worker = program("TESSDATA_PREFIX=${0%/*} exec " TEMBRA_RECOGNITION_WORKER " \"$@\"");
+        const int error = errorOf(TesseractRecognizer(english(worker)).recognize(hello, {}));
+        EXPECT_TRUE(error == TextRecognizer::noLanguage || error == TextRecognizer::notRecognized) << error;
+    }
 }
 
 TEST_F(RecognitionWorkers, stayForTheNextPicture) {
