@@ -6,6 +6,7 @@
 #include "Row.h"
 #include "Scratch.h"
 #include "TextErrors.h"
+#include "WordPictures.h"
 #include "imaging/PictureDecoding.h"
 #include "platform/linux/recognition/TesseractRecognizer.h"
 
@@ -16,6 +17,7 @@
 
 #include <array>
 #include <cstdlib>
+#include <future>
 #include <map>
 #include <memory>
 
@@ -105,6 +107,24 @@ void printCase(const InterfaceText &text, const TextErrors &ours, double time, c
                 text.hasColumns ? "  (words)" : "");
 }
 
+// From the word to the answer, in the middle of the picture.
+double cancellationTime(const TextRecognizer &recognizer, const QImage &image) {
+    using namespace std::chrono_literals;
+    constexpr int rounds = 5;
+    std::vector<double> times;
+    for (int i = 0; i < rounds; ++i) {
+        const Cancellation cancellation;
+        auto lines =
+            std::async(std::launch::async, [&] { return recognizer.recognize(image, cancellation); });
+        require(lines.wait_for(300ms) == std::future_status::timeout, "read too soon to be cancelled");
+        times.push_back(milliseconds([&] {
+            cancellation.cancel();
+            lines.wait();
+        }));
+    }
+    return median(times);
+}
+
 // With more threads than one the program is many times slower, so a few pictures tell.
 const char *bestThreads(const std::vector<InterfaceText> &texts) {
     constexpr std::array<const char *, 3> choices{"1", "2", nullptr};
@@ -160,5 +180,8 @@ int main(int argc, char **argv) {
     printRow("errors of interface texts / tesseract program", ours.hundredths(), program.hundredths(), "%",
              0.5);
     printRow("time of interface texts / its best threads", ours.time, program.time, "ms", 0.6);
+    const QImage screen = wordPicture(QSize(3840, 2160), 0).image;
+    printRow("cancelled in the middle of a screen",
+             cancellationTime(*recognizers[QStringLiteral("eng")], screen), 100, "ms", 1);
     return 0;
 }
