@@ -34,7 +34,7 @@ constexpr qsizetype longestAnswer = qsizetype{16} << 20;
 std::vector<QByteArray> workerEnvironment() {
     std::vector<QByteArray> environment;
     for (char **each = environ; each && *each; ++each) {
-        if (QByteArrayView variable(*each); !variable.startsWith("OMP_THREAD_LIMIT="))
+        if (const QByteArrayView variable(*each); !variable.startsWith("OMP_THREAD_LIMIT="))
             environment.push_back(variable.toByteArray());
     }
     environment.emplace_back("OMP_THREAD_LIMIT=1");

@@ -13,8 +13,8 @@ constexpr double guessing = 40;
 // Letters and digits of any script; the signs of Latin-1 and the general punctuation are none.
 size_t letterCount(std::string_view text) {
     size_t count = 0;
-    for (size_t i = 0; i < text.size(); ++i) {
-        const auto byte = static_cast<unsigned char>(text[i]);
+    for (const char each : text) {
+        const auto byte = static_cast<unsigned char>(each);
         constexpr unsigned char latinSigns = 0xc2;
         constexpr unsigned char punctuation = 0xe2;
         const bool isAscii = byte < 0x80;

@@ -3,7 +3,7 @@
 #include "platform/linux/recognition/worker/GreyPicture.h"
 
 #include <algorithm>
-#include <numeric>
+#include <limits>
 #include <utility>
 
 namespace tembra::recognition {
@@ -30,6 +30,32 @@ struct Regions {
     std::vector<std::int32_t> numbers;
     std::vector<PixelBox> boxes;
 };
+
+// Numbers the regions from 0; `rootOf(number)` is the same for all that has turned out to be one.
+template <class RootOf>
+void nameRegions(Regions &regions, size_t numberCount, int width, RootOf rootOf) {
+    std::vector<std::int32_t> names(numberCount, -1);
+    for (size_t i = 0; i < numberCount; ++i) {
+        const std::int32_t root = rootOf(static_cast<std::int32_t>(i));
+        std::int32_t &name = names[static_cast<size_t>(root)];
+        if (name < 0) {
+            name = static_cast<std::int32_t>(regions.boxes.size());
+            constexpr int farthest = std::numeric_limits<int>::max();
+            regions.boxes.push_back({farthest, farthest, 0, 0});
+        }
+        names[i] = name;
+    }
+    for (size_t at = 0; at < regions.numbers.size(); ++at) {
+        std::int32_t &number = regions.numbers[at];
+        if (number < 0)
+            continue;
+        number = names[static_cast<size_t>(number)];
+        const int x = static_cast<int>(at % static_cast<size_t>(width));
+        const int y = static_cast<int>(at / static_cast<size_t>(width));
+        PixelBox &box = regions.boxes[static_cast<size_t>(number)];
+        box = box.united({x, y, x + 1, y + 1});
+    }
+}
 
 // Regions of neighbours, the diagonal ones among them, that `areTogether(offset, offset)` says of. Pixels
 // that `counts(offset)` is false of are in none (-1).
@@ -73,27 +99,7 @@ Regions regionsOf(int width, int height, Counts counts, AreTogether areTogether)
             numbers[at] = number;
         }
     }
-    std::vector<std::int32_t> names(parents.size(), -1);
-    for (size_t i = 0; i < parents.size(); ++i) {
-        const std::int32_t root = rootOf(static_cast<std::int32_t>(i));
-        std::int32_t &name = names[static_cast<size_t>(root)];
-        if (name < 0) {
-            name = static_cast<std::int32_t>(result.boxes.size());
-            result.boxes.push_back({width, height, 0, 0});
-        }
-        names[i] = name;
-    }
-    for (int y = 0; y < height; ++y) {
-        for (int x = 0; x < width; ++x) {
-            std::int32_t &number =
-                numbers[static_cast<size_t>(y) * static_cast<size_t>(width) + static_cast<size_t>(x)];
-            if (number < 0)
-                continue;
-            number = names[static_cast<size_t>(number)];
-            PixelBox &box = result.boxes[static_cast<size_t>(number)];
-            box = box.united({x, y, x + 1, y + 1});
-        }
-    }
+    nameRegions(result, parents.size(), width, rootOf);
     return result;
 }
 

@@ -68,7 +68,7 @@ bool areOnOneLine(const PixelBox &first, const PixelBox &second) {
 
 // Joins what stands on one line with no wider gap than the two allow; the boxes come from left to right.
 template <class WidestGap>
-std::vector<Chain> joined(std::vector<Chain> parts, WidestGap widestGap) {
+std::vector<Chain> joined(std::vector<Chain> &&parts, WidestGap widestGap) {
     std::ranges::sort(parts, {}, [](const Chain &part) { return part.box.left; });
     std::vector<Chain> chains;
     std::vector<size_t> open;
