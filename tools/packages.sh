@@ -25,7 +25,8 @@ desktop_packages=(
 fuzz_packages=(clang-16 libclang-rt-16-dev llvm-16)
 
 # What other programs are measured against.
-bench_packages=(libgdk-pixbuf2.0-bin ffmpegthumbnailer libopencv-imgproc-dev tesseract-ocr)
+bench_packages=(libgdk-pixbuf2.0-bin ffmpegthumbnailer libopencv-imgproc-dev tesseract-ocr tesseract-ocr-deu
+  tesseract-ocr-rus fonts-liberation fonts-cantarell)
 
 # Installs those of the named packages that are missing, with sudo where needed.
 install_missing() {

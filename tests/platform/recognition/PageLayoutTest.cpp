@@ -1,5 +1,7 @@
+#include "platform/linux/recognition/worker/Doubt.h"
+#include "platform/linux/recognition/worker/InkPicture.h"
 #include "platform/linux/recognition/worker/ReadingOrder.h"
-#include "platform/linux/recognition/worker/Stripes.h"
+#include "platform/linux/recognition/worker/TextSegments.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -23,34 +25,67 @@ std::vector<std::string> texts(const std::vector<ReadLine> &lines) {
 } // namespace
 
 TEST(ReadingOrder, goesDownEachColumnBeneathWhatSpansThem) {
-    const auto ordered =
-        inReadingOrder({line("right 2", 300, 70), line("left 1", 10, 50), line("foot", 20, 140),
-                        line("right 1", 300, 52), line("head", 10, 0, 390), line("left 2", 10, 68)});
+    const double prose = 260;
+    const auto ordered = inReadingOrder({line("right 2", 300, 70, prose), line("left 1", 10, 50, prose),
+                                         line("foot", 20, 140), line("right 1", 300, 52, prose),
+                                         line("head", 10, 0, 550), line("left 2", 10, 68, prose)});
     EXPECT_THAT(texts(ordered), ElementsAre("head", "left 1", "left 2", "right 1", "right 2", "foot"));
 }
 
-TEST(ReadingOrder, readsAcrossWhatStandsCloseTogether) {
-    const auto ordered = inReadingOrder(
-        {line("d", 120, 60), line("b", 115, 0), line("c", 0, 60), line("a", 0, 0), line("over a", 5, 2)});
-    EXPECT_THAT(texts(ordered), ElementsAre("a", "over a", "b", "c", "d"));
+TEST(ReadingOrder, readsRowsOfCellsAcross) {
+    const auto ordered = inReadingOrder({line("Ctrl+O", 300, 20), line("New", 10, 0), line("Open", 10, 20),
+                                         line("Ctrl+N", 300, 1), line("Quit", 10, 40)});
+    ASSERT_EQ(ordered.size(), 3u);
+    EXPECT_EQ(ordered[0][0].text + ordered[0][1].text, "NewCtrl+N");
+    EXPECT_EQ(ordered[1][0].text + ordered[1][1].text, "OpenCtrl+O");
     EXPECT_TRUE(inReadingOrder({}).empty());
 }
 
-TEST(Stripes, areCutWhereThereIsTheLeastInk) {
-    std::vector<int> rows(1'000, 9);
-    rows[530] = 2;
-    EXPECT_THAT(stripes(rows, 2, 48), ElementsAre(Stripe{0, 578, 0, 530}, Stripe{482, 1'000, 530, 1'000}));
-    rows[470] = 0;
-    EXPECT_THAT(stripes(rows, 2, 48), ElementsAre(Stripe{0, 518, 0, 470}, Stripe{422, 1'000, 470, 1'000}));
-    EXPECT_THAT(stripes(rows, 1, 48), ElementsAre(Stripe{0, 1'000, 0, 1'000}));
-    for (const Stripe &stripe : stripes(std::vector<int>(7), 4, 48))
-        EXPECT_TRUE(stripe.top >= 0 && stripe.top <= stripe.bottom && stripe.bottom <= 7);
+TEST(ReadingOrder, goesDownThroughAConversation) {
+    const auto ordered =
+        inReadingOrder({line("answer", 400, 30), line("question", 0, 0), line("thanks", 0, 60)});
+    EXPECT_THAT(texts(ordered), ElementsAre("question", "answer", "thanks"));
 }
 
-TEST(Stripes, giveEachLineOnce) {
-    const std::vector<Stripe> parts{{0, 148, 0, 100}, {52, 200, 100, 200}};
-    const auto lines =
-        joined(parts, {{line("above", 0, 60), line("middle", 0, 94), line("cut", 0, 142, 100, 6)},
-                       {line("half", 0, 60, 100, 12), line("middle, too", 0, 94.5), line("below", 0, 130)}});
-    EXPECT_THAT(texts(lines), ElementsAre("above", "middle", "below"));
+TEST(Doubt, leavesOutUnsureSignsAtTheEndsOnly) {
+    ReadLine read{{"|", {}, 50},  {"©", {}, 60}, {"a", {}, 90}, {"=", {}, 30},
+                  {"42", {}, 20}, {"}", {}, 95}, {"l", {}, 10}};
+    leaveOutDoubtful(read);
+    std::string text;
+    for (const ReadWord &word : read)
+        text += word.text;
+    EXPECT_EQ(text, "a=42}");
+}
+
+TEST(InkPicture, holdsEverythingAgainstThePaperAroundIt) {
+    // Light on a dark badge on light paper, and a dark stroke beside it.
+    GreyPicture grey(200, 60, 250);
+    const auto fill = [&](int left, int top, int right, int bottom, std::uint8_t level) {
+        for (int y = top; y < bottom; ++y)
+            std::fill(grey.row(y) + left, grey.row(y) + right, level);
+    };
+    fill(20, 20, 80, 40, 40);
+    fill(40, 25, 42, 35, 240);
+    fill(120, 25, 122, 35, 10);
+    const GreyPicture ink = inkPicture(grey);
+    EXPECT_EQ(ink.row(30)[41], 200);
+    EXPECT_EQ(ink.row(30)[121], 240);
+    EXPECT_EQ(ink.row(30)[60], 0);
+    EXPECT_EQ(ink.row(5)[5], 0);
+}
+
+TEST(TextSegments, takeDotsAlongAndKeepCellsApart) {
+    GreyPicture ink(300, 60);
+    const auto letter = [&](int left, int top, int width, int height) {
+        for (int y = top; y < top + height; ++y)
+            std::fill(ink.row(y) + left, ink.row(y) + left + width, std::uint8_t{200});
+    };
+    for (const int left : {20, 28, 36, 120, 128, 136})
+        letter(left, 20, 6, 10);
+    letter(22, 16, 2, 2);
+    letter(44, 28, 2, 2);
+    const auto segments = textSegments(ink);
+    ASSERT_EQ(segments.size(), 2u);
+    EXPECT_EQ(segments[0].box, (PixelBox{20, 16, 46, 30}));
+    EXPECT_EQ(segments[1].box, (PixelBox{120, 20, 142, 30}));
 }

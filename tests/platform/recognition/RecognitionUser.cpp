@@ -1,4 +1,4 @@
-// Has a worker read a picture: RecognitionUser WORKER. To be killed meanwhile.
+// Has a worker read again and again: RecognitionUser WORKER. To be killed meanwhile.
 
 #include "platform/linux/recognition/TesseractRecognizer.h"
 
@@ -8,8 +8,10 @@ using namespace tembra;
 
 int main(int argc, char **argv) {
     const QCoreApplication application(argc, argv);
-    const TesseractRecognizer recognizer({QCoreApplication::arguments().last(), {}});
+    const TesseractRecognizer recognizer({QCoreApplication::arguments().last(), {QStringLiteral("eng")}});
     QImage blank(8, 8, QImage::Format_RGB32);
     blank.fill(Qt::white);
-    return recognizer.recognize(blank, {}) ? 0 : 1;
+    while (recognizer.recognize(blank, {})) {
+    }
+    return 1;
 }

@@ -28,16 +28,20 @@ QString engineLanguage(const QLocale &locale) {
 QStringList engineLanguages(const QStringList &localeNames) {
     // Each one makes reading slower.
     constexpr qsizetype most = 3;
-    QStringList languages;
-    for (const QString &name : localeNames) {
-        const QString language = engineLanguage(QLocale(name));
-        if (!language.isEmpty() && !languages.contains(language) && languages.size() < most)
-            languages += language;
-    }
     const QString english = QStringLiteral("eng");
-    if (!languages.contains(english))
-        languages += english;
-    return languages;
+    QStringList latin;
+    QStringList others;
+    for (const QString &name : localeNames) {
+        const QLocale locale(name);
+        const QString language = engineLanguage(locale);
+        if (language.isEmpty() || latin.contains(language) || others.contains(language) ||
+            latin.size() + others.size() >= most)
+            continue;
+        (locale.script() == QLocale::LatinScript ? latin : others) += language;
+    }
+    if (!latin.contains(english))
+        latin += english;
+    return latin + others;
 }
 
 } // namespace tembra

@@ -6,6 +6,8 @@
 namespace tembra {
 
 // The user's languages as Tesseract names them, most wanted first, and English, which interfaces are full of.
+// The first one wins what two of them can read: German knows the letters of English, but Russian has others
+// that look like them, so languages of other scripts come last.
 [[nodiscard]] QStringList engineLanguages(const QStringList &localeNames);
 
 } // namespace tembra

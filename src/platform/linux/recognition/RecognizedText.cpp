@@ -37,7 +37,7 @@ std::optional<std::vector<TextRecognizer::Line>> recognizedText(const QByteArray
     for (qsizetype end = rest.indexOf('\n'); end >= 0; end = rest.indexOf('\n')) {
         const QByteArrayView text = rest.first(end);
         rest = rest.sliced(end + 1);
-        if (text == QByteArrayView(recognition::endMark))
+        if (text == QByteArrayView(recognition::endMark).chopped(1))
             return rest.isEmpty() && line.words.empty() ? std::optional(std::move(lines)) : std::nullopt;
         if (text.isEmpty()) {
             if (line.words.empty())

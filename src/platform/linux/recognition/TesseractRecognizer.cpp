@@ -7,24 +7,11 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFileInfo>
-#include <QProcess>
-
-#include <csignal>
-#include <sys/prctl.h>
-#include <unistd.h>
 
 namespace tembra {
 
 namespace {
-
-using namespace std::chrono_literals;
-
-// How long a cancelled worker may go on.
-constexpr std::chrono::milliseconds cancellationInterval = 30ms;
-// More than all the words of a picture take.
-constexpr qsizetype longestOutput = qsizetype{16} << 20;
 
 QString sentence(TextRecognizer::ErrorCode code) {
     switch (code) {
@@ -48,59 +35,57 @@ tl::unexpected<Error> recognitionFailure(TextRecognizer::ErrorCode code) {
     return failure({TextRecognizer::errorDomain, code, sentence(code), {}});
 }
 
-// In the child, before it becomes the worker: the picture is its input, and it does not outlive us.
-void becomeWorker(int picture, pid_t parent) {
-    ::dup2(picture, STDIN_FILENO);
-    ::prctl(PR_SET_PDEATHSIG, SIGKILL);
-    if (::getppid() != parent)
-        ::_exit(recognition::unusable);
-}
-
-void prepare(QProcess &process, const TesseractRecognizer::Worker &worker, int picture) {
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("OMP_THREAD_LIMIT"), QStringLiteral("1"));
-    process.setProcessEnvironment(environment);
-    process.setStandardErrorFile(QProcess::nullDevice());
-    process.setStandardInputFile(QProcess::nullDevice());
-    process.setProgram(worker.program);
-    process.setArguments({worker.languages.join(u'+')});
-    process.setChildProcessModifier([picture, parent = ::getpid()] { becomeWorker(picture, parent); });
-}
-
-Result<QByteArray> outputOf(QProcess &process, std::chrono::milliseconds limit,
-                            const Cancellation &cancellation) {
-    QElapsedTimer time;
-    time.start();
-    QByteArray output;
-    while (process.state() != QProcess::NotRunning) {
-        process.waitForReadyRead(static_cast<int>(cancellationInterval.count()));
-        output += process.readAllStandardOutput();
-        if (cancellation.isCancelled())
-            return recognitionFailure(TextRecognizer::cancelled);
-        if (time.hasExpired(limit.count()) || output.size() > longestOutput)
-            return recognitionFailure(TextRecognizer::notRecognized);
+TextRecognizer::ErrorCode codeOf(RecognitionWorker::Fault fault) {
+    switch (fault) {
+    case RecognitionWorker::Fault::noLanguage:
+        return TextRecognizer::noLanguage;
+    case RecognitionWorker::Fault::cancelled:
+        return TextRecognizer::cancelled;
+    case RecognitionWorker::Fault::notStarted:
+        return TextRecognizer::unavailable;
+    case RecognitionWorker::Fault::gone:
+    case RecognitionWorker::Fault::broken:
+    case RecognitionWorker::Fault::late:
+        break;
     }
-    output += process.readAllStandardOutput();
-    if (process.exitStatus() == QProcess::NormalExit && process.exitCode() == recognition::noLanguage)
-        return recognitionFailure(TextRecognizer::noLanguage);
-    if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != recognition::recognized)
-        return recognitionFailure(TextRecognizer::notRecognized);
-    return output;
+    return TextRecognizer::notRecognized;
+}
+
+void report(RecognitionWorker::Fault fault, const QStringList &languages) {
+    switch (fault) {
+    case RecognitionWorker::Fault::noLanguage:
+        qWarning("No text is recognized: Tesseract has no data for any of the languages %s",
+                 qUtf8Printable(languages.join(u' ')));
+        break;
+    case RecognitionWorker::Fault::gone:
+        qWarning("No text is recognized: the worker ended before it took the picture");
+        break;
+    case RecognitionWorker::Fault::broken:
+        qWarning("No text is recognized: the worker ended, or its answer cannot be used");
+        break;
+    case RecognitionWorker::Fault::late:
+        qWarning("No text is recognized: the worker took too long");
+        break;
+    case RecognitionWorker::Fault::notStarted:
+    case RecognitionWorker::Fault::cancelled:
+        break;
+    }
 }
 
 } // namespace
 
-TesseractRecognizer::TesseractRecognizer(Worker worker) : m_worker(std::move(worker)) {}
+TesseractRecognizer::TesseractRecognizer(RecognitionWorker::Program program, std::chrono::milliseconds limit)
+    : m_program(std::move(program)), m_limit(limit) {}
 
 // Beside the program where it is built, else where it is installed.
-TesseractRecognizer::Worker TesseractRecognizer::installedWorker() {
-    Worker worker;
+RecognitionWorker::Program TesseractRecognizer::installedWorker() {
+    RecognitionWorker::Program worker;
     worker.languages = engineLanguages(QLocale::system().uiLanguages());
     const QDir programs(QCoreApplication::applicationDirPath());
     for (const QString &folder : {QStringLiteral("."), QStringLiteral("../libexec/tembra")}) {
         const QFileInfo file(programs, folder + QStringLiteral("/tembra-recognition"));
         if (file.isExecutable()) {
-            worker.program = file.absoluteFilePath();
+            worker.file = file.absoluteFilePath();
             break;
         }
     }
@@ -109,31 +94,63 @@ TesseractRecognizer::Worker TesseractRecognizer::installedWorker() {
 
 Result<std::vector<TextRecognizer::Line>>
 TesseractRecognizer::recognize(const QImage &image, const Cancellation &cancellation) const {
-    if (m_worker.program.isEmpty())
+    if (m_program.file.isEmpty()) {
+        qWarning("No text is recognized: tembra-recognition is not installed");
         return recognitionFailure(unavailable);
+    }
     if (cancellation.isCancelled())
         return recognitionFailure(cancelled);
     if (image.isNull())
         return recognitionFailure(notRecognized);
     const auto picture = pictureInMemory(image);
-    if (!picture)
-        return failure(picture.error());
-    // Its destructor ends what is still running.
-    QProcess process;
-    prepare(process, m_worker, picture->number());
-    process.start(QIODevice::ReadOnly);
-    if (!process.waitForStarted())
-        return recognitionFailure(unavailable);
-    const auto output = outputOf(process, m_worker.limit, cancellation);
-    if (!output) {
-        process.kill();
-        process.waitForFinished();
-        return failure(output.error());
-    }
-    auto lines = recognizedText(*output);
-    if (!lines)
+    if (!picture) {
+        qWarning("No text is recognized: no memory for the picture (%s)",
+                 qUtf8Printable(picture.error().message));
         return recognitionFailure(notRecognized);
+    }
+    const auto answer = read(*picture, cancellation);
+    if (!answer) {
+        report(answer.error(), m_program.languages);
+        return recognitionFailure(codeOf(answer.error()));
+    }
+    auto lines = recognizedText(*answer);
+    if (!lines) {
+        report(Fault::broken, m_program.languages);
+        return recognitionFailure(notRecognized);
+    }
     return std::move(*lines);
+}
+
+RecognitionWorker::Outcome<QByteArray> TesseractRecognizer::read(const Descriptor &picture,
+                                                                 const Cancellation &cancellation) const {
+    RecognitionWorker::Outcome<QByteArray> answer = tl::unexpected(Fault::gone);
+    std::unique_ptr<RecognitionWorker> worker = takeIdleWorker();
+    if (worker)
+        answer = worker->read(picture, m_limit, cancellation);
+    // It may have ended since.
+    if (!answer && answer.error() == Fault::gone) {
+        auto started = RecognitionWorker::start(m_program);
+        if (!started) {
+            qWarning("%s cannot be started: %s", qUtf8Printable(m_program.file),
+                     qUtf8Printable(started.error().message));
+            return tl::unexpected(Fault::notStarted);
+        }
+        worker = std::move(*started);
+        answer = worker->read(picture, m_limit, cancellation);
+    }
+    if (answer)
+        keep(std::move(worker));
+    return answer;
+}
+
+std::unique_ptr<RecognitionWorker> TesseractRecognizer::takeIdleWorker() const {
+    const std::lock_guard lock(m_lock);
+    return std::move(m_idleWorker);
+}
+
+void TesseractRecognizer::keep(std::unique_ptr<RecognitionWorker> worker) const {
+    const std::lock_guard lock(m_lock);
+    std::swap(m_idleWorker, worker);
 }
 
 } // namespace tembra

@@ -1,35 +1,40 @@
 #pragma once
 
 #include "platform/TextRecognizer.h"
+#include "platform/linux/recognition/RecognitionWorker.h"
 
-#include <QStringList>
-
-#include <chrono>
+#include <mutex>
 
 namespace tembra {
 
-// Tesseract in a worker process, one for each picture: it can be ended at any moment, its faults are not
-// ours, and it is told to keep to one thread an engine in the only place where it listens, the environment it
-// starts with.
+// Tesseract in a worker process: it can be ended at any moment, its faults are not ours, and it is told to
+// keep to one thread an engine in the only place where it listens, the environment it starts with. The worker
+// is started when a picture comes and stays for the next ones; a second picture at the same time gets one of
+// its own.
 class TesseractRecognizer final : public TextRecognizer {
 public:
-    struct Worker {
-        // Its file; empty where it is not installed.
-        QString program;
-        // As Tesseract names them.
-        QStringList languages;
-        std::chrono::milliseconds limit = std::chrono::minutes(1);
-    };
-
-    explicit TesseractRecognizer(Worker worker);
+    // `limit` is how long a picture may take.
+    explicit TesseractRecognizer(RecognitionWorker::Program program,
+                                 std::chrono::milliseconds limit = std::chrono::minutes(1));
     // The worker that belongs to this program, with the user's languages.
-    [[nodiscard]] static Worker installedWorker();
+    [[nodiscard]] static RecognitionWorker::Program installedWorker();
 
     [[nodiscard]] Result<std::vector<Line>> recognize(const QImage &image,
                                                       const Cancellation &cancellation) const override;
 
 private:
-    const Worker m_worker;
+    using Fault = RecognitionWorker::Fault;
+
+    [[nodiscard]] RecognitionWorker::Outcome<QByteArray> read(const Descriptor &picture,
+                                                              const Cancellation &cancellation) const;
+    [[nodiscard]] std::unique_ptr<RecognitionWorker> takeIdleWorker() const;
+    // The latest stays, no other.
+    void keep(std::unique_ptr<RecognitionWorker> worker) const;
+
+    const RecognitionWorker::Program m_program;
+    const std::chrono::milliseconds m_limit;
+    mutable std::mutex m_lock;
+    mutable std::unique_ptr<RecognitionWorker> m_idleWorker;
 };
 
 } // namespace tembra

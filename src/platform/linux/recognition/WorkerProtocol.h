@@ -4,11 +4,15 @@
 
 namespace tembra::recognition {
 
-// What the program and its recognition worker say to each other. The worker's standard input is a file in
-// memory: this header, then the picture's rows of one grey byte a pixel. Its argument is the languages as the
-// engine names them, joined by "+". On its standard output stands a line of text for each word,
+// What the program and its recognition worker say to each other, over the socket that is the worker's
+// standard input. The worker's arguments are the languages as the engine names them, joined by "+", and after
+// how many milliseconds without a picture it ends.
+//
+// A picture is one byte that brings the descriptor of a file in memory: this header, then the picture's rows
+// of one grey byte a pixel. The answer to it is lines of text: `takenMark` at once, then one for each word,
 //     left top right bottom text
-// in pixels of the picture, an empty one after each line of words, and `endMark` after the last.
+// in pixels of the picture, an empty one after each line of words, and `endMark` after the last. A worker
+// that cannot give this says `noLanguageMark`, or nothing, and ends.
 struct PictureHeader {
     static constexpr std::uint32_t expectedMagic = 0x31524d54;
 
@@ -18,9 +22,8 @@ struct PictureHeader {
     std::uint32_t bytesPerRow = 0;
 };
 
-inline constexpr char endMark[] = "end";
-
-// What the worker ends with.
-enum ExitCode { recognized = 0, unusable = 2, noLanguage = 3 };
+inline constexpr char takenMark[] = "taken\n";
+inline constexpr char endMark[] = "end\n";
+inline constexpr char noLanguageMark[] = "no language\n";
 
 } // namespace tembra::recognition

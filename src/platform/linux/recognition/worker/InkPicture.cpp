@@ -1,86 +1,115 @@
 #include "platform/linux/recognition/worker/InkPicture.h"
 
-#include <array>
-#include <span>
+#include "platform/linux/recognition/worker/Regions.h"
+
+#include <cstdlib>
 
 namespace tembra::recognition {
 
 namespace {
 
-// Grey levels by which an even area may vary: the noise of JPEG, a gentle gradient.
-constexpr int evenness = 10;
-// The window that must be even: wider than a stroke of ordinary text.
-constexpr int window = 7;
-// An even area that is shorter than this both ways may be the inside of a large letter.
-constexpr int smallestArea = 58;
+// Neighbours on paper differ by no more: a gentle gradient.
+constexpr int evenness = 2;
+// What is longer is no letter.
+constexpr int longest = 160;
+// What is longer may be a letter if it does not fill its frame.
+constexpr int longestOrdinary = 48;
+constexpr double framed = 0.5;
+// Shorter badges are not told from letters.
+constexpr int shortestBadge = 24;
+constexpr double flattestLetter = 1.8;
+// Boxes to be checked and the like, which are framed on all sides.
+constexpr int smallestBox = 11;
+constexpr double framedSide = 0.6;
 
-// Where the picture is even.
-PixOwner evenAreas(Pix *grey, int detail) {
-    const int side = (window - 1) * detail + 1;
-    const PixOwner darkest(pixErodeGray(grey, side, side));
-    const PixOwner lightest(pixDilateGray(grey, side, side));
-    if (!darkest || !lightest)
-        return {};
-    const PixOwner range(pixAbsDifference(lightest.get(), darkest.get()));
-    const PixOwner even(range ? pixThresholdToBinary(range.get(), evenness + 1) : nullptr);
-    const PixOwner areas(even ? pixSelectBySize(even.get(), smallestArea * detail, smallestArea * detail, 4,
-                                                L_SELECT_IF_EITHER, L_SELECT_IF_GTE, nullptr)
-                              : nullptr);
-    return PixOwner(areas ? pixDilateBrick(nullptr, areas.get(), side, side) : nullptr);
+// How many pixels of the frame around a region are its own.
+struct Frame {
+    int left = 0;
+    int top = 0;
+    int right = 0;
+    int bottom = 0;
+};
+
+bool isPaper(const PixelBox &box, const Frame &frame) {
+    const double width = box.width();
+    const double height = box.height();
+    if (std::max(width, height) >= longest)
+        return true;
+    if (std::max(width, height) < smallestBox)
+        return false;
+    const double share = (frame.left + frame.top + frame.right + frame.bottom) / (2 * (width + height));
+    if (share >= framed && std::max(width, height) >= longestOrdinary)
+        return true;
+    if (share >= framed && width >= shortestBadge && width >= flattestLetter * height)
+        return true;
+    return std::min(width, height) >= smallestBox &&
+           std::min(frame.left, frame.right) >= framedSide * height &&
+           std::min(frame.top, frame.bottom) >= framedSide * width;
 }
 
-// Half of all the ink is not higher than this; each height counts for what it is, so that specks do not.
-int middleOf(std::span<const int> counts) {
-    int total = 0;
-    for (size_t height = 0; height < counts.size(); ++height)
-        total += counts[height] * static_cast<int>(height);
-    int reached = 0;
-    for (size_t height = 0; height < counts.size(); ++height) {
-        reached += counts[height] * static_cast<int>(height);
-        if (2 * reached > total)
-            return static_cast<int>(height);
+std::vector<Frame> framesOf(const Regions &regions, int width) {
+    std::vector<Frame> frames(regions.boxes.size());
+    for (size_t at = 0; at < regions.numbers.size(); ++at) {
+        const auto number = static_cast<size_t>(regions.numbers[at]);
+        const int x = static_cast<int>(at % static_cast<size_t>(width));
+        const int y = static_cast<int>(at / static_cast<size_t>(width));
+        const PixelBox &box = regions.boxes[number];
+        Frame &frame = frames[number];
+        frame.left += x == box.left ? 1 : 0;
+        frame.right += x == box.right - 1 ? 1 : 0;
+        frame.top += y == box.top ? 1 : 0;
+        frame.bottom += y == box.bottom - 1 ? 1 : 0;
     }
-    return 0;
+    return frames;
+}
+
+// A box to be checked: what is in it is no text.
+bool isCheckBox(const PixelBox &box) {
+    constexpr int largestBox = 18;
+    return std::max(box.width(), box.height()) <= largestBox;
+}
+
+// Holds a row against the paper that is nearest in it; gives false where it has none.
+bool markInk(const std::uint8_t *grey, const std::vector<bool> &papers, const std::int32_t *numbers,
+             int width, std::uint8_t *ink) {
+    int last = -1;
+    for (int x = 0; x <= width; ++x) {
+        if (x < width && !papers[static_cast<size_t>(numbers[x])])
+            continue;
+        const int next = x < width ? x : -1;
+        for (int i = last + 1; i < x; ++i) {
+            const bool isLastNearer = last >= 0 && (next < 0 || i - last <= next - i);
+            const int nearest = isLastNearer ? last : next;
+            if (nearest < 0)
+                return false;
+            ink[i] = static_cast<std::uint8_t>(std::abs(int{grey[i]} - int{grey[nearest]}));
+        }
+        last = x;
+    }
+    return true;
 }
 
 } // namespace
 
-PixOwner inkPicture(Pix *grey, int detail) {
-    const PixOwner areas = evenAreas(grey, detail);
-    l_int32 isEmpty = 1;
-    if (!areas || pixZero(areas.get(), &isEmpty) != 0)
-        return {};
-    if (isEmpty)
-        return PixOwner(pixCopy(nullptr, grey));
-    // Each pixel is held against the nearest even area; zero means to be filled.
-    const PixOwner seeds(pixCopy(nullptr, grey));
-    const PixOwner elsewhere(pixInvert(nullptr, areas.get()));
-    if (!seeds || !elsewhere || pixAddConstantGray(seeds.get(), 1) != 0 ||
-        pixSetMasked(seeds.get(), elsewhere.get(), 0) != 0)
-        return {};
-    const PixOwner paper(pixSeedspread(seeds.get(), 4));
-    const PixOwner ink(paper ? pixAbsDifference(grey, paper.get()) : nullptr);
-    return PixOwner(ink ? pixInvert(nullptr, ink.get()) : nullptr);
-}
-
-int usualInkHeight(Pix *ink) {
-    constexpr int inkThreshold = 170;
-    constexpr int smallest = 4;
-    constexpr int largest = 60;
-    const PixOwner binary(pixThresholdToBinary(ink, inkThreshold));
-    Boxa *boxes = binary ? pixConnCompBB(binary.get(), 8) : nullptr;
-    if (!boxes)
-        return 0;
-    std::array<int, largest + 1> counts{};
-    for (int i = 0; i < boxaGetCount(boxes); ++i) {
-        l_int32 width = 0;
-        l_int32 height = 0;
-        boxaGetBoxGeometry(boxes, i, nullptr, nullptr, &width, &height);
-        if (height >= smallest && height <= largest && width <= 2 * height && height <= 6 * width)
-            ++counts[static_cast<size_t>(height)];
+GreyPicture inkPicture(const GreyPicture &grey) {
+    const auto &levels = grey.levels;
+    const Regions areas = regionsOf(
+        grey.width, grey.height, [](size_t) { return true; },
+        [&](size_t a, size_t b) { return std::abs(int{levels[a]} - int{levels[b]}) <= evenness; });
+    const std::vector<Frame> frames = framesOf(areas, grey.width);
+    std::vector<bool> papers(areas.boxes.size());
+    for (size_t i = 0; i < papers.size(); ++i)
+        papers[i] = isPaper(areas.boxes[i], frames[i]);
+    GreyPicture ink(grey.width, grey.height);
+    for (int y = 0; y < grey.height; ++y)
+        (void)markInk(grey.row(y), papers, areas.numbers.data() + std::ptrdiff_t{y} * grey.width, grey.width,
+                      ink.row(y));
+    for (size_t i = 0; i < papers.size(); ++i) {
+        const PixelBox &box = areas.boxes[i];
+        for (int y = box.top; papers[i] && isCheckBox(box) && y < box.bottom; ++y)
+            std::fill(ink.row(y) + box.left, ink.row(y) + box.right, std::uint8_t{0});
     }
-    boxaDestroy(&boxes);
-    return middleOf(counts);
+    return ink;
 }
 
 } // namespace tembra::recognition

@@ -1,15 +1,12 @@
 #pragma once
 
-#include "platform/linux/recognition/worker/PixOwner.h"
+#include "platform/linux/recognition/worker/GreyPicture.h"
 
 namespace tembra::recognition {
 
-// Dark ink on white paper, whatever the colours were: what differs from the even area around it is ink. Light
-// text, text on buttons and on rows of a list become alike, and areas vanish. `detail` is how many pixels
-// make up one of a display of ordinary density. Null when memory runs out.
-[[nodiscard]] PixOwner inkPicture(Pix *grey, int detail);
-
-// The usual height of the letters in an ink picture, in pixels; 0 where nothing looks like letters.
-[[nodiscard]] int usualInkHeight(Pix *ink);
+// How much each pixel stands out from the paper around it: 0 is paper. Paper is what has one level over an
+// area larger than a letter or is framed like a button, so light text, text on badges and on the rows of a
+// list become alike, and areas and frames vanish.
+[[nodiscard]] GreyPicture inkPicture(const GreyPicture &grey);
 
 } // namespace tembra::recognition

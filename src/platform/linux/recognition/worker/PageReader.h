@@ -1,15 +1,31 @@
 #pragma once
 
-#include "platform/linux/recognition/WorkerProtocol.h"
-#include "platform/linux/recognition/worker/PixOwner.h"
 #include "platform/linux/recognition/worker/ReadText.h"
+#include "platform/linux/recognition/worker/TextEngine.h"
 
 #include <tl/expected.hpp>
 
+#include <memory>
+#include <string>
+#include <vector>
+
 namespace tembra::recognition {
 
-// The lines of a grey picture in reading order, read by as many engines as there are processors to spare.
-// Small text is read enlarged.
-[[nodiscard]] tl::expected<std::vector<ReadLine>, ExitCode> readPage(Pix *grey, const std::string &languages);
+enum class ReadingFault { noLanguage, unusable };
+
+// Reads grey pictures with as many engines as there are processors to spare; they stay for the next one.
+class PageReader {
+public:
+    // `languages` as the engine names them, joined by "+".
+    explicit PageReader(std::string languages);
+
+    // The lines in reading order.
+    [[nodiscard]] tl::expected<std::vector<ReadLine>, ReadingFault> read(const GreyPicture &grey);
+
+private:
+    const std::string m_languages;
+    // Each is made when it is first needed.
+    std::vector<std::unique_ptr<TextEngine>> m_engines;
+};
 
 } // namespace tembra::recognition

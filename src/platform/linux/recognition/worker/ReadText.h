@@ -29,6 +29,8 @@ struct TextBox {
 struct ReadWord {
     std::string text;
     TextBox box;
+    // 0 … 100.
+    double confidence = 100;
 };
 
 // Never empty.

@@ -1,14 +1,15 @@
 #pragma once
 
-#include "platform/linux/recognition/worker/PixOwner.h"
+#include "platform/linux/recognition/worker/GreyPicture.h"
 #include "platform/linux/recognition/worker/ReadText.h"
+#include "platform/linux/recognition/worker/TextSegments.h"
 
 #include <optional>
 #include <tesseract/baseapi.h>
 
 namespace tembra::recognition {
 
-// One engine, for one thread. It takes the text where it finds it (sparse text), as interfaces have it.
+// One engine, for one thread. It reads a line at a time: where the lines are is known before.
 class TextEngine {
 public:
     // `languages` as the engine names them, joined by "+"; those that are not installed are passed over.
@@ -16,8 +17,9 @@ public:
 
     // False where none of the languages is installed.
     [[nodiscard]] bool isUsable() const { return m_isUsable; }
-    // In pixels of the picture; nothing when it failed.
-    [[nodiscard]] std::optional<std::vector<ReadLine>> read(Pix *ink);
+    // The words of a segment of the ink picture, in its pixels, with boxes around the ink; nothing when the
+    // engine failed.
+    [[nodiscard]] std::optional<ReadLine> read(const GreyPicture &ink, const TextSegment &segment);
 
 private:
     tesseract::TessBaseAPI m_engine;
