@@ -16,9 +16,10 @@ namespace tembra {
 Result<QString> readText(const CommandLine &line) {
     QtScheduler scheduler;
     const Platform platform = makeHeadlessPlatform(scheduler);
+    // Outlives the queue, which completes it.
+    std::promise<Result<OCRRecognition>> answer;
     ThreadQueue queue(QStringLiteral("local.dova.Tembra.ocr"));
     OCRRecognizer recognizer(*platform.textRecognizer, *platform.pictureDecoder, queue);
-    std::promise<Result<OCRRecognition>> answer;
     recognizer.recognize({OCRInput::File{QDir::current().absoluteFilePath(line.path)}},
                          [&answer](Result<OCRRecognition> result) { answer.set_value(std::move(result)); });
     return answer.get_future().get().map([&line](OCRRecognition recognition) {

@@ -15,7 +15,9 @@ QString imagePatterns() {
     for (const QByteArray &format : formats)
         patterns += QStringLiteral("*.") + QString::fromLatin1(format);
     patterns.removeAll(QStringLiteral("*.pdf"));
-    return patterns.join(u' ');
+    // Some desktops' dialogs tell capital letters apart.
+    const QString names = patterns.join(u' ');
+    return names + u' ' + names.toUpper();
 }
 
 } // namespace
@@ -23,7 +25,9 @@ QString imagePatterns() {
 std::optional<QString> askForImage(const QString &folder) {
     const QString chosen = QFileDialog::getOpenFileName(
         nullptr, QCoreApplication::translate("ImageChooser", "Choose an Image"), folder,
-        QCoreApplication::translate("ImageChooser", "Images") + QStringLiteral(" (%1)").arg(imagePatterns()));
+        QCoreApplication::translate("ImageChooser", "Images") +
+            QStringLiteral(" (%1);;").arg(imagePatterns()) +
+            QCoreApplication::translate("ImageChooser", "All Files") + QStringLiteral(" (*)"));
     return chosen.isEmpty() ? std::nullopt : std::optional(chosen);
 }
 

@@ -52,6 +52,8 @@ void ShelfButton::leaveEvent(QEvent *event) {
 }
 
 void ShelfButton::dragEnterEvent(QDragEnterEvent *event) {
+    if (canReceive && !canReceive(*event->mimeData()))
+        return event->ignore();
     event->setDropAction(Qt::CopyAction);
     event->accept();
     Q_EMIT draggedOver();

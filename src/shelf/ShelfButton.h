@@ -4,6 +4,8 @@
 
 #include <QAbstractButton>
 
+#include <functional>
+
 class QMimeData;
 
 namespace tembra {
@@ -17,6 +19,9 @@ public:
     static constexpr QSize fieldSize{38, 26};
 
     ShelfButton(Icon icon, const QString &name, QWidget *parent);
+
+    // What may be dropped on it, where it accepts drops; everything when not set.
+    std::function<bool(const QMimeData &)> canReceive;
 
     [[nodiscard]] QSize sizeHint() const override { return fieldSize; }
 

@@ -1,5 +1,7 @@
 #include "shelf/ShelfCommand.h"
 
+#include <QKeySequence>
+
 namespace tembra {
 
 namespace {
@@ -10,10 +12,6 @@ std::optional<ShelfCommand> withCtrl(int key) {
         return ShelfCommand::undo;
     case Qt::Key_Y:
         return ShelfCommand::redo;
-    case Qt::Key_C:
-        return ShelfCommand::copy;
-    case Qt::Key_V:
-        return ShelfCommand::paste;
     case Qt::Key_P:
         return ShelfCommand::pin;
     case Qt::Key_F:
@@ -38,6 +36,11 @@ std::optional<ShelfCommand> shelfCommand(const QKeyEvent &event) {
         return ShelfCommand::preview;
     if (modifiers == (Qt::ControlModifier | Qt::ShiftModifier) && key == Qt::Key_Z)
         return ShelfCommand::redo;
+    // Also Ctrl+Insert and Shift+Insert.
+    if (event.matches(QKeySequence::Copy))
+        return ShelfCommand::copy;
+    if (event.matches(QKeySequence::Paste))
+        return ShelfCommand::paste;
     return modifiers == Qt::ControlModifier ? withCtrl(key) : std::nullopt;
 }
 

@@ -62,6 +62,11 @@ ShelfController::ShelfController(AppSettings &settings, std::unique_ptr<ShelfSes
     m_commands->onRecognize = [this](const QString &path) { recognize({OCRInput::File{path}}); };
     m_ocr.onStateChange = [this] { recognitionChanged(); };
     m_ocr.onResize = [this] { fitPanel(); };
+    m_ocr.onError = [this](const Error &error) {
+        // The panel is above every other window.
+        collapse();
+        onError(tr("Couldn’t Copy Text"), error.message);
+    };
     askForFolder = askForScreenshotsFolder;
     askForImage = tembra::askForImage;
     askForSafetyReview = showSafetyReview;
@@ -118,6 +123,7 @@ void ShelfController::stop() {
     m_loadingIndicatorWork.cancel();
     m_statusItem.reset();
     m_preview.close();
+    m_ocr.reset();
     m_tabHover.cancelTabHover();
     m_announcer.dismiss();
     m_locationMonitor->stop();
@@ -268,6 +274,7 @@ bool ShelfController::activateSurface() {
 void ShelfController::hideSurface() {
     m_expanded = false;
     m_preview.close();
+    m_ocr.setPresented(false);
     m_tabHover.cancelTabHover();
     if (const auto before = std::exchange(m_tabBeforeDrag, std::nullopt)) {
         m_activeTab = *before;
@@ -306,6 +313,10 @@ bool ShelfController::activateTab(ShelfTab tab, bool duringDrag) {
     else if (!m_tabBeforeDrag && tab != m_activeTab)
         m_tabBeforeDrag = m_activeTab;
     m_activeTab = tab;
+    if (tab == ShelfTab::imageToText)
+        m_preview.close();
+    else
+        m_ocr.setPresented(false);
     render();
     fitPanel();
     return true;
@@ -328,6 +339,8 @@ void ShelfController::applySettings(const AppSettingsState &state) {
     configureAutoOpen();
     if (!isShown(tabs(), m_activeTab))
         m_activeTab = ShelfTab::screenshots;
+    if (m_tabBeforeDrag && !isShown(tabs(), *m_tabBeforeDrag))
+        m_tabBeforeDrag.reset();
     if (!state.imageToTextEnabled)
         m_ocr.reset();
     reconcileDisplayWindows();

@@ -18,6 +18,11 @@ constexpr int tallHeight = 584;
 // Below a tall panel.
 constexpr int bottomMargin = 16;
 
+// As it is written elsewhere: nothing in it is made readable, and so another.
+QString addressOf(const QUrl &url) {
+    return url.scheme() == u"mailto" ? url.path() : url.toString(QUrl::FullyEncoded);
+}
+
 } // namespace
 
 void ShelfController::connectRecognition() {
@@ -30,7 +35,7 @@ void ShelfController::connectRecognition() {
     connect(panel, &OCRPanel::copyRequested, this, &ShelfController::copyRecognizedText);
     connect(panel, &OCRPanel::selectionCopyRequested, this, [this] { copyRecognizedSelection(); });
     connect(panel, &OCRPanel::linkCopyRequested, this,
-            [this](const QUrl &url) { m_ocr.copyOCRSelection(url.toDisplayString()); });
+            [this](const QUrl &url) { m_ocr.copyOCRSelection(addressOf(url)); });
     connect(panel, &OCRPanel::linkActivated, this, &ShelfController::openLink);
 }
 
@@ -52,9 +57,10 @@ void ShelfController::chooseImage() {
     const std::optional<QString> chosen =
         askForImage(m_settings.state().screenshotsFolder.value_or(QString()));
     m_choosingFolder = false;
+    if (!chosen)
+        return setExpanded(true);
     openManually();
-    if (chosen)
-        recognize({OCRInput::File{*chosen}});
+    recognize({OCRInput::File{*chosen}});
 }
 
 void ShelfController::pasteForRecognition() {
@@ -64,20 +70,19 @@ void ShelfController::pasteForRecognition() {
 }
 
 void ShelfController::copyRecognizedText() {
-    if (const auto copied = m_ocr.copyOCR(); !copied)
-        return onError(tr("Couldn’t Copy Text"), copied.error().message);
-    m_content->recognition().showCopied();
+    if (m_ocr.copyOCR())
+        m_content->recognition().showCopied();
 }
 
 bool ShelfController::copyRecognizedSelection() {
     return m_ocr.copyOCRSelection(m_content->recognition().selection());
 }
 
-// The panel lies above what opens.
+// The panel lies above what opens, and above what says that nothing does.
 void ShelfController::openLink(const QUrl &url) {
-    if (const auto opened = m_services.workspace.openLink(url); !opened)
-        return onError(tr("Couldn’t Open Link"), opened.error().message);
     collapse();
+    if (const auto opened = m_services.workspace.openLink(url); !opened)
+        onError(tr("Couldn’t Open Link"), opened.error().message);
 }
 
 bool ShelfController::handleRecognitionKey(ShelfCommand command) {
@@ -88,8 +93,10 @@ bool ShelfController::handleRecognitionKey(ShelfCommand command) {
         pasteForRecognition();
         return true;
     case ShelfCommand::undo:
-    case ShelfCommand::redo:
-        perform(command);
+        // What is not seen is undone only while that is offered.
+        if (!m_undoOffer.isPending())
+            return false;
+        undo();
         return true;
     default:
         return false;
@@ -109,7 +116,7 @@ void ShelfController::fitPanel() {
 }
 
 int ShelfController::targetPanelHeight() const {
-    if (m_activeTab != ShelfTab::imageToText || !m_ocr.state().wantsRoom())
+    if (m_activeTab != ShelfTab::imageToText || !m_ocr.state().isExpanded)
         return usualHeight;
     const auto available = availableHeight();
     return available ? std::min(tallHeight, static_cast<int>(*available) - bottomMargin) : tallHeight;

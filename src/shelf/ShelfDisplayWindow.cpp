@@ -83,7 +83,10 @@ void ShelfDisplayWindow::makePanel() {
 }
 
 void ShelfDisplayWindow::placePanel() {
-    const QSize largest = largestPanel.expandedTo(m_presentation.size);
+    // A panel that is getting smaller needs its room until it is.
+    const QSize now(static_cast<int>(std::ceil(bodySize().width())),
+                    static_cast<int>(std::ceil(bodySize().height())));
+    const QSize largest = largestPanel.expandedTo(m_presentation.size).expandedTo(now);
     // Nothing of it, not even its shadow, falls on the display beside.
     const QSize canvas(std::min(largest.width() + 2 * ShelfShadow::reach, displayWidth(m_display)),
                        largest.height() + ShelfShadow::reach + ShelfShadow::drop);
@@ -176,6 +179,7 @@ void ShelfDisplayWindow::updateInputRegion() {
 }
 
 void ShelfDisplayWindow::settle() {
+    placePanel();
     placeBody();
     // A notification may have come to lie under a pointer that rests.
     if (m_presentation.kind == ShelfPresentation::Kind::notification)

@@ -3,6 +3,7 @@
 #include "controls/Palette.h"
 #include "controls/TembraButton.h"
 #include "controls/TembraToolTip.h"
+#include "recognition/model/OCRInput.h"
 #include "shelf/ShelfButton.h"
 
 #include <QPainter>
@@ -101,6 +102,8 @@ void ShelfHeader::build() {
         if (tab == ShelfTab::screenshots)
             continue;
         button->setAcceptDrops(true);
+        if (tab == ShelfTab::imageToText)
+            button->canReceive = OCRInput::canRead;
         connect(button, &ShelfButton::draggedOver, this, [this, tab] { Q_EMIT tabDraggedOver(tab); });
         connect(button, &ShelfButton::dropped, this,
                 [this, tab](const QMimeData *content) { Q_EMIT droppedOn(tab, content); });

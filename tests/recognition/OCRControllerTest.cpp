@@ -18,6 +18,7 @@ protected:
     OCRControllerTest() {
         ocr.onStateChange = [this] { phases.push_back(ocr.state().phase.index()); };
         ocr.onResize = [this] { ++resizes; };
+        ocr.onError = [this](const Error &) { ++refusals; };
     }
     void recognize(const QString &path = u"/a.png"_s) { ocr.recognize({OCRInput::File{path}}); }
     void succeed(const QStringList &lines) {
@@ -39,6 +40,7 @@ protected:
     OCRController ocr{recognizer, pasteboard, scheduler};
     std::vector<size_t> phases;
     int resizes = 0;
+    int refusals = 0;
 };
 
 } // namespace
@@ -98,30 +100,30 @@ TEST_F(OCRControllerTest, copiesTheTextAsItIsShown) {
     pasteboard.refuses = true;
     EXPECT_FALSE(ocr.copyOCR());
     EXPECT_FALSE(ocr.copyOCRSelection(u"line"_s));
+    EXPECT_EQ(refusals, 2);
 }
 
-TEST_F(OCRControllerTest, growsWithTheTextUntilTheUserChooses) {
+TEST_F(OCRControllerTest, growsWithTheTextAndShrinksWhenNobodyLooks) {
+    const auto read = [this](const QStringList &lines) {
+        recognize();
+        succeed(lines);
+        return ocr.state().isExpanded;
+    };
     const QStringList longText{u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s};
-    recognize();
-    succeed({u"short"_s});
-    EXPECT_FALSE(ocr.state().wantsRoom());
-    recognize();
-    succeed(longText);
-    EXPECT_TRUE(ocr.state().wantsRoom());
-    recognize();
-    EXPECT_TRUE(ocr.state().wantsRoom());
-    succeed({u"short"_s});
-    EXPECT_TRUE(ocr.state().wantsRoom());
-    EXPECT_EQ(resizes, 1);
+    EXPECT_FALSE(read({u"short"_s}));
+    EXPECT_TRUE(read(longText));
+    EXPECT_TRUE(read({u"short"_s}));
+    ocr.setPresented(false);
+    EXPECT_TRUE(ocr.state().isExpanded);
     ocr.reset();
-    EXPECT_FALSE(ocr.state().wantsRoom());
+    EXPECT_TRUE(ocr.state().isExpanded);
+    EXPECT_EQ(resizes, 1);
+    ocr.setPresented(false);
+    EXPECT_FALSE(ocr.state().isExpanded);
     EXPECT_EQ(resizes, 2);
-    recognize();
-    succeed(longText);
+    EXPECT_TRUE(read(longText));
     ocr.toggleOCRSize();
-    EXPECT_FALSE(ocr.state().wantsRoom());
-    recognize();
-    succeed(longText);
-    EXPECT_FALSE(ocr.state().wantsRoom());
+    EXPECT_FALSE(ocr.state().isExpanded);
+    EXPECT_FALSE(read(longText));
     EXPECT_EQ(resizes, 4);
 }

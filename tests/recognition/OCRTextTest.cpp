@@ -111,10 +111,10 @@ INSTANTIATE_TEST_SUITE_P(
              u"the text recog-nition works"_s,
              u"the text recog-nition works"_s},
         Case{"words without spaces between them",
-             {{u"文字識別"_s, 10, 10}, {u"画像です"_s, 10, 30}},
-             {section, continuation},
-             u"文字識別画像です"_s,
-             u"文字識別画像です"_s}));
+             {{u"文字識別"_s, 10, 10}, {u"です。"_s, 10, 30}, {u"サーバー"_s, 10, 50}, {u"名"_s, 10, 70}},
+             {section, continuation, continuation, continuation},
+             u"文字識別です。サーバー名"_s,
+             u"文字識別です。サーバー名"_s}));
 
 TEST(OCRText, joinsTheWordsOfALineWithSpacesWhereTheScriptHasThem) {
     const OCRText text{{{{{u"画像"_s, QRectF(0, 0, 20, 10)},

@@ -43,7 +43,7 @@ TEST(TextLink, areAddressesWithoutTheSentenceAroundThem) {
         {"me@example.com, First.Last+tag@mail.example.co.uk.",
          {link("me@example.com", "mailto:me@example.com"),
           link("First.Last+tag@mail.example.co.uk", "mailto:First.Last+tag@mail.example.co.uk")}},
-        {"me@localhost a@b@c.de", {}},
+        {"me@localhost a@b@c.de müller@example.com a@example.com2 foo@example.comé", {}},
         {"https://me@example.com/", {same("https://me@example.com/")}},
         {"one\nhttps://example.com/a\nhttps://example.com/b",
          {same("https://example.com/a"), same("https://example.com/b")}},
@@ -60,6 +60,8 @@ TEST(TextLink, areFoundInLongTexts) {
     EXPECT_TRUE(linksOf(word).isEmpty());
     EXPECT_TRUE(linksOf(word + u'@').isEmpty());
     EXPECT_TRUE(linksOf(QStringLiteral("a.").repeated(100'000)).isEmpty());
+    EXPECT_TRUE(linksOf(QString(200'000, u'%')).isEmpty());
+    EXPECT_EQ(linksOf(QStringLiteral("https://a") + QString(200'000, u')')).size(), 1);
     EXPECT_EQ(TextLink::find(QStringLiteral("https://example.com/") + word).front().length, 200'020);
     EXPECT_EQ(linksOf(QStringLiteral("me@example.com ").repeated(5'000)).size(), 5'000);
 }

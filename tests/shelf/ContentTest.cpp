@@ -4,6 +4,7 @@
 #include "controls/TembraButton.h"
 #include "shelf/CaptureNotificationView.h"
 #include "shelf/NativeScreenshotGrid.h"
+#include "shelf/PopupWatch.h"
 #include "shelf/ScreenshotFolderMessage.h"
 #include "shelf/ScreenshotMessageView.h"
 #include "shelf/ShelfContent.h"
@@ -21,7 +22,10 @@
 #include "tray/ClipboardStore.h"
 
 #include <QAccessible>
+#include <QDragEnterEvent>
 #include <QLabel>
+#include <QMenu>
+#include <QMimeData>
 
 #include <gtest/gtest.h>
 
@@ -116,6 +120,42 @@ TEST_F(ContentTest, showsTheMessageOfTheFolderOrTheGrid) {
         EXPECT_EQ(showsGrid(), row.texts.isEmpty());
         EXPECT_TRUE(content.findChild<ShelfHeader *>()->isVisible());
     }
+}
+
+TEST_F(ContentTest, whatIsDraggedToTheTextRecognitionStaysOnItsWay) {
+    int asked = 0;
+    QObject::connect(&content, &ShelfContent::filesDraggedOver, [&asked] { ++asked; });
+    QMimeData file;
+    file.setUrls({QUrl::fromLocalFile(u"/a.png"_s)});
+    state.tabs = {ShelfTab::fileTray, ShelfTab::screenshots, ShelfTab::imageToText};
+    const auto dragBelowTheTabs = [&](ShelfTab tab) {
+        state.activeTab = tab;
+        content.apply(state);
+        QDragEnterEvent event(QPoint(100, 42), Qt::CopyAction, &file, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(&content, &event);
+    };
+    dragBelowTheTabs(ShelfTab::imageToText);
+    EXPECT_EQ(asked, 0);
+    dragBelowTheTabs(ShelfTab::screenshots);
+    EXPECT_EQ(asked, 1);
+}
+
+TEST(PopupWatch, tellsWhenAMenuCloses) {
+    PopupWatch watch;
+    int closed = 0;
+    watch.onClosed = [&closed] { ++closed; };
+    QMenu menu;
+    menu.addAction(u"Item"_s);
+    menu.popup({10, 10});
+    EXPECT_TRUE(PopupWatch::isPopupOpen());
+    EXPECT_EQ(closed, 0);
+    menu.hide();
+    EXPECT_FALSE(PopupWatch::isPopupOpen());
+    EXPECT_EQ(closed, 1);
+    QWidget window;
+    window.show();
+    window.hide();
+    EXPECT_EQ(closed, 1);
 }
 
 TEST_F(ContentTest, theButtonOfAMessageAnswersIt) {

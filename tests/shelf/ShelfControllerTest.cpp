@@ -1,6 +1,7 @@
 #include "shelf/ShelfController.h"
 
 #include "platform/linux/LinuxBookmarks.h"
+#include "recognition/ui/OCRPanel.h"
 #include "screenshots/FileWatcherService.h"
 #include "screenshots/FolderReader.h"
 #include "screenshots/ScreenshotLocationMonitor.h"
@@ -18,8 +19,10 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
+#include <QKeyEvent>
 #include <QProxyStyle>
 #include <QTemporaryDir>
+#include <QWindow>
 
 #include <gtest/gtest.h>
 
@@ -127,6 +130,19 @@ protected:
     }
 
     [[nodiscard]] ShelfStatus status() const { return controller->status(); }
+    // As the panel's window gets it.
+    static void pressCtrl(Qt::Key key) {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::ControlModifier);
+        QCoreApplication::sendEvent(recognitionPanel()->window()->windowHandle(), &event);
+    }
+    [[nodiscard]] static OCRPanel *recognitionPanel() {
+        const QWidgetList widgets = QApplication::allWidgets();
+        for (QWidget *widget : widgets) {
+            if (auto *const panel = qobject_cast<OCRPanel *>(widget))
+                return panel;
+        }
+        return nullptr;
+    }
     // Of the panel for text recognition, by its title.
     [[nodiscard]] static QAbstractButton *recognitionButton(const QString &title) {
         const QWidgetList widgets = QApplication::allWidgets();
@@ -321,6 +337,57 @@ TEST_F(ShelfControllerTest, showsTheTextOfAnImageInAPanelThatHasRoomForIt) {
     EXPECT_EQ(status().frame.height, usual);
     controller->recognize({OCRInput::File{QStringLiteral("/c.png")}});
     EXPECT_EQ(recognizer.runs.size(), 3U);
+}
+
+TEST_F(ShelfControllerTest, readsTheSelectedScreenshotAndWhatIsPasted) {
+    start();
+    capture();
+    controller->openManually();
+    pressCtrl(Qt::Key_T);
+    EXPECT_TRUE(recognizer.runs.empty()) << "nothing is selected";
+    const Shot shot = controller->shots().front();
+    controller->session().selected = {shot.identity};
+    controller->togglePreview();
+    pressCtrl(Qt::Key_T);
+    ASSERT_EQ(recognizer.runs.size(), 1U);
+    EXPECT_EQ(recognizer.runs[0]->input, (OCRInput{OCRInput::File{shot.location}}));
+    parts.pasteboard.offered.setText(QStringLiteral("no image"));
+    pressCtrl(Qt::Key_V);
+    EXPECT_EQ(recognizer.runs.size(), 1U);
+    parts.pasteboard.offered.setData(QStringLiteral("image/png"), pictureBytes("png"));
+    pressCtrl(Qt::Key_V);
+    ASSERT_EQ(recognizer.runs.size(), 2U);
+    EXPECT_TRUE(recognizer.runs[0]->isCancelled);
+    EXPECT_EQ(status().tab, ShelfTab::imageToText);
+    EXPECT_TRUE(status().tray.empty());
+}
+
+TEST_F(ShelfControllerTest, copiesTheTextAndOpensItsLinks) {
+    start();
+    controller->openManually();
+    controller->recognize({OCRInput::File{QStringLiteral("/a.png")}});
+    recognizer.succeed({QStringLiteral("see https://example.org/a%20b")});
+    settle();
+    const int writes = parts.pasteboard.writes;
+    pressCtrl(Qt::Key_C);
+    EXPECT_EQ(parts.pasteboard.writes, writes) << "nothing is selected";
+    recognitionButton(QStringLiteral("Copy"))->click();
+    ASSERT_EQ(parts.pasteboard.items.size(), 1U);
+    EXPECT_EQ(parts.pasteboard.items[0].data, "see https://example.org/a%20b");
+    EXPECT_NE(recognitionButton(QStringLiteral("Copied")), nullptr);
+    const QUrl link(QStringLiteral("https://example.org/a%20b"));
+    Q_EMIT recognitionPanel()->linkCopyRequested(link);
+    EXPECT_EQ(parts.pasteboard.items[0].data, "https://example.org/a%20b");
+
+    Q_EMIT recognitionPanel()->linkActivated(link);
+    EXPECT_EQ(workspace.openedLink, link);
+    EXPECT_FALSE(status().expanded) << "it lies above what opens";
+    workspace.openRefusal = failure({QStringLiteral("Test"), 1, QStringLiteral("refused"), {}});
+    parts.pasteboard.refuses = true;
+    Q_EMIT recognitionPanel()->linkActivated(link);
+    Q_EMIT recognitionPanel()->copyRequested();
+    EXPECT_EQ(errors,
+              (QStringList{QStringLiteral("Couldn’t Open Link"), QStringLiteral("Couldn’t Copy Text")}));
 }
 
 TEST_F(ShelfControllerTest, readsAnImageThatIsChosen) {

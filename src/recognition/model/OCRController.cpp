@@ -22,10 +22,6 @@ OCRText trimmed(OCRText text) {
     return text;
 }
 
-Result<void> writeString(Pasteboard &pasteboard, const QString &text) {
-    return pasteboard.writeObjects({{{}, Pasteboard::plainText, text.toUtf8()}});
-}
-
 } // namespace
 
 OCRController::OCRController(OCRRecognizing &recognizer, Pasteboard &pasteboard, Scheduler &scheduler)
@@ -58,12 +54,8 @@ void OCRController::reset() {
 
 void OCRController::toggleOCRSize() {
     requireMainThread();
-    m_state.isExpanded = !m_state.isExpanded;
-    m_chosenSize = m_state.isExpanded;
-    if (onStateChange)
-        onStateChange();
-    if (onResize)
-        onResize();
+    m_chosenSize = !m_state.isExpanded;
+    setExpanded(*m_chosenSize);
 }
 
 void OCRController::setLayout(OCRTextLayout layout) {
@@ -72,14 +64,14 @@ void OCRController::setLayout(OCRTextLayout layout) {
         onStateChange();
 }
 
-Result<void> OCRController::copyOCR() {
+bool OCRController::copyOCR() {
     requireMainThread();
-    return writeString(m_pasteboard, m_state.result());
+    return write(m_state.result());
 }
 
 bool OCRController::copyOCRSelection(const QString &selection) {
     requireMainThread();
-    return !selection.isEmpty() && writeString(m_pasteboard, selection).has_value();
+    return !selection.isEmpty() && write(selection);
 }
 
 void OCRController::cancelTask() {
@@ -90,13 +82,9 @@ void OCRController::cancelTask() {
 }
 
 void OCRController::enter(OCRState::Phase phase) {
-    const bool wantedRoom = m_state.wantsRoom();
     m_state.phase = std::move(phase);
-    m_state.isExpanded = m_chosenSize.value_or(fittingSize());
     if (onStateChange)
         onStateChange();
-    if (m_state.wantsRoom() != wantedRoom && onResize)
-        onResize();
 }
 
 void OCRController::finish(Result<OCRRecognition> result) {
@@ -111,14 +99,31 @@ void OCRController::finish(Result<OCRRecognition> result) {
         return enter(
             OCRState::Error{QCoreApplication::translate("OCR", "No text found. Try another image.")});
     m_picture = std::move(result->picture);
+    const bool isLong = text.lines.size() > fewLines;
     enter(OCRState::Text{std::move(text)});
+    setExpanded(m_chosenSize.value_or(m_state.isExpanded || isLong));
 }
 
-bool OCRController::fittingSize() const {
-    if (std::holds_alternative<OCRState::Idle>(m_state.phase))
-        return false;
-    const auto *const text = std::get_if<OCRState::Text>(&m_state.phase);
-    return m_state.isExpanded || (text && text->text.lines.size() > fewLines);
+void OCRController::setPresented(bool isPresented) {
+    requireMainThread();
+    if (!isPresented && !std::holds_alternative<OCRState::Text>(m_state.phase))
+        setExpanded(false);
+}
+
+void OCRController::setExpanded(bool isExpanded) {
+    if (std::exchange(m_state.isExpanded, isExpanded) == isExpanded)
+        return;
+    if (onStateChange)
+        onStateChange();
+    if (onResize)
+        onResize();
+}
+
+bool OCRController::write(const QString &text) {
+    const auto written = m_pasteboard.writeObjects({{{}, Pasteboard::plainText, text.toUtf8()}});
+    if (!written && onError)
+        onError(written.error());
+    return written.has_value();
 }
 
 } // namespace tembra

@@ -32,14 +32,19 @@ public:
     std::function<void()> onStateChange;
     // After its size has changed.
     std::function<void()> onResize;
+    // The clipboard refused.
+    std::function<void(const Error &)> onError;
 
     // A new image takes the place of the one under way.
     void recognize(const OCRInput &input);
     void reset();
     void toggleOCRSize();
     void setLayout(OCRTextLayout layout);
-    // The whole result. Error: Pasteboard's.
-    Result<void> copyOCR();
+    // Whether the panel can be seen. One that shrank while it can be could slip away from under the pointer,
+    // so it gives its room up when it is not.
+    void setPresented(bool isPresented);
+    // The whole result; false when the clipboard refused.
+    bool copyOCR();
     // A part of the result; false when it is empty or the clipboard refused.
     bool copyOCRSelection(const QString &selection);
 
@@ -51,8 +56,8 @@ private:
     void cancelTask();
     void enter(OCRState::Phase phase);
     void finish(Result<OCRRecognition> result);
-    // Grows with the text; shrinks when there is nothing left.
-    [[nodiscard]] bool fittingSize() const;
+    void setExpanded(bool isExpanded);
+    bool write(const QString &text);
 
     OCRRecognizing &m_recognizer;
     Pasteboard &m_pasteboard;

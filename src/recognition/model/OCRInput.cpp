@@ -19,7 +19,10 @@ QByteArray encoded(const QImage &pixels) {
 } // namespace
 
 std::optional<OCRInput> OCRInput::read(const QMimeData &pasteboard) {
-    if (const QStringList files = filesOn(pasteboard); !files.isEmpty())
+    const QStringList files = filesOn(pasteboard);
+    // A text beside an image may be a path by chance.
+    const bool prefersFile = pasteboard.hasUrls() || !hasImage(pasteboard);
+    if (!files.isEmpty() && prefersFile)
         return OCRInput{File{files.first()}};
     if (!hasImage(pasteboard))
         return std::nullopt;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Cancellation.h"
 #include "base/Result.h"
 #include "recognition/model/OCRInput.h"
 
@@ -22,7 +23,9 @@ struct OCRPicture {
         animation,
     };
 
-    [[nodiscard]] static Result<QImage> open(const OCRInput &input, const PictureDecoder &decoder);
+    // Any error when it is cancelled.
+    [[nodiscard]] static Result<QImage> open(const OCRInput &input, const PictureDecoder &decoder,
+                                             const Cancellation &cancellation = {});
 };
 
 } // namespace tembra

@@ -17,7 +17,9 @@ QImage reduced(const QImage &image) {
 
 Result<OCRRecognition> read(const OCRInput &input, const TextRecognizer &recognizer,
                             const PictureDecoder &decoder, const Cancellation &cancellation) {
-    const auto image = OCRPicture::open(input, decoder);
+    const auto image = OCRPicture::open(input, decoder, cancellation);
+    if (cancellation.isCancelled())
+        return failure({TextRecognizer::errorDomain, TextRecognizer::cancelled, {}, {}});
     if (!image)
         return failure(image.error());
     auto lines = recognizer.recognize(*image, cancellation);

@@ -29,7 +29,7 @@ struct OCRState {
     using Phase = std::variant<Idle, Loading, Text, Error>;
 
     Phase phase;
-    // The panel is enlarged.
+    // The panel is higher than the shelf usually is.
     bool isExpanded = false;
     OCRTextLayout layout = OCRTextLayout::lines;
 
@@ -38,10 +38,6 @@ struct OCRState {
         const auto *const text = std::get_if<Text>(&phase);
         return text ? text->text.string(layout) : QString();
     }
-    // The panel is to be higher than the shelf usually is. A panel that shrank by itself could slip away
-    // from under the pointer, so it keeps its room until it is empty.
-    [[nodiscard]] bool wantsRoom() const { return isExpanded && !std::holds_alternative<Idle>(phase); }
-
     bool operator==(const OCRState &) const = default;
 };
 

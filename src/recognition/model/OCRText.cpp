@@ -29,14 +29,35 @@ QRectF boxOf(const Line &line) {
         [](const QRectF &box, const TextRecognizer::Word &word) { return box | word.box; });
 }
 
-// Chinese and Japanese do without spaces between words.
+// Of scripts that do without spaces between words, and their punctuation.
+bool isUnspaced(char32_t letter) {
+    switch (QChar::script(letter)) {
+    case QChar::Script_Han:
+    case QChar::Script_Hiragana:
+    case QChar::Script_Katakana:
+        return true;
+    default:
+        break;
+    }
+    const bool isCjkSign = (letter >= 0x3000 && letter <= 0x303f) || letter == 0x30fb || letter == 0x30fc;
+    const bool isFullWidth = letter >= 0xff00 && letter <= 0xff65;
+    return isCjkSign || isFullWidth;
+}
+
+char32_t firstOf(const QString &text) {
+    const QChar first = text.front();
+    const bool isPair = first.isHighSurrogate() && text.size() > 1;
+    return isPair ? QChar::surrogateToUcs4(first, text.at(1)) : first.unicode();
+}
+
+char32_t lastOf(const QString &text) {
+    const QChar last = text.back();
+    const bool isPair = last.isLowSurrogate() && text.size() > 1;
+    return isPair ? QChar::surrogateToUcs4(text.at(text.size() - 2), last) : last.unicode();
+}
+
 bool needsSpace(const QString &before, const QString &after) {
-    const auto isUnspaced = [](QChar letter) {
-        const QChar::Script script = letter.script();
-        return script == QChar::Script_Han || script == QChar::Script_Hiragana ||
-               script == QChar::Script_Katakana;
-    };
-    return before.isEmpty() || after.isEmpty() || !isUnspaced(before.back()) || !isUnspaced(after.front());
+    return !isUnspaced(lastOf(before)) || !isUnspaced(firstOf(after));
 }
 
 void append(QString &text, const QString &more) {
@@ -72,15 +93,6 @@ bool isListItem(const Line &line) {
 bool hasRoomFor(const QRectF &line, const TextRecognizer::Word &word, double rightEdge) {
     return line.right() + line.height() / 2 + word.box.width() < rightEdge;
 }
-
-// The lines that stand below each other without a break: their right edge is where sentences are broken.
-struct Block {
-    std::vector<QRectF> boxes;
-
-    [[nodiscard]] double rightEdge() const {
-        return std::ranges::max(boxes, {}, [](const QRectF &box) { return box.right(); }).right();
-    }
-};
 
 // The lines stand below each other in one column.
 bool isBelow(const QRectF &before, const QRectF &box) {
@@ -164,10 +176,11 @@ std::vector<OCRLineStart> OCRText::lineStarts() const {
         size_t end = first + 1;
         while (end < lines.size() && starts[end] != OCRLineStart::section)
             ++end;
-        const Block block{{boxes.begin() + static_cast<std::ptrdiff_t>(first),
-                           boxes.begin() + static_cast<std::ptrdiff_t>(end)}};
+        double rightEdge = 0;
+        for (size_t i = first; i < end; ++i)
+            rightEdge = std::max(rightEdge, boxes[i].right());
         for (size_t i = first + 1; i < end; ++i) {
-            if (isListItem(lines[i]) || hasRoomFor(boxes[i - 1], lines[i].words.front(), block.rightEdge()))
+            if (isListItem(lines[i]) || hasRoomFor(boxes[i - 1], lines[i].words.front(), rightEdge))
                 starts[i] = OCRLineStart::paragraph;
         }
         first = end;

@@ -2,7 +2,7 @@
 
 #include <QRegularExpression>
 
-#include <algorithm>
+#include <map>
 #include <optional>
 #include <utility>
 
@@ -13,10 +13,11 @@ namespace {
 // Scripts that are written without spaces go on right after an address, which is seldom written in them.
 const QRegularExpression &addresses() {
     static const QRegularExpression expression(
-        QStringLiteral(R"((?<![\w.+@-])(?:)"
+        QStringLiteral(R"((?<![\p{Latin}\p{Greek}\p{Cyrillic}\p{M}\d_.+@%-])(?:)"
                        R"((?<page>(?:https?://|(?<!/)www\.)[^\s\p{Z}\p{C}\p{Han}\p{Hiragana}\p{Katakana})"
                        R"(<>"`|\\^«»“”„‘…、。，；：！？（）「」『』【】]+))"
-                       R"(|[A-Za-z0-9._%+-]++@(?:[A-Za-z0-9-]++\.)+[A-Za-z]{2,}))"),
+                       R"(|[A-Za-z0-9._%+-]++@(?:[A-Za-z0-9-]++\.)+[A-Za-z]{2,}+)"
+                       R"((?![\p{Latin}\p{Greek}\p{Cyrillic}\p{M}\d_-])))"),
         QRegularExpression::CaseInsensitiveOption);
     return expression;
 }
@@ -38,12 +39,16 @@ std::optional<QChar> opening(QChar letter) {
 // Without what belongs to the sentence around it: punctuation, and brackets that were opened before it.
 QStringView withoutSentence(QStringView address) {
     constexpr QStringView punctuation = u".,;:!?'’*_~";
+    std::map<QChar, qsizetype> counts;
+    for (const QChar letter : address)
+        ++counts[letter];
     while (!address.isEmpty()) {
         const QChar last = address.back();
         const std::optional<QChar> bracket = opening(last);
-        const bool isUnopened = bracket && address.count(last) > address.count(*bracket);
+        const bool isUnopened = bracket && counts[last] > counts[*bracket];
         if (!isUnopened && !punctuation.contains(last))
             break;
+        --counts[last];
         address.chop(1);
     }
     return address;

@@ -70,6 +70,8 @@ void OCRPanel::showPhase() {
     QWidget *const shown = phaseView();
     if (shown == m_card)
         m_card->apply(m_state, m_picture);
+    else
+        m_card->clear();
     if (shown == m_dropView) {
         const auto *const error = std::get_if<OCRState::Error>(&m_state.phase);
         m_dropView->setError(error ? error->message : QString());
@@ -89,7 +91,7 @@ void OCRPanel::announce() {
     QWidget *const shown = phaseView();
     const bool isOutcome = std::holds_alternative<OCRState::Text>(m_state.phase) ||
                            std::holds_alternative<OCRState::Error>(m_state.phase);
-    if (!isOutcome)
+    if (!isOutcome || !isVisible())
         return;
     QAccessibleEvent event(shown, QAccessible::Alert);
     QAccessible::updateAccessibility(&event);

@@ -107,6 +107,14 @@ void OCRResultCard::apply(const OCRState &state, const QImage &picture) {
     layOut();
 }
 
+void OCRResultCard::clear() {
+    if (std::holds_alternative<OCRState::Idle>(m_state.phase))
+        return;
+    m_state = {};
+    m_text->setResult({}, {});
+    m_picture->setPicture({});
+}
+
 void OCRResultCard::showCopied() {
     m_copy->setText(tr("Copied"));
     m_copied = m_scheduler.schedule(copiedDuration, [this] { m_copy->setText(tr("Copy")); });

@@ -26,6 +26,8 @@ public:
 
     // Of a state in the phase of a text.
     void apply(const OCRState &state, const QImage &picture);
+    // Keeps nothing of what it showed.
+    void clear();
     // Says for a moment that the text was copied.
     void showCopied();
     [[nodiscard]] OCRResultTextView &textView() const { return *m_text; }
