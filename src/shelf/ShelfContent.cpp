@@ -171,10 +171,8 @@ QSet<ScreenshotFileIdentity> ShelfContent::selection() const {
 
 void ShelfContent::dragEnterEvent(QDragEnterEvent *event) {
     const bool hasTray = std::ranges::find(m_tabs, ShelfTab::fileTray) != m_tabs.end();
-    // On its way to the panel.
-    if (m_activeTab == ShelfTab::imageToText && OCRInput::canRead(*event->mimeData()))
-        return;
-    if (!event->source() && hasTray && m_activeTab != ShelfTab::fileTray &&
+    // The other tabs take files themselves, and are reached by way of the space around them.
+    if (!event->source() && hasTray && m_activeTab == ShelfTab::screenshots &&
         ClipboardStore::canRead(*event->mimeData()))
         Q_EMIT filesDraggedOver();
 }

@@ -29,7 +29,9 @@ QDBusMessage call(const QDBusConnection &bus, const AccessibleTree::Node &node, 
                   const QString &method, const QVariantList &arguments = {}) {
     QDBusMessage message = QDBusMessage::createMethodCall(node.service, node.path.path(), interface, method);
     message.setArguments(arguments);
-    return bus.call(message, QDBus::Block, 2000);
+    const QDBusMessage reply = bus.call(message, QDBus::Block, 2000);
+    // What was shown a moment ago may be gone.
+    return reply.type() == QDBusMessage::ReplyMessage ? reply : QDBusMessage();
 }
 
 } // namespace

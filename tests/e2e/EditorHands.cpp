@@ -6,12 +6,6 @@ namespace tembra {
 
 namespace {
 
-const QString program = QStringLiteral("Tembra");
-
-QStringList moveWords(QPoint point) {
-    return {QStringLiteral("mousemove"), QString::number(point.x()), QString::number(point.y())};
-}
-
 QString button(const char *action) {
     return QString::fromLatin1(action);
 }
@@ -19,16 +13,16 @@ QString button(const char *action) {
 } // namespace
 
 QJsonObject EditorHands::status() const {
-    return m_tembra.status()[u"editor"].toObject();
+    return tembra().status()[u"editor"].toObject();
 }
 
 bool EditorHands::waitFor(const std::function<bool(const QJsonObject &)> &wish) const {
-    return m_tembra.waitFor(
+    return tembra().waitFor(
         [&wish](const QJsonObject &status) { return wish(status[u"editor"].toObject()); });
 }
 
 bool EditorHands::open(const QString &path) const {
-    return m_tembra.command({QStringLiteral("edit"), path}).exitStatus == 0 && isShown(path);
+    return tembra().command({QStringLiteral("edit"), path}).exitStatus == 0 && isShown(path);
 }
 
 bool EditorHands::isShown(const QString &path) const {
@@ -69,14 +63,6 @@ bool EditorHands::take(const char *letter, const char *tool) const {
     });
 }
 
-void EditorHands::press(const QStringList &keys) const {
-    xdotool(QStringList{QStringLiteral("key")} + keys);
-}
-
-void EditorHands::type(const QString &text) const {
-    xdotool({QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("2"), text});
-}
-
 void EditorHands::click(QPointF point, const QString &number) const {
     xdotool(moveTo(point, status()) + QStringList{button("click"), number});
 }
@@ -98,35 +84,11 @@ void EditorHands::drag(std::initializer_list<QPointF> points) const {
     xdotool(words + QStringList{button("mouseup"), QStringLiteral("1")});
 }
 
-bool EditorHands::sees(const QString &name) const {
-    return m_tembra.waitFor([&](const QJsonObject &) { return control(name).has_value(); });
-}
-
-bool EditorHands::clickControl(const QString &name) const {
-    std::optional<QPoint> place;
-    const bool isThere = m_tembra.waitFor([&](const QJsonObject &) {
-        place = control(name);
-        return place.has_value();
-    });
-    if (isThere)
-        xdotool(moveWords(*place) + QStringList{button("click"), QStringLiteral("1")});
-    return isThere;
-}
-
 void EditorHands::makeRoomBelow() const {
     xdotool({QStringLiteral("search"), QStringLiteral("--onlyvisible"), QStringLiteral("--name"),
              QStringLiteral("^Screenshot from"), QStringLiteral("windowmove"), QStringLiteral("0"),
              QStringLiteral("0"), QStringLiteral("windowsize"), QStringLiteral("--sync"),
              QStringLiteral("1200"), QStringLiteral("480")});
-}
-
-std::optional<QPoint> EditorHands::control(const QString &name) const {
-    for (const AccessibleTree::Node &node : m_tree.shown(program)) {
-        const QRect extents = node.name == name ? m_tree.extents(node) : QRect();
-        if (!extents.isEmpty())
-            return extents.center();
-    }
-    return std::nullopt;
 }
 
 QStringList EditorHands::moveTo(QPointF point, const QJsonObject &editor) const {
@@ -136,10 +98,6 @@ QStringList EditorHands::moveTo(QPointF point, const QJsonObject &editor) const 
     const QPointF place =
         pair(editor[u"frame"]) + pair(editor[u"image"]) + point * editor[u"zoom"].toDouble();
     return moveWords(place.toPoint());
-}
-
-void EditorHands::xdotool(const QStringList &words) const {
-    m_tembra.tool(QStringLiteral("xdotool"), words);
 }
 
 } // namespace tembra

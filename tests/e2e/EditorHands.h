@@ -1,23 +1,19 @@
 #pragma once
 
-#include "AccessibleTree.h"
-#include "TembraProcess.h"
+#include "DesktopHands.h"
 
 #include <QJsonObject>
-#include <QPoint>
 #include <QPointF>
-#include <QStringList>
 
 #include <functional>
 #include <initializer_list>
-#include <optional>
 
 namespace tembra {
 
 // A hand on the pointer and the keys of the screenshot editor. Points are those of the image that is shown.
-class EditorHands {
+class EditorHands : public DesktopHands {
 public:
-    explicit EditorHands(const TembraProcess &tembra) : m_tembra(tembra) {}
+    using DesktopHands::DesktopHands;
 
     // What the program tells of the editor.
     [[nodiscard]] QJsonObject status() const;
@@ -36,28 +32,16 @@ public:
 
     // Takes a tool by its letter; whether it is in use.
     [[nodiscard]] bool take(const char *letter, const char *tool) const;
-    void press(const QStringList &keys) const;
-    void type(const QString &text) const;
     void click(QPointF point, const QString &button = QStringLiteral("1")) const;
     void doubleClick(QPointF point) const;
     // Along these points with the button down.
     void drag(std::initializer_list<QPointF> points) const;
-
-    // What is found by its accessible name, be it in the window or in a question about it.
-    [[nodiscard]] bool sees(const QString &name) const;
-    [[nodiscard]] bool clickControl(const QString &name) const;
-    [[nodiscard]] std::optional<QPoint> control(const QString &name) const;
-    [[nodiscard]] const AccessibleTree &tree() const { return m_tree; }
 
     // Makes the window as low as it may be, at the top of the display.
     void makeRoomBelow() const;
 
 private:
     [[nodiscard]] QStringList moveTo(QPointF point, const QJsonObject &editor) const;
-    void xdotool(const QStringList &words) const;
-
-    const TembraProcess &m_tembra;
-    const AccessibleTree m_tree;
 };
 
 } // namespace tembra

@@ -45,6 +45,7 @@ public:
     [[nodiscard]] bool waitFor(const std::function<bool(const QJsonObject &)> &wish) const;
     [[nodiscard]] bool waitForEnd();
     [[nodiscard]] bool isRunning() const { return m_process.state() == QProcess::Running; }
+    [[nodiscard]] qint64 processId() const { return m_process.processId(); }
     // What the program wrote to its log so far.
     QString log();
 
