@@ -43,16 +43,28 @@ bool FileManagerWindow::open(const QStringList &names) {
             return false;
     }
     m_process.setProcessEnvironment(m_tembra.environment());
-    // One that was just ended may still hold its place on the bus: the new one hands over to it and ends too.
     const bool isShown = m_tembra.waitFor([this](const QJsonObject &) {
-        if (m_process.state() == QProcess::NotRunning)
-            m_process.start(QStringLiteral("pcmanfm-qt"), {folder()});
+        startUnlessStarting();
         return m_process.waitForStarted() && windows().size() == 1;
     });
     xdotool(search + QStringList{QStringLiteral("windowmove"), QStringLiteral("--sync"), number(origin.x()),
                                  number(origin.y()), QStringLiteral("windowsize"), QStringLiteral("--sync"),
                                  number(size.width()), number(size.height())});
     return isShown;
+}
+
+// One that was just ended may still hold its place on the bus: the new one hands over to it and ends too. And
+// now and then one waits for ever for the list of the folder that it already has.
+void FileManagerWindow::startUnlessStarting() {
+    constexpr qint64 patience = 3000;
+    if (m_process.state() != QProcess::NotRunning && m_sinceStart.hasExpired(patience)) {
+        m_process.kill();
+        m_process.waitForFinished();
+    }
+    if (m_process.state() != QProcess::NotRunning)
+        return;
+    m_process.start(QStringLiteral("pcmanfm-qt"), {folder()});
+    m_sinceStart.start();
 }
 
 QPoint FileManagerWindow::middle() const {

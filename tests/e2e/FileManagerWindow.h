@@ -2,6 +2,7 @@
 
 #include "TembraProcess.h"
 
+#include <QElapsedTimer>
 #include <QPoint>
 #include <QProcess>
 #include <QStringList>
@@ -34,10 +35,12 @@ public:
 
 private:
     [[nodiscard]] QStringList windows() const;
+    void startUnlessStarting();
     void xdotool(const QStringList &words);
 
     const TembraProcess &m_tembra;
     QProcess m_process;
+    QElapsedTimer m_sinceStart;
     QPoint m_pointer;
 };
 
