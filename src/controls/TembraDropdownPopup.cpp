@@ -92,7 +92,8 @@ PaintedButton::Outline TembraDropdownPopup::paint(QPainter &painter, const Theme
     const QString shown = painter.fontMetrics().elidedText(currentText(), Qt::ElideRight,
                                                            static_cast<int>(std::ceil(title.width())));
     painter.setPen(theme.text);
-    painter.drawText(title, Qt::AlignVCenter | (isMirrored ? Qt::AlignRight : Qt::AlignLeft), shown);
+    const Qt::Alignment side = isMirrored ? Qt::AlignRight : Qt::AlignLeft;
+    painter.drawText(title, static_cast<int>(Qt::AlignVCenter | side), shown);
     const qreal chevronX = sideMargin + 4;
     drawChevron(painter, {isMirrored ? body.left() + chevronX : body.right() - chevronX, body.center().y()},
                 theme.secondaryText);
