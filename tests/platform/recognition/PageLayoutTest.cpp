@@ -89,3 +89,23 @@ TEST(TextSegments, takeDotsAlongAndKeepCellsApart) {
     EXPECT_EQ(segments[0].box, (PixelBox{20, 16, 46, 30}));
     EXPECT_EQ(segments[1].box, (PixelBox{120, 20, 142, 30}));
 }
+
+TEST(TextSegments, keepBracketsDotsAndAccentsOfLargeLetters) {
+    GreyPicture ink(300, 80);
+    const auto draw = [&](int left, int top, int width, int height) {
+        for (int y = top; y < top + height; ++y)
+            std::fill(ink.row(y) + left, ink.row(y) + left + width, std::uint8_t{200});
+    };
+    for (const int left : {20, 38, 56})
+        draw(left, 30, 14, 17);
+    // What stands over a letter, a bracket, a colon, an exclamation mark.
+    draw(38, 22, 12, 5);
+    draw(74, 26, 5, 26);
+    for (const int top : {32, 42})
+        draw(84, top, 5, 5);
+    draw(106, 26, 3, 14);
+    draw(106, 43, 3, 3);
+    const auto segments = textSegments(ink);
+    ASSERT_EQ(segments.size(), 1u);
+    EXPECT_EQ(segments[0].box, (PixelBox{20, 22, 109, 52}));
+}

@@ -49,17 +49,14 @@ bool isPaper(const PixelBox &box, const Frame &frame) {
 
 std::vector<Frame> framesOf(const Regions &regions, int width) {
     std::vector<Frame> frames(regions.boxes.size());
-    for (size_t at = 0; at < regions.numbers.size(); ++at) {
-        const auto number = static_cast<size_t>(regions.numbers[at]);
-        const int x = static_cast<int>(at % static_cast<size_t>(width));
-        const int y = static_cast<int>(at / static_cast<size_t>(width));
-        const PixelBox &box = regions.boxes[number];
-        Frame &frame = frames[number];
-        frame.left += x == box.left ? 1 : 0;
-        frame.right += x == box.right - 1 ? 1 : 0;
-        frame.top += y == box.top ? 1 : 0;
-        frame.bottom += y == box.bottom - 1 ? 1 : 0;
-    }
+    forRuns(regions.numbers, width, [&](std::int32_t number, const PixelBox &run) {
+        const PixelBox &box = regions.boxes[static_cast<size_t>(number)];
+        Frame &frame = frames[static_cast<size_t>(number)];
+        frame.left += run.left == box.left ? 1 : 0;
+        frame.right += run.right == box.right ? 1 : 0;
+        frame.top += run.top == box.top ? run.width() : 0;
+        frame.bottom += run.bottom == box.bottom ? run.width() : 0;
+    });
     return frames;
 }
 

@@ -6,6 +6,7 @@
 
 #include <atomic>
 #include <chrono>
+#include <functional>
 #include <thread>
 
 namespace tembra::recognition {
@@ -21,6 +22,11 @@ int engineCount() {
     return std::clamp(static_cast<int>(std::thread::hardware_concurrency()), 1, mostEngines);
 }
 
+// Every piece is read in the same height, so its length counts.
+double effort(const TextSegment &segment) {
+    return static_cast<double>(segment.box.width()) / segment.box.height();
+}
+
 } // namespace
 
 PageReader::PageReader(std::string languages)
@@ -28,7 +34,9 @@ PageReader::PageReader(std::string languages)
 
 tl::expected<std::vector<ReadLine>, ReadingFault> PageReader::read(const GreyPicture &grey) {
     const GreyPicture ink = inkPicture(grey);
-    const std::vector<TextSegment> segments = textSegments(ink);
+    std::vector<TextSegment> segments = textSegments(ink);
+    // No engine is to be left with a long one at the end.
+    std::ranges::stable_sort(segments, std::ranges::greater(), effort);
     const auto end = std::chrono::steady_clock::now() + mostTime;
     std::vector<std::optional<ReadLine>> read(segments.size());
     std::atomic<size_t> next = 0;

@@ -31,6 +31,22 @@ struct Regions {
     std::vector<PixelBox> boxes;
 };
 
+// Calls `take(number, box)` for what lies side by side in a row and has the same number.
+template <class Take>
+void forRuns(const std::vector<std::int32_t> &numbers, int width, Take take) {
+    const int height = width > 0 ? static_cast<int>(numbers.size() / static_cast<size_t>(width)) : 0;
+    for (int y = 0; y < height; ++y) {
+        const std::int32_t *const row = numbers.data() + std::ptrdiff_t{y} * width;
+        for (int x = 0; x < width;) {
+            const int from = x;
+            while (x < width && row[x] == row[from])
+                ++x;
+            if (row[from] >= 0)
+                take(row[from], PixelBox{from, y, x, y + 1});
+        }
+    }
+}
+
 // Numbers the regions from 0; `rootOf(number)` is the same for all that has turned out to be one.
 template <class RootOf>
 void nameRegions(Regions &regions, size_t numberCount, int width, RootOf rootOf) {
@@ -45,16 +61,12 @@ void nameRegions(Regions &regions, size_t numberCount, int width, RootOf rootOf)
         }
         names[i] = name;
     }
-    for (size_t at = 0; at < regions.numbers.size(); ++at) {
-        std::int32_t &number = regions.numbers[at];
-        if (number < 0)
-            continue;
-        number = names[static_cast<size_t>(number)];
-        const int x = static_cast<int>(at % static_cast<size_t>(width));
-        const int y = static_cast<int>(at / static_cast<size_t>(width));
+    for (std::int32_t &number : regions.numbers)
+        number = number < 0 ? number : names[static_cast<size_t>(number)];
+    forRuns(regions.numbers, width, [&](std::int32_t number, const PixelBox &run) {
         PixelBox &box = regions.boxes[static_cast<size_t>(number)];
-        box = box.united({x, y, x + 1, y + 1});
-    }
+        box = box.united(run);
+    });
 }
 
 // Regions of neighbours, the diagonal ones among them, that `areTogether(offset, offset)` says of. Pixels
@@ -79,10 +91,15 @@ Regions regionsOf(int width, int height, Counts counts, AreTogether areTogether)
             if (!counts(at))
                 continue;
             std::int32_t number = -1;
+            std::int32_t joined = -1;
             const auto join = [&](bool isThere, size_t distance) {
-                if (!isThere || numbers[at - distance] < 0 || !areTogether(at, at - distance))
+                // Most neighbours are of one region already.
+                if (!isThere || numbers[at - distance] == joined || !areTogether(at, at - distance))
                     return;
-                const std::int32_t other = rootOf(numbers[at - distance]);
+                joined = numbers[at - distance];
+                if (joined < 0)
+                    return;
+                const std::int32_t other = rootOf(joined);
                 if (number >= 0 && number != other)
                     parents[static_cast<size_t>(std::max(number, other))] = std::min(number, other);
                 number = number < 0 ? other : std::min(number, other);

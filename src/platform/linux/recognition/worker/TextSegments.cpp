@@ -14,13 +14,14 @@ constexpr int edgeReach = 6;
 constexpr int smallestLetter = 5;
 constexpr int largestLetter = 120;
 // In heights of the line.
-constexpr double widestSpace = 0.9;
-constexpr double widestLetterSpace = 0.25;
+constexpr double widestSpace = 1.25;
+constexpr double widestLetterSpace = 0.3;
 constexpr double widestMarkSpace = 1.2;
-constexpr double smallMark = 0.55;
+constexpr double smallMark = 0.62;
 // In its own height.
 constexpr double wordShape = 1.6;
 constexpr double thinnest = 0.15;
+constexpr double longestMark = 3;
 
 // Ink without soft edges.
 std::vector<bool> marksOf(const GreyPicture &ink) {
@@ -111,7 +112,9 @@ int lineHeight(const std::vector<Chain> &words, const PixelBox &box) {
 bool isIcon(const PixelBox &box, const std::vector<Chain> &words) {
     constexpr double taller = 1.35;
     constexpr double near = 1.5;
-    if (box.width() >= wordShape * box.height())
+    // Brackets are taller than letters as well.
+    constexpr double narrowest = 0.5;
+    if (box.width() >= wordShape * box.height() || box.width() < narrowest * box.height())
         return false;
     int height = 0;
     for (const Chain &word : words) {
@@ -120,6 +123,12 @@ bool isIcon(const PixelBox &box, const std::vector<Chain> &words) {
             height = std::max(height, word.box.height());
     }
     return height > 0 && box.height() > taller * height;
+}
+
+// A dot or a part of a letter, whatever its size.
+bool isMark(const Chain &chain) {
+    const double longest = chain.letters == 1 ? longestMark : wordShape;
+    return chain.letters <= 2 && chain.box.width() < longest * chain.box.height();
 }
 
 // Dots, commas, hyphens, quotes go to the line that they stand at; what stands at none is left out.
@@ -137,20 +146,27 @@ std::vector<Chain> withSmallMarks(const std::vector<Chain> &chains, const std::v
                 across > (down > 0 ? 0.5 : widestMarkSpace) * box.height() || down > 0.25 * box.height() ||
                 mark.width() > 2 * box.height())
                 continue;
-            if (across + 2 * down < bestDistance) {
-                bestDistance = across + 2 * down;
+            // What underlines a line stands nearer to the next one at times.
+            const bool isOverIt = mark.bottom <= box.top && mark.width() >= 0.5 * box.height();
+            const double apart = across + 2 * down + (isOverIt ? 0.5 * box.height() : 0);
+            if (apart < bestDistance) {
+                bestDistance = apart;
                 best = i;
             }
         }
-        if (best < chains.size())
-            result[best].box = result[best].box.united(mark);
-        return best < chains.size();
+        if (best == chains.size())
+            return false;
+        // A bracket and a colon are no icon, an exclamation mark is no edge.
+        const PixelBox &box = chains[best].box;
+        if (isBar(box) || mark.left >= box.right || mark.right <= box.left)
+            ++result[best].letters;
+        result[best].box = result[best].box.united(mark);
+        return true;
     };
     for (const PixelBox &mark : marks)
         (void)take(mark);
     for (size_t i = 0; i < chains.size(); ++i)
-        isTaken[i] = chains[i].letters <= 2 && chains[i].box.width() < wordShape * chains[i].box.height() &&
-                     take(chains[i].box);
+        isTaken[i] = isMark(chains[i]) && take(chains[i].box);
     size_t i = 0;
     std::erase_if(result, [&](const Chain &) { return isTaken[i++]; });
     return result;
@@ -161,7 +177,7 @@ std::vector<Chain> chainsOf(const std::vector<PixelBox> &letters, const std::vec
     for (const PixelBox &letter : letters)
         parts.push_back({letter});
     parts = joined(std::move(parts), [](const PixelBox &first, const PixelBox &second) {
-        return std::max(3.0, widestLetterSpace * std::max(first.height(), second.height()));
+        return std::max(3.0, widestLetterSpace * std::min(first.height(), second.height()));
     });
     parts = withSmallMarks(parts, marks);
     // A lone bar is the edge of something.

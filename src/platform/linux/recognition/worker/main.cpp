@@ -39,9 +39,6 @@ void limitItself() {
     // Nothing of the picture is to stay on the disk.
     setrlimit(RLIMIT_CORE, &none);
     prctl(PR_SET_DUMPABLE, 0);
-    // The desktop comes first.
-    constexpr int niceness = 5;
-    setpriority(PRIO_PROCESS, 0, niceness);
 }
 
 // What the next picture may take.
