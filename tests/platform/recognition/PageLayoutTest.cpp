@@ -22,6 +22,11 @@ std::vector<std::string> texts(const std::vector<ReadLine> &lines) {
     return result;
 }
 
+void draw(GreyPicture &ink, int left, int top, int width, int height) {
+    for (int y = top; y < top + height; ++y)
+        std::fill(ink.row(y) + left, ink.row(y) + left + width, std::uint8_t{200});
+}
+
 } // namespace
 
 TEST(ReadingOrder, goesDownEachColumnBeneathWhatSpansThem) {
@@ -76,14 +81,10 @@ TEST(InkPicture, holdsEverythingAgainstThePaperAroundIt) {
 
 TEST(TextSegments, takeDotsAlongAndKeepCellsApart) {
     GreyPicture ink(300, 60);
-    const auto letter = [&](int left, int top, int width, int height) {
-        for (int y = top; y < top + height; ++y)
-            std::fill(ink.row(y) + left, ink.row(y) + left + width, std::uint8_t{200});
-    };
     for (const int left : {20, 28, 36, 120, 128, 136})
-        letter(left, 20, 6, 10);
-    letter(22, 16, 2, 2);
-    letter(44, 28, 2, 2);
+        draw(ink, left, 20, 6, 10);
+    draw(ink, 22, 16, 2, 2);
+    draw(ink, 44, 28, 2, 2);
     const auto segments = textSegments(ink);
     ASSERT_EQ(segments.size(), 2u);
     EXPECT_EQ(segments[0].box, (PixelBox{20, 16, 46, 30}));
@@ -92,20 +93,26 @@ TEST(TextSegments, takeDotsAlongAndKeepCellsApart) {
 
 TEST(TextSegments, keepBracketsDotsAndAccentsOfLargeLetters) {
     GreyPicture ink(300, 80);
-    const auto draw = [&](int left, int top, int width, int height) {
-        for (int y = top; y < top + height; ++y)
-            std::fill(ink.row(y) + left, ink.row(y) + left + width, std::uint8_t{200});
-    };
     for (const int left : {20, 38, 56})
-        draw(left, 30, 14, 17);
+        draw(ink, left, 30, 14, 17);
     // What stands over a letter, a bracket, a colon, an exclamation mark.
-    draw(38, 22, 12, 5);
-    draw(74, 26, 5, 26);
+    draw(ink, 38, 22, 12, 5);
+    draw(ink, 74, 26, 5, 26);
     for (const int top : {32, 42})
-        draw(84, top, 5, 5);
-    draw(106, 26, 3, 14);
-    draw(106, 43, 3, 3);
+        draw(ink, 84, top, 5, 5);
+    draw(ink, 106, 26, 3, 14);
+    draw(ink, 106, 43, 3, 3);
     const auto segments = textSegments(ink);
     ASSERT_EQ(segments.size(), 1u);
     EXPECT_EQ(segments[0].box, (PixelBox{20, 22, 109, 52}));
+}
+
+TEST(TextSegments, leaveOutTheSideOfAButton) {
+    GreyPicture ink(200, 80);
+    draw(ink, 20, 18, 7, 40);
+    for (const int left : {60, 78, 96})
+        draw(ink, left, 30, 14, 17);
+    const auto segments = textSegments(ink);
+    ASSERT_EQ(segments.size(), 1u);
+    EXPECT_EQ(segments[0].box, (PixelBox{60, 30, 110, 47}));
 }

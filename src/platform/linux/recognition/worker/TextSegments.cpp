@@ -14,7 +14,7 @@ constexpr int edgeReach = 6;
 constexpr int smallestLetter = 5;
 constexpr int largestLetter = 120;
 // In heights of the line.
-constexpr double widestSpace = 1.25;
+constexpr double widestSpace = 1.05;
 constexpr double widestLetterSpace = 0.3;
 constexpr double widestMarkSpace = 1.2;
 constexpr double smallMark = 0.62;
@@ -108,14 +108,14 @@ int lineHeight(const std::vector<Chain> &words, const PixelBox &box) {
     return height;
 }
 
-// What is clearly taller than the words that it stands beside, and about as wide as it is tall.
+// What is clearly taller than the words that it stands beside and not much wider than tall. Brackets and
+// digits are taller than small letters too, but not as the sides of a button are.
 bool isIcon(const PixelBox &box, const std::vector<Chain> &words) {
-    constexpr double taller = 1.35;
+    constexpr double narrow = 0.5;
     constexpr double near = 1.5;
-    // Brackets are taller than letters as well.
-    constexpr double narrowest = 0.5;
-    if (box.width() >= wordShape * box.height() || box.width() < narrowest * box.height())
+    if (box.width() >= wordShape * box.height())
         return false;
+    const double taller = box.width() < narrow * box.height() ? 1.8 : 1.35;
     int height = 0;
     for (const Chain &word : words) {
         const int apart = std::max(word.box.left - box.right, box.left - word.box.right);
