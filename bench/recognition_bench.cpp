@@ -8,7 +8,7 @@
 #include "TextErrors.h"
 #include "WordPictures.h"
 #include "imaging/PictureDecoding.h"
-#include "platform/linux/recognition/TesseractRecognizer.h"
+#include "platform/linux/recognition/TesseractOCRRecognizer.h"
 
 #include <QApplication>
 #include <QFile>
@@ -151,7 +151,7 @@ int main(int argc, char **argv) {
     const auto texts = interfaceTexts(folder.isEmpty() ? scratch.path() : folder);
     const char *const threads = bestThreads(texts);
 
-    std::map<QString, std::unique_ptr<TesseractRecognizer>> recognizers;
+    std::map<QString, std::unique_ptr<TesseractOCRRecognizer>> recognizers;
     Sum ours;
     Sum program;
     double first = 0;
@@ -160,7 +160,7 @@ int main(int argc, char **argv) {
         auto &recognizer = recognizers[text.languages.join(u'+')];
         const QImage image = pictureIn(text.file);
         if (!recognizer) {
-            recognizer = std::make_unique<TesseractRecognizer>(RecognitionWorker::Program{
+            recognizer = std::make_unique<TesseractOCRRecognizer>(RecognitionWorker::Program{
                 .file = QStringLiteral(TEMBRA_RECOGNITION_WORKER), .languages = text.languages});
             const double time = milliseconds([&] { (void)textOf(*recognizer, image); });
             first = first == 0 ? time : first;

@@ -15,7 +15,7 @@
 #include "platform/linux/LinuxTrash.h"
 #include "platform/linux/ThumbnailCacheFolder.h"
 #include "platform/linux/desktop/DesktopServices.h"
-#include "platform/linux/recognition/TesseractRecognizer.h"
+#include "platform/linux/recognition/TesseractOCRRecognizer.h"
 #include "platform/linux/tools/ScreenshotTool.h"
 
 namespace tembra {
@@ -39,7 +39,7 @@ Platform makeHeadlessPlatform(Scheduler &scheduler) {
     platform.trash = std::make_unique<LinuxTrash>(*facts, platform.folders.trash.first());
     platform.pictureDecoder = std::make_unique<LinuxPictureDecoder>();
     platform.thumbnailCache = std::make_unique<ThumbnailCacheFolder>(ThumbnailCacheFolder::userRoot());
-    platform.textRecognizer = std::make_unique<TesseractRecognizer>(TesseractRecognizer::installedWorker());
+    platform.textRecognizer = std::make_unique<TesseractOCRRecognizer>(TesseractOCRRecognizer::installedWorker());
     platform.fileFacts = std::move(facts);
     return platform;
 }

@@ -1,6 +1,6 @@
 // Has a worker read again and again: RecognitionUser WORKER. To be killed meanwhile.
 
-#include "platform/linux/recognition/TesseractRecognizer.h"
+#include "platform/linux/recognition/TesseractOCRRecognizer.h"
 
 #include <QCoreApplication>
 
@@ -8,7 +8,7 @@ using namespace tembra;
 
 int main(int argc, char **argv) {
     const QCoreApplication application(argc, argv);
-    const TesseractRecognizer recognizer({QCoreApplication::arguments().last(), {QStringLiteral("eng")}});
+    const TesseractOCRRecognizer recognizer({QCoreApplication::arguments().last(), {QStringLiteral("eng")}});
     QImage blank(8, 8, QImage::Format_RGB32);
     blank.fill(Qt::white);
     while (recognizer.recognize(blank, {})) {

@@ -1,4 +1,4 @@
-#include "platform/linux/recognition/TesseractRecognizer.h"
+#include "platform/linux/recognition/TesseractOCRRecognizer.h"
 #include "support/ChildProgram.h"
 #include "support/EventLoop.h"
 
@@ -96,7 +96,7 @@ protected:
         return {file, {QStringLiteral("eng")}, idleTime};
     }
     [[nodiscard]] int errorWith(const QString &file, std::chrono::milliseconds limit = 1min) const {
-        return errorOf(TesseractRecognizer(english(file), limit).recognize(pictureOf({}), {}));
+        return errorOf(TesseractOCRRecognizer(english(file), limit).recognize(pictureOf({}), {}));
     }
 
     const QTemporaryDir folder;
@@ -119,9 +119,9 @@ TEST_F(RecognitionWorkers, failWithOneErrorWhateverTheFault) {
 TEST_F(RecognitionWorkers, passOverLanguagesThatAreMissing) {
     const QString worker = QStringLiteral(TEMBRA_RECOGNITION_WORKER);
     const QString none = QStringLiteral("nolanguage");
-    EXPECT_EQ(errorOf(TesseractRecognizer({worker, {none}}).recognize(hello, {})),
+    EXPECT_EQ(errorOf(TesseractOCRRecognizer({worker, {none}}).recognize(hello, {})),
               TextRecognizer::noLanguage);
-    EXPECT_EQ(textOf(TesseractRecognizer({worker, {none, QStringLiteral("eng")}}).recognize(hello, {})),
+    EXPECT_EQ(textOf(TesseractOCRRecognizer({worker, {none, QStringLiteral("eng")}}).recognize(hello, {})),
               helloText);
 }
 
@@ -132,13 +132,13 @@ TEST_F(RecognitionWorkers, failAloneWhenTheirDataIsDamaged) {
         file.write(data);
         file.close();
         const QString worker = program("TESSDATA_PREFIX=${0%/*} exec " TEMBRA_RECOGNITION_WORKER " \"$@\"");
-        const int error = errorOf(TesseractRecognizer(english(worker)).recognize(hello, {}));
+        const int error = errorOf(TesseractOCRRecognizer(english(worker)).recognize(hello, {}));
         EXPECT_TRUE(error == TextRecognizer::noLanguage || error == TextRecognizer::notRecognized) << error;
     }
 }
 
 TEST_F(RecognitionWorkers, stayForTheNextPicture) {
-    const TesseractRecognizer recognizer(english(realWorker()));
+    const TesseractOCRRecognizer recognizer(english(realWorker()));
     EXPECT_EQ(textOf(recognizer.recognize(hello, {})), helloText);
     EXPECT_EQ(textOf(recognizer.recognize(pictureOf(QStringLiteral("Good morning")), {})),
               QStringLiteral("Good morning"));
@@ -149,7 +149,7 @@ TEST_F(RecognitionWorkers, stayForTheNextPicture) {
 TEST_F(RecognitionWorkers, endWhenIdleOrUnneeded) {
     idleTime = 50ms;
     {
-        const TesseractRecognizer recognizer(english(realWorker()));
+        const TesseractOCRRecognizer recognizer(english(realWorker()));
         EXPECT_EQ(textOf(recognizer.recognize(hello, {})), helloText);
         EXPECT_TRUE(eventually([&] { return isOver(ids().front()); }));
         EXPECT_EQ(textOf(recognizer.recognize(hello, {})), helloText);
@@ -158,7 +158,7 @@ TEST_F(RecognitionWorkers, endWhenIdleOrUnneeded) {
 }
 
 TEST_F(RecognitionWorkers, areReplacedWhenTheyWereKilled) {
-    const TesseractRecognizer recognizer(english(realWorker()));
+    const TesseractOCRRecognizer recognizer(english(realWorker()));
     auto lines = std::async([&] { return recognizer.recognize(longPage(), {}); });
     EXPECT_TRUE(eventually([&] { return isStarted() && isAtWork(ids().back()); }));
     ::kill(ids().back(), SIGKILL);
@@ -171,7 +171,7 @@ TEST_F(RecognitionWorkers, areReplacedWhenTheyWereKilled) {
 }
 
 TEST_F(RecognitionWorkers, areEndedWhenCancelled) {
-    const TesseractRecognizer recognizer(english(realWorker()));
+    const TesseractOCRRecognizer recognizer(english(realWorker()));
     const Cancellation cancellation;
     auto lines = std::async([&] { return recognizer.recognize(longPage(), cancellation); });
     EXPECT_TRUE(eventually([&] { return isStarted() && isAtWork(ids().back()); }));
@@ -182,7 +182,7 @@ TEST_F(RecognitionWorkers, areEndedWhenCancelled) {
 }
 
 TEST_F(RecognitionWorkers, areTwoForTwoPicturesAtATimeAndOneAfterwards) {
-    const TesseractRecognizer recognizer(english(realWorker()));
+    const TesseractOCRRecognizer recognizer(english(realWorker()));
     std::vector<std::future<Lines>> both;
     for (int i = 0; i < 2; ++i)
         both.push_back(std::async(std::launch::async, [&] { return recognizer.recognize(hello, {}); }));

@@ -11,11 +11,11 @@ namespace tembra {
 // keep to one thread an engine in the only place where it listens, the environment it starts with. The worker
 // is started when a picture comes and stays for the next ones; a second picture at the same time gets one of
 // its own.
-class TesseractRecognizer final : public TextRecognizer {
+class TesseractOCRRecognizer final : public TextRecognizer {
 public:
     // `limit` is how long a picture may take.
-    explicit TesseractRecognizer(RecognitionWorker::Program program,
-                                 std::chrono::milliseconds limit = std::chrono::minutes(1));
+    explicit TesseractOCRRecognizer(RecognitionWorker::Program program,
+                                    std::chrono::milliseconds limit = std::chrono::minutes(1));
     // The worker that belongs to this program, with the user's languages.
     [[nodiscard]] static RecognitionWorker::Program installedWorker();
 

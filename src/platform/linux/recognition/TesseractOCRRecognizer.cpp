@@ -1,4 +1,4 @@
-#include "platform/linux/recognition/TesseractRecognizer.h"
+#include "platform/linux/recognition/TesseractOCRRecognizer.h"
 
 #include "platform/linux/recognition/EngineLanguages.h"
 #include "platform/linux/recognition/PictureHandover.h"
@@ -74,11 +74,12 @@ void report(RecognitionWorker::Fault fault, const QStringList &languages) {
 
 } // namespace
 
-TesseractRecognizer::TesseractRecognizer(RecognitionWorker::Program program, std::chrono::milliseconds limit)
+TesseractOCRRecognizer::TesseractOCRRecognizer(RecognitionWorker::Program program,
+                                               std::chrono::milliseconds limit)
     : m_program(std::move(program)), m_limit(limit) {}
 
 // Beside the program where it is built, else where it is installed.
-RecognitionWorker::Program TesseractRecognizer::installedWorker() {
+RecognitionWorker::Program TesseractOCRRecognizer::installedWorker() {
     RecognitionWorker::Program worker;
     worker.languages = engineLanguages(QLocale::system().uiLanguages());
     const QDir programs(QCoreApplication::applicationDirPath());
@@ -93,7 +94,7 @@ RecognitionWorker::Program TesseractRecognizer::installedWorker() {
 }
 
 Result<std::vector<TextRecognizer::Line>>
-TesseractRecognizer::recognize(const QImage &image, const Cancellation &cancellation) const {
+TesseractOCRRecognizer::recognize(const QImage &image, const Cancellation &cancellation) const {
     if (m_program.file.isEmpty()) {
         qWarning("No text is recognized: tembra-recognition is not installed");
         return recognitionFailure(unavailable);
@@ -121,8 +122,8 @@ TesseractRecognizer::recognize(const QImage &image, const Cancellation &cancella
     return std::move(*lines);
 }
 
-RecognitionWorker::Outcome<QByteArray> TesseractRecognizer::read(const Descriptor &picture,
-                                                                 const Cancellation &cancellation) const {
+RecognitionWorker::Outcome<QByteArray> TesseractOCRRecognizer::read(const Descriptor &picture,
+                                                                    const Cancellation &cancellation) const {
     RecognitionWorker::Outcome<QByteArray> answer = tl::unexpected(Fault::gone);
     std::unique_ptr<RecognitionWorker> worker = takeIdleWorker();
     if (worker)
@@ -143,12 +144,12 @@ RecognitionWorker::Outcome<QByteArray> TesseractRecognizer::read(const Descripto
     return answer;
 }
 
-std::unique_ptr<RecognitionWorker> TesseractRecognizer::takeIdleWorker() const {
+std::unique_ptr<RecognitionWorker> TesseractOCRRecognizer::takeIdleWorker() const {
     const std::lock_guard lock(m_lock);
     return std::move(m_idleWorker);
 }
 
-void TesseractRecognizer::keep(std::unique_ptr<RecognitionWorker> worker) const {
+void TesseractOCRRecognizer::keep(std::unique_ptr<RecognitionWorker> worker) const {
     const std::lock_guard lock(m_lock);
     std::swap(m_idleWorker, worker);
 }

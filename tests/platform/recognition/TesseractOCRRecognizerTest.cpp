@@ -1,4 +1,4 @@
-#include "platform/linux/recognition/TesseractRecognizer.h"
+#include "platform/linux/recognition/TesseractOCRRecognizer.h"
 
 #include "platform/linux/recognition/EngineLanguages.h"
 #include "platform/linux/recognition/RecognizedText.h"
@@ -15,8 +15,8 @@ using Word = TextRecognizer::Word;
 namespace {
 
 // One for all, as in the program.
-const TesseractRecognizer &recognizer() {
-    static const TesseractRecognizer shared(
+const TesseractOCRRecognizer &recognizer() {
+    static const TesseractOCRRecognizer shared(
         {.file = QStringLiteral(TEMBRA_RECOGNITION_WORKER), .languages = {QStringLiteral("eng")}});
     return shared;
 }
@@ -105,7 +105,7 @@ TEST_P(ReadsText, inTheSizesAndColoursOfInterfaces) {
     expectFound(drawn, *lines);
 }
 
-TEST(TesseractRecognizer, readsEveryLineOfATallPageOnce) {
+TEST(TesseractOCRRecognizer, readsEveryLineOfATallPageOnce) {
     QStringList text;
     for (int i = 0; i < 30; ++i)
         text += QStringLiteral("Line number %1 of the list").arg(100 + i);
@@ -116,7 +116,7 @@ TEST(TesseractRecognizer, readsEveryLineOfATallPageOnce) {
     expectFound(drawn, *lines);
 }
 
-TEST(TesseractRecognizer, findsNothingWhereNothingIsWritten) {
+TEST(TesseractOCRRecognizer, findsNothingWhereNothingIsWritten) {
     QImage transparent(300, 200, QImage::Format_ARGB32_Premultiplied);
     transparent.fill(Qt::transparent);
     const auto lines = recognizer().recognize(transparent, {});
