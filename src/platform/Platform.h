@@ -10,8 +10,10 @@
 #include "platform/FileReferences.h"
 #include "platform/FolderEvents.h"
 #include "platform/FolderFiles.h"
+#include "platform/HotKeys.h"
 #include "platform/HotZones.h"
 #include "platform/InputMonitor.h"
+#include "platform/LoginItemService.h"
 #include "platform/PanelWindows.h"
 #include "platform/Pasteboard.h"
 #include "platform/PictureDecoder.h"
@@ -51,12 +53,14 @@ struct Platform {
     std::unique_ptr<PictureDecoder> pictureDecoder;
     std::unique_ptr<ThumbnailCache> thumbnailCache;
     std::unique_ptr<TextRecognizer> textRecognizer;
+    LoginItemService loginItem;
     // The services below need a display and are absent in commands that run without one.
     std::unique_ptr<Displays> displays;
     std::unique_ptr<Workspace> workspace;
     std::unique_ptr<InputMonitor> inputMonitor;
     std::unique_ptr<PanelWindows> panelWindows;
     std::unique_ptr<HotZones> hotZones;
+    std::unique_ptr<HotKeys> hotKeys;
     std::unique_ptr<Thumbnails> thumbnails;
     std::unique_ptr<Pasteboard> pasteboard;
     std::unique_ptr<FilePromises> filePromises;
@@ -73,6 +77,8 @@ struct Platform {
 [[nodiscard]] std::unique_ptr<SingleInstance> makeSingleInstance();
 // Before the application object is made: what its windows need of the environment.
 void preparePlatformEnvironment();
+// Whether the system's packages installed the program, and so update it. Needs an application object.
+[[nodiscard]] bool isPackageManaged();
 // The translation catalogue that rewords texts which name things of another platform.
 [[nodiscard]] QString platformWordingCatalogue();
 

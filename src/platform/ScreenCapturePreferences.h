@@ -24,6 +24,8 @@ public:
     [[nodiscard]] virtual std::optional<QString> target() const = 0;
     // The beginning of the tool's file names, when the user or the desktop's language changed it.
     [[nodiscard]] virtual std::optional<QString> name() const = 0;
+    // Whether the tool has floating thumbnails at all.
+    [[nodiscard]] virtual bool hasThumbnail() const = 0;
     // Whether the tool shows a floating thumbnail of a new capture; nothing when the tool has no such setting
     // or it is at its default.
     [[nodiscard]] virtual std::optional<bool> showThumbnail() const = 0;

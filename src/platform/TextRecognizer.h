@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QRectF>
 #include <QString>
+#include <QStringList>
 
 #include <vector>
 
@@ -28,6 +29,15 @@ public:
         bool operator==(const Line &) const = default;
     };
 
+    struct Language {
+        // As the engine names it.
+        QString code;
+        // As those who read it name it.
+        QString name;
+
+        bool operator==(const Language &) const = default;
+    };
+
     static inline const QString errorDomain = QStringLiteral("Tembra.TextRecognition");
     enum ErrorCode {
         // What recognises text is not installed.
@@ -44,6 +54,13 @@ public:
     // that says so.
     [[nodiscard]] virtual Result<std::vector<Line>> recognize(const QImage &image,
                                                               const Cancellation &cancellation) const = 0;
+    // Those that are installed, by name; at least one. Any thread but the main one. Errors: unavailable,
+    // noLanguage.
+    [[nodiscard]] virtual Result<std::vector<Language>> installedLanguages() const = 0;
+    // The codes of the languages that are read while none is chosen. Any thread.
+    [[nodiscard]] virtual QStringList usualLanguages() const = 0;
+    // By their codes; none means the usual ones. Holds from the next picture on. Any thread.
+    virtual void setLanguages(const QStringList &codes) = 0;
 };
 
 } // namespace tembra

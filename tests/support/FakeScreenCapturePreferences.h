@@ -28,6 +28,7 @@ public:
     [[nodiscard]] std::optional<QString> location() const override { return seen().location; }
     [[nodiscard]] std::optional<QString> target() const override { return seen().target; }
     [[nodiscard]] std::optional<QString> name() const override { return std::nullopt; }
+    [[nodiscard]] bool hasThumbnail() const override { return true; }
     [[nodiscard]] std::optional<bool> showThumbnail() const override { return seen().showThumbnail; }
 
     void setLocation(const std::optional<QString> &path) override { written().location = path; }

@@ -19,7 +19,13 @@ public:
         return answer;
     }
 
+    [[nodiscard]] Result<std::vector<Language>> installedLanguages() const override { return installed; }
+    [[nodiscard]] QStringList usualLanguages() const override { return {QStringLiteral("eng")}; }
+    void setLanguages(const QStringList &codes) override { languages = codes; }
+
     Result<std::vector<Line>> answer;
+    std::vector<Language> installed;
+    QStringList languages;
     // In the middle of a call.
     std::function<void()> onRecognize;
     // Of the pictures that were read.

@@ -1,4 +1,5 @@
 #include "platform/Platform.h"
+#include "platform/linux/AutostartEntry.h"
 #include "platform/linux/DBusSingleInstance.h"
 #include "platform/linux/FreedesktopThumbnails.h"
 #include "platform/linux/InotifyFolderEvents.h"
@@ -17,6 +18,10 @@
 #include "platform/linux/desktop/DesktopServices.h"
 #include "platform/linux/recognition/TesseractOCRRecognizer.h"
 #include "platform/linux/tools/ScreenshotTool.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
 
 namespace tembra {
 
@@ -39,7 +44,9 @@ Platform makeHeadlessPlatform(Scheduler &scheduler) {
     platform.trash = std::make_unique<LinuxTrash>(*facts, platform.folders.trash.first());
     platform.pictureDecoder = std::make_unique<LinuxPictureDecoder>();
     platform.thumbnailCache = std::make_unique<ThumbnailCacheFolder>(ThumbnailCacheFolder::userRoot());
-    platform.textRecognizer = std::make_unique<TesseractOCRRecognizer>(TesseractOCRRecognizer::installedWorker());
+    platform.textRecognizer =
+        std::make_unique<TesseractOCRRecognizer>(TesseractOCRRecognizer::installedWorker());
+    platform.loginItem = AutostartEntry::ofUser().service();
     platform.fileFacts = std::move(facts);
     return platform;
 }
@@ -52,6 +59,7 @@ Platform makePlatform(Scheduler &scheduler) {
     platform.inputMonitor = std::move(desktop.inputMonitor);
     platform.panelWindows = std::move(desktop.panelWindows);
     platform.hotZones = std::move(desktop.hotZones);
+    platform.hotKeys = std::move(desktop.hotKeys);
     platform.pasteboard = std::move(desktop.pasteboard);
     platform.filePromises = std::move(desktop.filePromises);
     platform.sounds = std::move(desktop.sounds);
@@ -69,6 +77,12 @@ std::unique_ptr<SingleInstance> makeSingleInstance() {
 void preparePlatformEnvironment() {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && !qEnvironmentVariableIsEmpty("DISPLAY"))
         qputenv("QT_QPA_PLATFORM", "xcb");
+}
+
+// Packages lay a marker beside the program.
+bool isPackageManaged() {
+    const QDir programs(QCoreApplication::applicationDirPath());
+    return QFileInfo::exists(programs.filePath(QStringLiteral("../share/tembra/package-managed")));
 }
 
 QString platformWordingCatalogue() {

@@ -131,6 +131,25 @@ void ForeignProgram::typeKey(char key) {
     qFatal("no such key");
 }
 
+void ForeignProgram::holdKey(std::uint8_t keycode) {
+    fake(XCB_KEY_PRESS, keycode);
+}
+
+void ForeignProgram::releaseKey(std::uint8_t keycode) {
+    fake(XCB_KEY_RELEASE, keycode);
+}
+
+bool ForeignProgram::grabKey(std::uint8_t keycode, std::uint16_t modifiers) {
+    const auto request =
+        xcb_grab_key_checked(m_xcb, 0, m_root, modifiers, keycode, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+    return owned(xcb_request_check(m_xcb, request)) == nullptr;
+}
+
+void ForeignProgram::ungrabKey(std::uint8_t keycode, std::uint16_t modifiers) {
+    xcb_ungrab_key(m_xcb, keycode, m_root, modifiers);
+    static_cast<void>(focusedWindow());
+}
+
 void ForeignProgram::setButtonOrder(const std::vector<std::uint8_t> &order) {
     const auto current = owned(xcb_get_pointer_mapping_reply(m_xcb, xcb_get_pointer_mapping(m_xcb), nullptr));
     std::uint8_t *const all = xcb_get_pointer_mapping_map(current.get());

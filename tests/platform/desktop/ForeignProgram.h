@@ -35,6 +35,11 @@ public:
     void release(int button = 1);
     void click(QPoint position, int button = 1);
     void typeKey(char key);
+    void holdKey(std::uint8_t keycode);
+    void releaseKey(std::uint8_t keycode);
+    // Takes a key with exactly those modifiers for itself; false where another program has it.
+    bool grabKey(std::uint8_t keycode, std::uint16_t modifiers);
+    void ungrabKey(std::uint8_t keycode, std::uint16_t modifiers);
     // What the first buttons of the mouse mean.
     void setButtonOrder(const std::vector<std::uint8_t> &order);
     // Presses that arrived in its own windows so far.

@@ -146,3 +146,29 @@ TEST(EngineLanguages, areTheUsersAndEnglish) {
     EXPECT_EQ(languages("ru"), QStringLiteral("eng rus"));
     EXPECT_EQ(languages("C"), QStringLiteral("eng"));
 }
+
+TEST(EngineLanguages, thatAreChosenAreReadInTheOrderThatConfusesLeast) {
+    EXPECT_EQ(inReadingOrder({QStringLiteral("rus"), QStringLiteral("deu"), QStringLiteral("eng")}),
+              (QStringList{QStringLiteral("deu"), QStringLiteral("eng"), QStringLiteral("rus")}));
+    EXPECT_EQ(languageName(QStringLiteral("deu")), QStringLiteral("Deutsch"));
+    EXPECT_EQ(languageName(QStringLiteral("frk")), QStringLiteral("frk"));
+}
+
+TEST(TesseractOCRRecognizer, readsTheLanguagesThatAreChosen) {
+    TesseractOCRRecognizer reader(
+        {.file = QStringLiteral(TEMBRA_RECOGNITION_WORKER), .languages = {QStringLiteral("eng")}});
+    const auto installed = reader.installedLanguages();
+    const auto isEnglish = [](const TextRecognizer::Language &language) {
+        return language == TextRecognizer::Language{QStringLiteral("eng"), QStringLiteral("English")};
+    };
+    ASSERT_TRUE(installed);
+    EXPECT_TRUE(std::any_of(installed->begin(), installed->end(), isEnglish));
+    const QImage picture = page({}, {QStringLiteral("some words")}).image;
+    ASSERT_TRUE(reader.recognize(picture, {}));
+    reader.setLanguages({QStringLiteral("xxx")});
+    const auto refused = reader.recognize(picture, {});
+    ASSERT_FALSE(refused);
+    EXPECT_EQ(refused.error().code, TextRecognizer::noLanguage);
+    reader.setLanguages({});
+    EXPECT_TRUE(reader.recognize(picture, {}));
+}

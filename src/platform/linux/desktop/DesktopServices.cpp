@@ -3,12 +3,14 @@
 #include "platform/linux/desktop/CanberraSounds.h"
 #include "platform/linux/desktop/DesktopFilePromises.h"
 #include "platform/linux/desktop/LinuxWorkspace.h"
+#include "platform/linux/desktop/PortalHotKeys.h"
 #include "platform/linux/desktop/QtDisplays.h"
 #include "platform/linux/desktop/QtHotZones.h"
 #include "platform/linux/desktop/QtInputMonitor.h"
 #include "platform/linux/desktop/QtPanelWindows.h"
 #include "platform/linux/desktop/QtPasteboard.h"
 #include "platform/linux/desktop/WaylandDataControlPasteboard.h"
+#include "platform/linux/desktop/X11HotKeys.h"
 #include "platform/linux/desktop/X11HotZones.h"
 #include "platform/linux/desktop/X11InputMonitor.h"
 #include "platform/linux/desktop/X11PanelWindows.h"
@@ -25,6 +27,13 @@ std::unique_ptr<Pasteboard> makePasteboard(Scheduler &scheduler,
     return std::make_unique<QtPasteboard>(connection);
 }
 
+// The X server that a Wayland compositor runs gets the keys of its own windows only.
+std::unique_ptr<HotKeys> makeHotKeys(const std::shared_ptr<X11Connection> &connection) {
+    if (connection && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
+        return std::make_unique<X11HotKeys>(connection);
+    return std::make_unique<PortalHotKeys>();
+}
+
 } // namespace
 
 DesktopServices makeDesktopServices(Scheduler &scheduler, std::optional<CameraHousing> camera) {
@@ -34,6 +43,7 @@ DesktopServices makeDesktopServices(Scheduler &scheduler, std::optional<CameraHo
     services.workspace = std::make_unique<LinuxWorkspace>(connection);
     services.sounds = std::make_unique<CanberraSounds>(EventSoundSetting::ofDesktop(connection));
     services.pasteboard = makePasteboard(scheduler, connection);
+    services.hotKeys = makeHotKeys(connection);
     services.filePromises = std::make_unique<DesktopFilePromises>(connection);
     if (!connection) {
         services.inputMonitor = std::make_unique<QtInputMonitor>();

@@ -3,6 +3,7 @@
 #include "base/Scheduler.h"
 #include "platform/Displays.h"
 #include "platform/FilePromises.h"
+#include "platform/HotKeys.h"
 #include "platform/HotZones.h"
 #include "platform/InputMonitor.h"
 #include "platform/PanelWindows.h"
@@ -23,6 +24,7 @@ struct DesktopServices {
     std::unique_ptr<InputMonitor> inputMonitor;
     std::unique_ptr<PanelWindows> panelWindows;
     std::unique_ptr<HotZones> hotZones;
+    std::unique_ptr<HotKeys> hotKeys;
     std::unique_ptr<Sounds> sounds;
     std::unique_ptr<Pasteboard> pasteboard;
     std::unique_ptr<FilePromises> filePromises;

@@ -1,5 +1,7 @@
 #include "platform/linux/recognition/EngineLanguages.h"
 
+#include <algorithm>
+
 namespace tembra {
 
 namespace {
@@ -23,7 +25,43 @@ QString engineLanguage(const QLocale &locale) {
     }
 }
 
+QLocale localeOf(const QString &language) {
+    const QLocale::Language known = QLocale::codeToLanguage(language.section(u'_', 0, 0));
+    // As its engine's name tells the Latin script.
+    if (language.endsWith(QStringLiteral("_latn")))
+        return {known, QLocale::LatinScript, QLocale::AnyTerritory};
+    return known == QLocale::AnyLanguage ? QLocale::c() : QLocale(known);
+}
+
+bool isLatin(const QString &language) {
+    return localeOf(language).script() == QLocale::LatinScript;
+}
+
 } // namespace
+
+QStringList inReadingOrder(QStringList languages) {
+    std::stable_partition(languages.begin(), languages.end(), isLatin);
+    return languages;
+}
+
+QString languageName(const QString &language) {
+    if (language == u"chi_sim")
+        return QStringLiteral("简体中文");
+    if (language == u"chi_tra")
+        return QStringLiteral("繁體中文");
+    const QLocale locale = localeOf(language);
+    if (locale.language() == QLocale::C)
+        return language;
+    // Some territories have a name of their own for it, which is longer.
+    QString name = locale.nativeLanguageName();
+    for (const QLocale &variant :
+         QLocale::matchingLocales(locale.language(), locale.script(), QLocale::AnyTerritory)) {
+        const QString other = variant.nativeLanguageName();
+        if (!other.isEmpty() && (name.isEmpty() || other.size() < name.size()))
+            name = other;
+    }
+    return name.isEmpty() ? language : locale.toUpper(name.left(1)) + name.mid(1);
+}
 
 QStringList engineLanguages(const QStringList &localeNames) {
     // Each one makes reading slower.

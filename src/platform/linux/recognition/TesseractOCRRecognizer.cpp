@@ -8,6 +8,9 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QProcess>
+
+#include <algorithm>
 
 namespace tembra {
 
@@ -76,7 +79,7 @@ void report(RecognitionWorker::Fault fault, const QStringList &languages) {
 
 TesseractOCRRecognizer::TesseractOCRRecognizer(RecognitionWorker::Program program,
                                                std::chrono::milliseconds limit)
-    : m_program(std::move(program)), m_limit(limit) {}
+    : m_usualLanguages(program.languages), m_limit(limit), m_program(std::move(program)) {}
 
 // Beside the program where it is built, else where it is installed.
 RecognitionWorker::Program TesseractOCRRecognizer::installedWorker() {
@@ -95,7 +98,8 @@ RecognitionWorker::Program TesseractOCRRecognizer::installedWorker() {
 
 Result<std::vector<TextRecognizer::Line>>
 TesseractOCRRecognizer::recognize(const QImage &image, const Cancellation &cancellation) const {
-    if (m_program.file.isEmpty()) {
+    const RecognitionWorker::Program worker = program();
+    if (worker.file.isEmpty()) {
         qWarning("No text is recognized: tembra-recognition is not installed");
         return recognitionFailure(unavailable);
     }
@@ -109,20 +113,21 @@ TesseractOCRRecognizer::recognize(const QImage &image, const Cancellation &cance
                  qUtf8Printable(picture.error().message));
         return recognitionFailure(notRecognized);
     }
-    const auto answer = read(*picture, cancellation);
+    const auto answer = read(worker, *picture, cancellation);
     if (!answer) {
-        report(answer.error(), m_program.languages);
+        report(answer.error(), worker.languages);
         return recognitionFailure(codeOf(answer.error()));
     }
     auto lines = recognizedText(*answer);
     if (!lines) {
-        report(Fault::broken, m_program.languages);
+        report(Fault::broken, worker.languages);
         return recognitionFailure(notRecognized);
     }
     return std::move(*lines);
 }
 
-RecognitionWorker::Outcome<QByteArray> TesseractOCRRecognizer::read(const Descriptor &picture,
+RecognitionWorker::Outcome<QByteArray> TesseractOCRRecognizer::read(const RecognitionWorker::Program &program,
+                                                                    const Descriptor &picture,
                                                                     const Cancellation &cancellation) const {
     RecognitionWorker::Outcome<QByteArray> answer = tl::unexpected(Fault::gone);
     std::unique_ptr<RecognitionWorker> worker = takeIdleWorker();
@@ -130,9 +135,9 @@ RecognitionWorker::Outcome<QByteArray> TesseractOCRRecognizer::read(const Descri
         answer = worker->read(picture, m_limit, cancellation);
     // It may have ended since.
     if (!answer && answer.error() == Fault::gone) {
-        auto started = RecognitionWorker::start(m_program);
+        auto started = RecognitionWorker::start(program);
         if (!started) {
-            qWarning("%s cannot be started: %s", qUtf8Printable(m_program.file),
+            qWarning("%s cannot be started: %s", qUtf8Printable(program.file),
                      qUtf8Printable(started.error().message));
             return tl::unexpected(Fault::notStarted);
         }
@@ -140,7 +145,7 @@ RecognitionWorker::Outcome<QByteArray> TesseractOCRRecognizer::read(const Descri
         answer = worker->read(picture, m_limit, cancellation);
     }
     if (answer)
-        keep(std::move(worker));
+        keep(std::move(worker), program.languages);
     return answer;
 }
 
@@ -149,9 +154,46 @@ std::unique_ptr<RecognitionWorker> TesseractOCRRecognizer::takeIdleWorker() cons
     return std::move(m_idleWorker);
 }
 
-void TesseractOCRRecognizer::keep(std::unique_ptr<RecognitionWorker> worker) const {
+void TesseractOCRRecognizer::keep(std::unique_ptr<RecognitionWorker> worker,
+                                  const QStringList &languages) const {
     const std::lock_guard lock(m_lock);
-    std::swap(m_idleWorker, worker);
+    if (languages == m_program.languages)
+        std::swap(m_idleWorker, worker);
+}
+
+RecognitionWorker::Program TesseractOCRRecognizer::program() const {
+    const std::lock_guard lock(m_lock);
+    return m_program;
+}
+
+void TesseractOCRRecognizer::setLanguages(const QStringList &codes) {
+    std::unique_ptr<RecognitionWorker> former;
+    const std::lock_guard lock(m_lock);
+    const QStringList languages = codes.isEmpty() ? m_usualLanguages : inReadingOrder(codes);
+    if (languages == m_program.languages)
+        return;
+    m_program.languages = languages;
+    former = std::move(m_idleWorker);
+}
+
+Result<std::vector<TextRecognizer::Language>> TesseractOCRRecognizer::installedLanguages() const {
+    constexpr int patience = 10'000;
+    QProcess worker;
+    worker.start(program().file, {QString::fromLatin1(recognition::languagesOption)});
+    if (!worker.waitForFinished(patience) || worker.exitStatus() != QProcess::NormalExit ||
+        worker.exitCode() != 0)
+        return recognitionFailure(unavailable);
+    std::vector<Language> languages;
+    const QStringList codes =
+        QString::fromUtf8(worker.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
+    if (codes.isEmpty())
+        return recognitionFailure(noLanguage);
+    for (const QString &code : codes)
+        languages.push_back({code, languageName(code)});
+    std::sort(languages.begin(), languages.end(), [](const Language &a, const Language &b) {
+        return QString::localeAwareCompare(a.name, b.name) < 0;
+    });
+    return languages;
 }
 
 } // namespace tembra

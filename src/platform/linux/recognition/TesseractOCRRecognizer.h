@@ -21,19 +21,27 @@ public:
 
     [[nodiscard]] Result<std::vector<Line>> recognize(const QImage &image,
                                                       const Cancellation &cancellation) const override;
+    [[nodiscard]] Result<std::vector<Language>> installedLanguages() const override;
+    [[nodiscard]] QStringList usualLanguages() const override { return m_usualLanguages; }
+    void setLanguages(const QStringList &codes) override;
 
 private:
     using Fault = RecognitionWorker::Fault;
 
-    [[nodiscard]] RecognitionWorker::Outcome<QByteArray> read(const Descriptor &picture,
+    [[nodiscard]] RecognitionWorker::Outcome<QByteArray> read(const RecognitionWorker::Program &program,
+                                                              const Descriptor &picture,
                                                               const Cancellation &cancellation) const;
     [[nodiscard]] std::unique_ptr<RecognitionWorker> takeIdleWorker() const;
-    // The latest stays, no other.
-    void keep(std::unique_ptr<RecognitionWorker> worker) const;
+    // The latest stays, no other, and only while its languages are the ones to be read.
+    void keep(std::unique_ptr<RecognitionWorker> worker, const QStringList &languages) const;
 
-    const RecognitionWorker::Program m_program;
+    // With the languages that are to be read now.
+    [[nodiscard]] RecognitionWorker::Program program() const;
+
+    const QStringList m_usualLanguages;
     const std::chrono::milliseconds m_limit;
     mutable std::mutex m_lock;
+    RecognitionWorker::Program m_program;
     mutable std::unique_ptr<RecognitionWorker> m_idleWorker;
 };
 

@@ -24,6 +24,8 @@ struct PictureHeader {
 
 inline constexpr char takenMark[] = "taken\n";
 inline constexpr char endMark[] = "end\n";
+// Started with it alone, the worker names the languages that are installed, a line each, and ends.
+inline constexpr char languagesOption[] = "--languages";
 inline constexpr char noLanguageMark[] = "no language\n";
 
 } // namespace tembra::recognition

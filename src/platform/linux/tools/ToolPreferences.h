@@ -11,6 +11,7 @@ class ToolPreferences : public ScreenCapturePreferences {
 public:
     [[nodiscard]] std::optional<QString> target() const override { return std::nullopt; }
     [[nodiscard]] std::optional<QString> name() const override { return std::nullopt; }
+    [[nodiscard]] bool hasThumbnail() const override { return false; }
     [[nodiscard]] std::optional<bool> showThumbnail() const override { return std::nullopt; }
     void setTarget(const std::optional<QString> &) override {}
     Result<void> setShowThumbnail(std::optional<bool> show) override;

@@ -66,8 +66,8 @@ bool isCheckBox(const PixelBox &box) {
     return std::max(box.width(), box.height()) <= largestBox;
 }
 
-// Holds a row against the paper that is nearest in it; gives false where it has none.
-bool markInk(const std::uint8_t *grey, const std::vector<bool> &papers, const std::int32_t *numbers,
+// Holds a row against the paper that is nearest in it; where it has none there is no ink.
+void markInk(const std::uint8_t *grey, const std::vector<bool> &papers, const std::int32_t *numbers,
              int width, std::uint8_t *ink) {
     int last = -1;
     for (int x = 0; x <= width; ++x) {
@@ -78,12 +78,11 @@ bool markInk(const std::uint8_t *grey, const std::vector<bool> &papers, const st
             const bool isLastNearer = last >= 0 && (next < 0 || i - last <= next - i);
             const int nearest = isLastNearer ? last : next;
             if (nearest < 0)
-                return false;
+                return;
             ink[i] = static_cast<std::uint8_t>(std::abs(int{grey[i]} - int{grey[nearest]}));
         }
         last = x;
     }
-    return true;
 }
 
 } // namespace
@@ -99,8 +98,8 @@ GreyPicture inkPicture(const GreyPicture &grey) {
         papers[i] = isPaper(areas.boxes[i], frames[i]);
     GreyPicture ink(grey.width, grey.height);
     for (int y = 0; y < grey.height; ++y)
-        (void)markInk(grey.row(y), papers, areas.numbers.data() + std::ptrdiff_t{y} * grey.width, grey.width,
-                      ink.row(y));
+        markInk(grey.row(y), papers, areas.numbers.data() + std::ptrdiff_t{y} * grey.width, grey.width,
+                ink.row(y));
     for (size_t i = 0; i < papers.size(); ++i) {
         const PixelBox &box = areas.boxes[i];
         for (int y = box.top; papers[i] && isCheckBox(box) && y < box.bottom; ++y)

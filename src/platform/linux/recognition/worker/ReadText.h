@@ -13,11 +13,6 @@ struct TextBox {
     double right = 0;
     double bottom = 0;
 
-    [[nodiscard]] double area() const { return std::max(0.0, right - left) * std::max(0.0, bottom - top); }
-    [[nodiscard]] TextBox common(const TextBox &other) const {
-        return {std::max(left, other.left), std::max(top, other.top), std::min(right, other.right),
-                std::min(bottom, other.bottom)};
-    }
     [[nodiscard]] TextBox united(const TextBox &other) const {
         return {std::min(left, other.left), std::min(top, other.top), std::max(right, other.right),
                 std::max(bottom, other.bottom)};

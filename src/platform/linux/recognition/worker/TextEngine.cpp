@@ -42,13 +42,6 @@ PixelBox boxAround(const TextSegment &segment) {
             segment.box.bottom + static_cast<int>(std::lround(missing - above + around + 1))};
 }
 
-std::uint8_t strongestInk(const GreyPicture &ink, const PixelBox &box) {
-    std::uint8_t strongest = 1;
-    for (int y = box.top; y < box.bottom; ++y)
-        strongest = std::max(strongest, *std::max_element(ink.row(y) + box.left, ink.row(y) + box.right));
-    return strongest;
-}
-
 // As dark as ink gets here is black.
 Cutting cuttingOf(const GreyPicture &ink, const TextSegment &segment) {
     Cutting cutting{{}, boxAround(segment), 1};
@@ -56,7 +49,7 @@ Cutting cuttingOf(const GreyPicture &ink, const TextSegment &segment) {
     const PixOwner picture(pixCreate(box.width(), box.height(), 8));
     if (!picture || pixSetAllArbitrary(picture.get(), 255) != 0)
         return cutting;
-    const int strongest = strongestInk(ink, segment.box);
+    const int strongest = std::max(1, segment.strongest);
     // With the soft edges of the letters.
     constexpr int edge = 2;
     const PixelBox shown{std::max({0, box.left, segment.box.left - edge}),
@@ -99,6 +92,17 @@ std::string currentText(const tesseract::ResultIterator &at) {
 }
 
 } // namespace
+
+std::vector<std::string> TextEngine::installedLanguages() {
+    tesseract::TessBaseAPI engine;
+    // It looks for its data where it finds those of one of them, whichever.
+    engine.Init(nullptr, nullptr, tesseract::OEM_LSTM_ONLY);
+    std::vector<std::string> languages;
+    engine.GetAvailableLanguagesAsVector(&languages);
+    // Tells how a page is turned, and reads nothing.
+    std::erase(languages, "osd");
+    return languages;
+}
 
 TextEngine::TextEngine(const std::string &languages) {
     m_isUsable = m_engine.Init(nullptr, languages.c_str(), tesseract::OEM_LSTM_ONLY) == 0;

@@ -15,6 +15,9 @@ public:
     // `languages` as the engine names them, joined by "+"; those that are not installed are passed over.
     explicit TextEngine(const std::string &languages);
 
+    // As the engine names them.
+    [[nodiscard]] static std::vector<std::string> installedLanguages();
+
     // False where none of the languages is installed.
     [[nodiscard]] bool isUsable() const { return m_isUsable; }
     // The words of a segment of the ink picture, in its pixels, with boxes around the ink; nothing when the

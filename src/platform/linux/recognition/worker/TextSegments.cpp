@@ -194,11 +194,10 @@ std::vector<Chain> chainsOf(const std::vector<PixelBox> &letters, const std::vec
 
 TextSegment measured(const GreyPicture &ink, const PixelBox &box) {
     TextSegment segment{box, box.top, box.bottom, faintest};
-    int strongest = 0;
     for (int y = box.top; y < box.bottom; ++y)
-        strongest =
-            std::max<int>(strongest, *std::max_element(ink.row(y) + box.left, ink.row(y) + box.right));
-    segment.threshold = std::max(faintest, static_cast<int>(std::lround(edge * strongest)));
+        segment.strongest = std::max<int>(segment.strongest,
+                                          *std::max_element(ink.row(y) + box.left, ink.row(y) + box.right));
+    segment.threshold = std::max(faintest, static_cast<int>(std::lround(edge * segment.strongest)));
     std::vector<int> counts;
     for (int y = box.top; y < box.bottom; ++y)
         counts.push_back(

@@ -10,8 +10,9 @@ struct TextSegment {
     // The rows that most of the letters fill, from the baseline up.
     int coreTop = 0;
     int coreBottom = 0;
-    // Ink stands out at least so much.
+    // Ink stands out at least so much, and nowhere more than the strongest.
     int threshold = 0;
+    int strongest = 0;
 };
 
 // What looks like text in an ink picture. Image space.

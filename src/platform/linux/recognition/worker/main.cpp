@@ -5,9 +5,12 @@
 #include "platform/linux/recognition/WorkerProtocol.h"
 #include "platform/linux/recognition/worker/PageReader.h"
 #include "platform/linux/recognition/worker/PictureSocket.h"
+#include "platform/linux/recognition/worker/TextEngine.h"
 
 #include <csignal>
+#include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <ctime>
 #include <fstream>
 #include <leptonica/allheaders.h>
@@ -50,10 +53,19 @@ void limitTime() {
     setrlimit(RLIMIT_CPU, &time);
 }
 
+int nameLanguages() {
+    const std::vector<std::string> languages = TextEngine::installedLanguages();
+    for (const std::string &language : languages)
+        std::printf("%s\n", language.c_str());
+    return EXIT_SUCCESS;
+}
+
 } // namespace
 
 int main(int argc, char **argv) {
     limitItself();
+    if (argc == 2 && std::strcmp(argv[1], languagesOption) == 0)
+        return nameLanguages();
     if (argc != 3)
         return EXIT_FAILURE;
     setMsgSeverity(L_SEVERITY_NONE);
