@@ -58,11 +58,8 @@ QAccessibleInterface *accessibleControl(const QString &, QObject *object) {
 } // namespace
 
 void installAccessibleControls() {
-    static const bool installed = [] {
-        QAccessible::installFactory(accessibleControl);
-        return true;
-    }();
-    Q_UNUSED(installed)
+    // Qt keeps each factory once.
+    QAccessible::installFactory(accessibleControl);
 }
 
 } // namespace tembra

@@ -42,15 +42,24 @@ void TembraSettingsRow::setTitle(const QString &title) {
     if (title == m_title)
         return;
     m_title = title;
-    nameControl();
-    updateGeometry();
-    update();
+    textChanged();
 }
 
 void TembraSettingsRow::setDetail(const QString &detail) {
     if (detail == m_detail)
         return;
     m_detail = detail;
+    textChanged();
+}
+
+void TembraSettingsRow::setProblem(const QString &problem) {
+    if (problem == m_problem)
+        return;
+    m_problem = problem;
+    textChanged();
+}
+
+void TembraSettingsRow::textChanged() {
     nameControl();
     updateGeometry();
     update();
@@ -60,7 +69,7 @@ void TembraSettingsRow::nameControl() {
     if (!m_control)
         return;
     m_control->setAccessibleName(m_title);
-    m_control->setAccessibleDescription(m_detail);
+    m_control->setAccessibleDescription(note());
 }
 
 int TembraSettingsRow::textWidth(int width) const {
@@ -69,10 +78,10 @@ int TembraSettingsRow::textWidth(int width) const {
 }
 
 int TembraSettingsRow::detailHeight(int width) const {
-    if (m_detail.isEmpty())
+    if (note().isEmpty())
         return 0;
     const QRect room(0, 0, textWidth(width), 10'000);
-    return lineGap + detailMetrics().boundingRect(room, Qt::TextWordWrap, m_detail).height();
+    return lineGap + detailMetrics().boundingRect(room, Qt::TextWordWrap, note()).height();
 }
 
 int TembraSettingsRow::heightForWidth(int width) const {
@@ -132,8 +141,8 @@ void TembraSettingsRow::paintEvent(QPaintEvent *) {
         return;
     text.setTop(text.top() + titleHeight + lineGap);
     painter.setFont(typography::font(typography::itemSize));
-    painter.setPen(theme.secondaryText);
-    painter.drawText(text, static_cast<int>(leading | Qt::AlignTop) | Qt::TextWordWrap, m_detail);
+    painter.setPen(m_problem.isEmpty() ? theme.secondaryText : theme.invalid);
+    painter.drawText(text, static_cast<int>(leading | Qt::AlignTop) | Qt::TextWordWrap, note());
 }
 
 } // namespace tembra

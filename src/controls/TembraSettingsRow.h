@@ -16,6 +16,8 @@ public:
     void setTitle(const QString &title);
     [[nodiscard]] const QString &detail() const { return m_detail; }
     void setDetail(const QString &detail);
+    // What went wrong with it, in place of the detail; empty when nothing did.
+    void setProblem(const QString &problem);
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
@@ -30,11 +32,15 @@ protected:
 private:
     void layOut();
     void nameControl();
+    void textChanged();
+    // What stands under the title.
+    [[nodiscard]] const QString &note() const { return m_problem.isEmpty() ? m_detail : m_problem; }
     [[nodiscard]] int detailHeight(int width) const;
     [[nodiscard]] int textWidth(int width) const;
 
     QString m_title;
     QString m_detail;
+    QString m_problem;
     QWidget *m_control;
 };
 

@@ -55,6 +55,16 @@ bool moveInto(const QDir &folder, const QFileInfo &file, const ScreenshotCapture
     }
 }
 
+// In the folder itself; recordings stay where they are.
+QFileInfoList screenshotsIn(const QString &folder, const ScreenshotCaptureDetector &detector,
+                            const QString &customPrefix) {
+    QFileInfoList files = QDir(folder).entryInfoList(QDir::Files | QDir::Hidden | QDir::NoSymLinks);
+    files.removeIf([&](const QFileInfo &file) {
+        return detector.isVideoName(file.fileName()) || !detector.isCapture(file.filePath(), customPrefix);
+    });
+    return files;
+}
+
 } // namespace
 
 Result<void> DesktopScreenshotOrganizer::createFolder(const QString &folder) {
@@ -73,9 +83,16 @@ Result<void> DesktopScreenshotOrganizer::createFolder(const QString &folder) {
         sentence(QT_TRANSLATE_NOOP("DesktopScreenshotOrganizer", "The folder “%1” cannot be made."), folder));
 }
 
+int DesktopScreenshotOrganizer::countScreenshots(const QString &folder,
+                                                 const ScreenshotCaptureDetector &detector,
+                                                 const QString &customPrefix) {
+    return static_cast<int>(screenshotsIn(folder, detector, customPrefix).size());
+}
+
 Result<DesktopScreenshotOrganizer::Report>
 DesktopScreenshotOrganizer::moveScreenshots(const QString &from, const QString &to,
-                                            const ScreenshotCaptureDetector &detector) {
+                                            const ScreenshotCaptureDetector &detector,
+                                            const QString &customPrefix) {
     const QDir source(from);
     if (!source.exists() || !QFileInfo(from).isReadable())
         return cocoaFailure(
@@ -85,12 +102,9 @@ DesktopScreenshotOrganizer::moveScreenshots(const QString &from, const QString &
     Report report;
     if (isSameFolder(from, to))
         return report;
-    const QFileInfoList entries = source.entryInfoList(QDir::Files | QDir::Hidden | QDir::NoSymLinks);
-    for (const QFileInfo &file : entries) {
-        if (detector.isVideoName(file.fileName()) || !detector.isCapture(file.filePath()))
-            continue;
+    const QFileInfoList screenshots = screenshotsIn(from, detector, customPrefix);
+    for (const QFileInfo &file : screenshots)
         ++(moveInto(QDir(to), file, detector) ? report.moved : report.failed);
-    }
     return report;
 }
 

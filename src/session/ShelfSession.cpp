@@ -145,6 +145,13 @@ void ShelfSession::stopWatcher() {
     clipboard.stopMonitoring();
 }
 
+void ShelfSession::rereadFolder() {
+    if (!m_fileWatcher->isRunning())
+        return;
+    folderShelf().hasCompletedInitialScan = false;
+    m_fileWatcher->start(folderShelf());
+}
+
 void ShelfSession::applySettings() {
     const AppSettingsState &state = m_settings.state();
     screenshotAutoCopy.configure(state.automaticallyCopyScreenshots && isRunning, state.screenshotsFolder,

@@ -88,6 +88,8 @@ public:
     // another one than before.
     void refreshWatcher();
     void stopWatcher();
+    // Reads the folder anew, as at the start: nothing in it is new.
+    void rereadFolder();
     // Brings auto-copy and auto-clean in step with the settings.
     void applySettings();
 
@@ -111,6 +113,8 @@ public:
 
     // How many files the period would move now; nothing is touched.
     void previewAutoClean(ScreenshotAutoCleanPeriod period, std::function<void(Result<int>)> completion);
+    // Sets a period that the user has agreed to, knowing how much it moves, and moves that at once.
+    void enableAutoClean(ScreenshotAutoCleanPeriod period);
     void runAutoCleanCheck(Instant now, bool allowSettings);
     void cancelAutoClean();
     void restartAutoClean();

@@ -1,6 +1,7 @@
 // Before auto-clean moves anything for the first time the user is told how much that is, and may switch it
 // off.
 
+#include "base/MainThread.h"
 #include "session/ShelfSession.h"
 #include "settings/AppSettings.h"
 #include "settings/SettingsKeys.h"
@@ -89,7 +90,13 @@ void ShelfSession::reviewDecided(bool keeps, ScreenshotAutoCleanPeriod period,
         m_settings.setScreenshotAutoClean(ScreenshotAutoCleanPeriod::never);
         return restartAutoClean();
     }
+    enableAutoClean(period);
+}
+
+void ShelfSession::enableAutoClean(ScreenshotAutoCleanPeriod period) {
+    requireMainThread();
     setAutoCleanReview(AutoCleanReview::reviewed);
+    m_settings.setScreenshotAutoClean(period);
     restartAutoClean();
     runAutoCleanCheck(m_services.now(), true);
 }

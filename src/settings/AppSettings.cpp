@@ -133,6 +133,11 @@ void AppSettings::setGroupScreenshotsByDate(bool grouped) {
     setFlag(&AppSettingsState::groupScreenshotsByDate, settingsKey::groupScreenshotsByDate, grouped);
 }
 
+void AppSettings::setTextRecognitionLanguages(const QStringList &codes) {
+    assign(&AppSettingsState::textRecognitionLanguages, codes,
+           [&] { m_defaults.setStringArray(settingsKey::textRecognitionLanguages, codes); });
+}
+
 void AppSettings::setScreenshotAutoClean(ScreenshotAutoCleanPeriod period) {
     assign(&AppSettingsState::screenshotAutoClean, period, [&] {
         m_defaults.setInteger(settingsKey::screenshotAutoCleanDays, static_cast<int>(period));
@@ -191,8 +196,10 @@ void AppSettings::beginOnboarding() {
 
 void AppSettings::completeOnboarding() {
     requireMainThread();
-    if (m_state.hasFolderAccess)
-        setFlag(&AppSettingsState::hasCompletedOnboarding, settingsKey::hasCompletedOnboarding, true);
+    if (!m_state.hasFolderAccess || m_state.hasCompletedOnboarding)
+        return;
+    keepNewInstall(m_defaults, m_state);
+    setFlag(&AppSettingsState::hasCompletedOnboarding, settingsKey::hasCompletedOnboarding, true);
 }
 
 void AppSettings::markFirstScreenshotCaught() {

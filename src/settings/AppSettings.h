@@ -73,6 +73,8 @@ public:
     void setAutomaticallyOpenEditor(bool opens);
     void setShowFileNames(bool shown);
     void setGroupScreenshotsByDate(bool grouped);
+    // None means those of the desktop.
+    void setTextRecognitionLanguages(const QStringList &codes);
     void setScreenshotAutoClean(ScreenshotAutoCleanPeriod period);
     // Switches the screenshot tool's floating thumbnail off, or back to how it was before.
     Result<void> setScreenshotPreviewDisabled(bool disabled);

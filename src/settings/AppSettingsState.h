@@ -6,6 +6,7 @@
 #include "settings/ScreenshotAutoCleanPeriod.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -36,6 +37,8 @@ struct AppSettingsState {
     bool automaticallyOpenEditor = false;
     bool showFileNames = true;
     bool groupScreenshotsByDate = false;
+    // As the text recognition names them; none means those of the desktop.
+    QStringList textRecognitionLanguages;
     ScreenshotAutoCleanPeriod screenshotAutoClean = ScreenshotAutoCleanPeriod::never;
 
     bool operator==(const AppSettingsState &) const = default;

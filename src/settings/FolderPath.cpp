@@ -14,4 +14,8 @@ bool isSameFolder(const QString &a, const QString &b) {
     return a == b || withoutLinks(a) == withoutLinks(b);
 }
 
+QString withHomeShort(const QString &path, const QString &home) {
+    return path == home || path.startsWith(home + u'/') ? u'~' + path.mid(home.size()) : path;
+}
+
 } // namespace tembra

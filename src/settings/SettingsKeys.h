@@ -21,6 +21,7 @@ inline const QString automaticallyOpenEditor = QStringLiteral("automaticallyOpen
 inline const QString showFileNames = QStringLiteral("showFileNames");
 inline const QString groupScreenshotsByDate = QStringLiteral("groupScreenshotsByDate");
 inline const QString screenshotAutoCleanDays = QStringLiteral("screenshotAutoCleanDays");
+inline const QString textRecognitionLanguages = QStringLiteral("textRecognitionLanguages");
 inline const QString pinnedScreenshotBookmarks = QStringLiteral("pinnedScreenshotBookmarks");
 inline const QString autoCleanRestoredFiles = QStringLiteral("autoCleanRestoredFiles");
 // The review of an auto-clean that was on before the review existed: 0 still owed to the user, 1 shown but

@@ -28,6 +28,8 @@ AppSettingsState loadSettings(const UserDefaults &defaults) {
     read(settingsKey::automaticallyOpenEditor, state.automaticallyOpenEditor);
     read(settingsKey::showFileNames, state.showFileNames);
     read(settingsKey::groupScreenshotsByDate, state.groupScreenshotsByDate);
+    state.textRecognitionLanguages =
+        defaults.stringArray(settingsKey::textRecognitionLanguages).value_or(QStringList());
     state.screenshotAutoClean =
         autoCleanPeriodFromDays(defaults.integer(settingsKey::screenshotAutoCleanDays).value_or(0));
     return state;

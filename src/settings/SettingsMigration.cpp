@@ -1,6 +1,7 @@
 #include "settings/SettingsMigration.h"
 
 #include "platform/UserDefaults.h"
+#include "settings/AppSettingsState.h"
 #include "settings/FolderPreferences.h"
 #include "settings/SettingsKeys.h"
 
@@ -15,6 +16,13 @@ void migrateExistingInstall(UserDefaults &defaults, const FolderPreferences &fol
         defaults.setBoolean(settingsKey::hoverOnTabToOpen, true);
     if (!defaults.contains(settingsKey::automaticallyCopyScreenshots))
         defaults.setBoolean(settingsKey::automaticallyCopyScreenshots, false);
+}
+
+void keepNewInstall(UserDefaults &defaults, const AppSettingsState &state) {
+    if (!defaults.contains(settingsKey::hoverOnTabToOpen))
+        defaults.setBoolean(settingsKey::hoverOnTabToOpen, state.hoverOnTabToOpen);
+    if (!defaults.contains(settingsKey::automaticallyCopyScreenshots))
+        defaults.setBoolean(settingsKey::automaticallyCopyScreenshots, state.automaticallyCopyScreenshots);
 }
 
 void markAutoCleanSafetyReview(UserDefaults &defaults) {

@@ -165,6 +165,17 @@ TEST_F(AppSettingsLoading, anExistingInstallKeepsHowItBehavedUnlessTheUserChose)
     }
 }
 
+TEST_F(AppSettingsLoading, aNewInstallBehavesAfterItsOnboardingAsBefore) {
+    start();
+    const AppSettingsState before = m_settings->state();
+    EXPECT_TRUE(m_settings->grantScreenshotsFolder(makeFolder("shots"), false, false));
+    m_settings->completeOnboarding();
+    start();
+    EXPECT_TRUE(m_settings->state().hasCompletedOnboarding);
+    EXPECT_EQ(m_settings->state().hoverOnTabToOpen, before.hoverOnTabToOpen);
+    EXPECT_EQ(m_settings->state().automaticallyCopyScreenshots, before.automaticallyCopyScreenshots);
+}
+
 TEST_F(AppSettingsLoading, theSafetyReviewIsOwedOnlyWhereAutoCleanWasOnBeforeIt) {
     struct Case {
         const char *name;

@@ -53,6 +53,11 @@ TEST_F(AppSettingsChanges, eachSetterStoresItsKeyAndEmitsTheWholeStateOnce) {
         flag("showFileNames", &AppSettings::setShowFileNames, &State::showFileNames, false),
         flag("groupScreenshotsByDate", &AppSettings::setGroupScreenshotsByDate,
              &State::groupScreenshotsByDate, true),
+        {"textRecognitionLanguages", QStringList{QStringLiteral("deu")},
+         [](AppSettings &settings) {
+             settings.setTextRecognitionLanguages({QStringLiteral("deu")});
+         },
+         [](State &state) { state.textRecognitionLanguages = {QStringLiteral("deu")}; }},
         {"screenshotAutoCleanDays", qint64{30},
          [](AppSettings &settings) {
              settings.setScreenshotAutoClean(ScreenshotAutoCleanPeriod::thirtyDays);

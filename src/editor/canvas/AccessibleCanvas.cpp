@@ -137,11 +137,8 @@ QAccessibleInterface *accessibleCanvas(const QString &, QObject *object) {
 } // namespace
 
 void installAccessibleCanvas() {
-    static const bool installed = [] {
-        QAccessible::installFactory(accessibleCanvas);
-        return true;
-    }();
-    Q_UNUSED(installed)
+    // Qt keeps each factory once.
+    QAccessible::installFactory(accessibleCanvas);
 }
 
 } // namespace tembra

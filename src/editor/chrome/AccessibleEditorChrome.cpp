@@ -29,11 +29,8 @@ QAccessibleInterface *accessibleChrome(const QString &, QObject *object) {
 } // namespace
 
 void installAccessibleEditorChrome() {
-    static const bool installed = [] {
-        QAccessible::installFactory(accessibleChrome);
-        return true;
-    }();
-    Q_UNUSED(installed)
+    // Qt keeps each factory once.
+    QAccessible::installFactory(accessibleChrome);
 }
 
 } // namespace tembra

@@ -34,7 +34,6 @@ OCRController::~OCRController() {
 void OCRController::recognize(const OCRInput &input) {
     requireMainThread();
     cancelTask();
-    m_picture = {};
     enter(OCRState::Loading{});
     m_task = m_recognizer.recognize(input, [this, &scheduler = m_scheduler,
                                             ticket = m_generation.ticket()](Result<OCRRecognition> result) {
@@ -48,7 +47,6 @@ void OCRController::recognize(const OCRInput &input) {
 void OCRController::reset() {
     requireMainThread();
     cancelTask();
-    m_picture = {};
     enter(OCRState::Idle{});
 }
 
@@ -83,6 +81,8 @@ void OCRController::cancelTask() {
 
 void OCRController::enter(OCRState::Phase phase) {
     m_state.phase = std::move(phase);
+    if (!std::holds_alternative<OCRState::Text>(m_state.phase))
+        m_picture = {};
     if (onStateChange)
         onStateChange();
 }

@@ -20,11 +20,11 @@ QByteArray encoded(const QImage &pixels) {
 
 std::optional<OCRInput> OCRInput::read(const QMimeData &pasteboard) {
     const QStringList files = filesOn(pasteboard);
+    const bool isImage = hasImage(pasteboard);
     // A text beside an image may be a path by chance.
-    const bool prefersFile = pasteboard.hasUrls() || !hasImage(pasteboard);
-    if (!files.isEmpty() && prefersFile)
+    if (!files.isEmpty() && (pasteboard.hasUrls() || !isImage))
         return OCRInput{File{files.first()}};
-    if (!hasImage(pasteboard))
+    if (!isImage)
         return std::nullopt;
     const PasteboardImage image = imageOn(pasteboard);
     QByteArray bytes = image.bytes.isEmpty() ? encoded(image.pixels) : image.bytes;

@@ -1,5 +1,6 @@
 #include "recognition/model/OCRRecognizer.h"
 
+#include "base/Cancellation.h"
 #include "platform/TextRecognizer.h"
 #include "recognition/model/OCRPicture.h"
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "base/Cancellation.h"
 #include "base/SerialQueue.h"
 #include "recognition/model/OCRRecognizing.h"
 

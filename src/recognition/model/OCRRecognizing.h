@@ -17,8 +17,8 @@ public:
 
     virtual ~OCRRecognizing() = default;
     // Returns at once. The completion is called exactly once, not on the main thread; never where the task
-    // was cancelled before the work began. An image without text is a success. Errors: OCRPictureError,
-    // TextRecognizer::errorDomain. Dropping the task does not cancel it.
+    // was cancelled before the work began. An image without text is a success. Errors:
+    // OCRPicture::errorDomain, TextRecognizer::errorDomain. Dropping the task does not cancel it.
     virtual std::shared_ptr<OCRRecognitionTask> recognize(const OCRInput &input, Completion completion) = 0;
 };
 

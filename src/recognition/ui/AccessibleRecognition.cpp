@@ -24,11 +24,8 @@ QAccessibleInterface *accessibleView(const QString &, QObject *object) {
 } // namespace
 
 void installAccessibleRecognition() {
-    static const bool installed = [] {
-        QAccessible::installFactory(accessibleView);
-        return true;
-    }();
-    Q_UNUSED(installed)
+    // Qt keeps each factory once.
+    QAccessible::installFactory(accessibleView);
 }
 
 } // namespace tembra
