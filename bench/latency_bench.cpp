@@ -7,10 +7,10 @@
 #include "base/QtScheduler.h"
 #include "base/ThreadQueue.h"
 #include "platform/Platform.h"
-#include "recognition/model/OCRRecognizer.h"
 #include "platform/linux/LinuxCaptureMarkers.h"
 #include "platform/linux/LinuxFileFacts.h"
 #include "platform/linux/LinuxFolderFiles.h"
+#include "recognition/model/OCRRecognizer.h"
 #include "screenshots/FileWatcherService.h"
 #include "screenshots/FolderReader.h"
 #include "shelf/ShelfContent.h"
@@ -99,6 +99,7 @@ int main(int argc, char **argv) {
                                  *platform.inputMonitor,
                                  *platform.panelWindows,
                                  *platform.hotZones,
+                                 *platform.hotKeys,
                                  *platform.pasteboard,
                                  *platform.thumbnails,
                                  *platform.fileFacts,

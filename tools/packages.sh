@@ -6,9 +6,9 @@ build_packages=(
   libexpected-dev libglib2.0-dev
   libxcb1-dev libxcb-xfixes0-dev libxcb-xinput-dev libxcb-shape0-dev libxcb-xtest0-dev
   libwayland-dev
-  nlohmann-json3-dev libheif-dev libcanberra-dev libdeflate-dev libturbojpeg0-dev libexif-dev libssl-dev qt6-multimedia-dev
+  nlohmann-json3-dev libheif-dev libcanberra-dev libdeflate-dev libturbojpeg0-dev libexif-dev libssl-dev libsodium-dev qt6-multimedia-dev
   libtesseract-dev libleptonica-dev
-  libgtest-dev libgmock-dev libbenchmark-dev
+  libgtest-dev libgmock-dev libbenchmark-dev openssl
 )
 
 # What the program uses when it runs: image formats, its typeface, gsettings' storage, the language it reads in pictures.

@@ -3,6 +3,27 @@
 <TS version="2.1" language="en_US" sourcelanguage="en_US">
 <!-- Rewords what names a thing that Linux desktops do not have, and gives English its plurals. -->
 <context>
+    <name>AutoCleanChange</name>
+    <message numerus="yes">
+        <source>%n files will move to Trash when you click %1. Pinned files stay.</source>
+        <translation>
+            <numerusform>%n file will move to Trash when you click %1. Pinned files stay.</numerusform>
+            <numerusform>%n files will move to Trash when you click %1. Pinned files stay.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tembra::GeneralSettingsPage</name>
+    <message>
+        <source>Disabled in macOS. Allow Tembra in System Settings to launch at login.</source>
+        <translation>Disabled by your desktop. Allow Tembra in its startup settings to launch at login.</translation>
+    </message>
+    <message>
+        <source>Allow Tembra in System Settings to launch at login</source>
+        <translation>Allow Tembra in the startup settings to launch at login</translation>
+    </message>
+</context>
+<context>
     <name>CaptureNotification</name>
     <message numerus="yes">
         <source>%n captures</source>
@@ -16,6 +37,33 @@
         <translation>
             <numerusform>%n screenshot</numerusform>
             <numerusform>%n screenshots</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Onboarding</name>
+    <message numerus="yes">
+        <source>%n screenshots lie on your Desktop. Tembra can move them to the folder you chose.</source>
+        <translation>
+            <numerusform>%n screenshot lies on your Desktop. Tembra can move it to the folder you chose.</numerusform>
+            <numerusform>%n screenshots lie on your Desktop. Tembra can move them to the folder you chose.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tembra::OnboardingFlow</name>
+    <message numerus="yes">
+        <source>%n screenshots were moved from the Desktop.</source>
+        <translation>
+            <numerusform>%n screenshot was moved from the Desktop.</numerusform>
+            <numerusform>%n screenshots were moved from the Desktop.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n screenshots could not be moved and stay on the Desktop.</source>
+        <translation>
+            <numerusform>%n screenshot could not be moved and stays on the Desktop.</numerusform>
+            <numerusform>%n screenshots could not be moved and stay on the Desktop.</numerusform>
         </translation>
     </message>
 </context>

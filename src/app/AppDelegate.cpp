@@ -3,7 +3,11 @@
 #include "app/Alert.h"
 #include "app/AppFlowCoordinator.h"
 #include "app/CommandService.h"
+#include "app/MainMenu.h"
 #include "app/ScreenshotEditing.h"
+#include "app/SettingsPresenting.h"
+#include "app/UpdateAlerts.h"
+#include "app/UpdateConfiguring.h"
 #include "editor/model/EditorImageCopies.h"
 #include "editor/model/ScreenshotEditStore.h"
 #include "playback/PlaybackModule.h"
@@ -16,7 +20,9 @@
 #include "session/ShelfSession.h"
 #include "settings/AppSettings.h"
 #include "shelf/ShelfController.h"
+#include "updates/AppUpdater.h"
 
+#include <QAction>
 #include <QCoreApplication>
 
 namespace tembra {
@@ -37,28 +43,89 @@ AppDelegate::AppDelegate(Platform &platform, Scheduler &scheduler)
       m_editorImageQueue(QStringLiteral("Tembra.Editor.Images")),
       m_wordQueue(QStringLiteral("Tembra.Editor.WordRecognition")),
       m_ocrQueue(QStringLiteral("local.dova.Tembra.ocr")),
+      m_desktopQueue(QStringLiteral("Tembra.DesktopScreenshots")),
+      m_updateQueue(QStringLiteral("Tembra.Updates")),
       m_ocrRecognizer(*platform.textRecognizer, *platform.pictureDecoder, m_ocrQueue) {}
 
 AppDelegate::~AppDelegate() = default;
 
 void AppDelegate::applicationDidFinishLaunching() {
+    // It looks at what earlier versions left, so it comes before the settings migrate that.
+    m_updater = makeUpdater();
     m_settings = makeSettings();
     m_editStore = makeEditStore();
     m_imageCopies = std::make_unique<EditorImageCopies>(
         EditorImageCopies::folder(m_platform.folders),
         EditorImageCopies::Services{*m_platform.pasteboard, *m_platform.fileCoordinator, m_editorQueue,
                                     m_scheduler});
-    m_coordinator = std::make_unique<AppFlowCoordinator>(*m_settings, *m_platform.workspace,
-                                                         makeShelfController(), [this] { terminate(); });
+    const OnboardingServices onboarding{.folders = m_platform.folders,
+                                        .detector = m_captureDetector,
+                                        .customPrefix = makeCustomPrefix(),
+                                        .thumbnails = *m_platform.thumbnails,
+                                        .desktopQueue = m_desktopQueue,
+                                        .scheduler = m_scheduler};
+    m_coordinator = std::make_unique<AppFlowCoordinator>(
+        *m_settings, *m_platform.workspace, makeShelfController(), onboarding, [this] { terminate(); });
     m_coordinator->start();
     m_editing = makeEditing();
+    m_settingsWindow = makeSettingsWindow();
     m_commands = std::make_unique<CommandService>(
-        m_coordinator->shelfController(), [this] { return m_editing->status(); },
-        [this] { applicationShouldHandleReopen(); }, [this] { terminate(); });
+        m_coordinator->shelfController(),
+        CommandService::Hooks{
+            .status = [this] { return status(); },
+            .showSettings = [this](std::optional<SettingsPageId> page) { m_settingsWindow->show(page); },
+            .reopen = [this] { applicationShouldHandleReopen(); },
+            .quit = [this] { terminate(); }});
     ShelfController &shelf = m_coordinator->shelfController();
     m_editStore->onBadgesChanged = [this, &shelf] { shelf.setEditedScreenshots(m_editStore->badges()); };
     m_editStore->loadBadges({});
     m_imageCopies->discardAll();
+    connectUpdater();
+    m_updater->start();
+}
+
+ProgramStatus AppDelegate::status() const {
+    return {.version = QCoreApplication::applicationVersion(),
+            .shelf = m_coordinator->shelfController().status(),
+            .editor = m_editing->status(),
+            .onboarding = m_coordinator->onboardingStatus(),
+            .updates = m_updater->status(),
+            .settingsPage = m_settingsWindow->currentPage()};
+}
+
+std::unique_ptr<SettingsPresenting> AppDelegate::makeSettingsWindow() {
+    return std::make_unique<SettingsPresenting>(
+        SettingsPresenting::Services{.platform = m_platform,
+                                     .scheduler = m_scheduler,
+                                     .queue = m_ocrQueue,
+                                     .settings = *m_settings,
+                                     .shelf = m_coordinator->shelfController(),
+                                     .updater = *m_updater,
+                                     .onQuit = [this] { terminate(); }});
+}
+
+std::unique_ptr<AppUpdater> AppDelegate::makeUpdater() {
+    return std::make_unique<AppUpdater>(AppUpdater::Services{.defaults = *m_platform.defaults,
+                                                             .scheduler = m_scheduler,
+                                                             .now = systemNow,
+                                                             .workspace = *m_platform.workspace,
+                                                             .queue = m_updateQueue},
+                                        updateConfiguration(m_platform.folders));
+}
+
+void AppDelegate::connectUpdater() {
+    AppUpdater *updater = m_updater.get();
+    const MainMenu &menu = m_coordinator->mainMenu();
+    QAction *item = menu.action(QStringLiteral("checkForUpdates"));
+    const auto validate = [this, updater, item] {
+        item->setEnabled(updater->canCheck());
+        m_coordinator->shelfController().validateStatusMenu();
+    };
+    QObject::connect(&menu, &MainMenu::checkForUpdates, updater, &AppUpdater::checkForUpdates);
+    QObject::connect(updater, &AppUpdater::changed, item, validate);
+    validate();
+    m_updateAlerts = std::make_unique<UpdateAlerts>(*updater, *m_platform.workspace);
+    m_updateAlerts->isShownElsewhere = [this] { return m_settingsWindow->isShowing(SettingsPageId::about); };
 }
 
 std::unique_ptr<AppSettings> AppDelegate::makeSettings() {
@@ -123,6 +190,7 @@ std::unique_ptr<ShelfController> AppDelegate::makeShelfController() {
                                  .inputMonitor = *m_platform.inputMonitor,
                                  .panelWindows = *m_platform.panelWindows,
                                  .hotZones = *m_platform.hotZones,
+                                 .hotKeys = *m_platform.hotKeys,
                                  .pasteboard = *m_platform.pasteboard,
                                  .thumbnails = *m_platform.thumbnails,
                                  .files = *m_platform.fileFacts,
@@ -135,6 +203,8 @@ std::unique_ptr<ShelfController> AppDelegate::makeShelfController() {
         std::make_unique<ShelfController>(*m_settings, makeSession(), makeLocationMonitor(), services);
     controller->onError = showAlert;
     controller->onQuit = [this] { terminate(); };
+    controller->onCheckForUpdates = [this] { m_updater->checkForUpdates(); };
+    controller->canCheckForUpdates = [this] { return m_updater->canCheck(); };
     return controller;
 }
 
@@ -214,6 +284,8 @@ bool AppDelegate::applicationShouldTerminate() {
 }
 
 void AppDelegate::applicationWillTerminate() {
+    if (m_settingsWindow)
+        m_settingsWindow->close();
     if (m_coordinator)
         m_coordinator->stop();
 }

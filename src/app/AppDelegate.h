@@ -13,6 +13,7 @@ namespace tembra {
 
 class AppFlowCoordinator;
 class AppSettings;
+class AppUpdater;
 class CommandService;
 class EditorImageCopies;
 class FileWatcherService;
@@ -21,6 +22,9 @@ class ScreenshotEditing;
 class ScreenshotLocationMonitor;
 class ShelfController;
 class ShelfSession;
+class SettingsPresenting;
+class UpdateAlerts;
+struct ProgramStatus;
 
 // The composition root: makes the settings, then the flow, and answers the program's life-cycle questions.
 // Main thread; lives in main().
@@ -49,6 +53,11 @@ private:
     [[nodiscard]] std::unique_ptr<ScreenshotEditStore> makeEditStore();
     [[nodiscard]] std::unique_ptr<ScreenshotEditing> makeEditing();
     [[nodiscard]] std::unique_ptr<ShelfSession> makeSession();
+    [[nodiscard]] std::unique_ptr<SettingsPresenting> makeSettingsWindow();
+    [[nodiscard]] ProgramStatus status() const;
+    [[nodiscard]] std::unique_ptr<AppUpdater> makeUpdater();
+    // Its items in the menus, and what it tells the user.
+    void connectUpdater();
     [[nodiscard]] std::unique_ptr<FileWatcherService> makeFileWatcher();
     // Asks the screenshot tool how names begin, on the queue that the function is used on.
     [[nodiscard]] std::function<QString()> makeCustomPrefix() const;
@@ -74,11 +83,16 @@ private:
     ThreadQueue m_editorImageQueue;
     ThreadQueue m_wordQueue;
     ThreadQueue m_ocrQueue;
+    ThreadQueue m_desktopQueue;
+    ThreadQueue m_updateQueue;
     OCRRecognizer m_ocrRecognizer;
     std::unique_ptr<EditorImageCopies> m_imageCopies;
     std::unique_ptr<AppSettings> m_settings;
+    std::unique_ptr<AppUpdater> m_updater;
+    std::unique_ptr<UpdateAlerts> m_updateAlerts;
     std::unique_ptr<AppFlowCoordinator> m_coordinator;
     std::unique_ptr<ScreenshotEditing> m_editing;
+    std::unique_ptr<SettingsPresenting> m_settingsWindow;
     std::unique_ptr<CommandService> m_commands;
 };
 

@@ -1,7 +1,6 @@
 #include "app/AppFlowCoordinator.h"
 
 #include "app/MainMenu.h"
-#include "app/OnboardingCoordinator.h"
 #include "settings/AppSettings.h"
 #include "shelf/ShelfController.h"
 
@@ -9,11 +8,11 @@ namespace tembra {
 
 AppFlowCoordinator::AppFlowCoordinator(AppSettings &settings, Workspace &workspace,
                                        std::unique_ptr<ShelfController> shelf,
-                                       std::function<void()> terminate)
+                                       const OnboardingServices &onboarding, std::function<void()> terminate)
     : m_settings(settings),
       m_workspace(workspace),
       m_terminate(std::move(terminate)),
-      m_onboarding(std::make_unique<OnboardingCoordinator>(settings, std::move(shelf))) {}
+      m_onboarding(std::make_unique<OnboardingCoordinator>(settings, std::move(shelf), onboarding)) {}
 
 AppFlowCoordinator::~AppFlowCoordinator() = default;
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/OnboardingCoordinator.h"
 #include "platform/Workspace.h"
 
 #include <functional>
@@ -9,7 +10,6 @@ namespace tembra {
 
 class AppSettings;
 class MainMenu;
-class OnboardingCoordinator;
 class ShelfController;
 
 // The flow of the program above its windows: what is shown at the start, when it is opened again, and at the
@@ -17,7 +17,7 @@ class ShelfController;
 class AppFlowCoordinator {
 public:
     AppFlowCoordinator(AppSettings &settings, Workspace &workspace, std::unique_ptr<ShelfController> shelf,
-                       std::function<void()> terminate);
+                       const OnboardingServices &onboarding, std::function<void()> terminate);
     ~AppFlowCoordinator();
     AppFlowCoordinator(const AppFlowCoordinator &) = delete;
     AppFlowCoordinator &operator=(const AppFlowCoordinator &) = delete;
@@ -27,6 +27,7 @@ public:
     void stop();
 
     [[nodiscard]] ShelfController &shelfController();
+    [[nodiscard]] OnboardingStatus onboardingStatus() const { return m_onboarding->status(); }
     [[nodiscard]] MainMenu &mainMenu() { return *m_mainMenu; }
 
 private:

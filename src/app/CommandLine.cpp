@@ -1,6 +1,7 @@
 #include "app/CommandLine.h"
 
 #include "shelf/ShelfTab.h"
+#include "windows/settings/SettingsPageId.h"
 
 #include <QCoreApplication>
 #include <QHash>
@@ -23,13 +24,14 @@ tl::unexpected<Error> wrongUsage(const QString &message) {
 std::optional<CommandLine::Verb> verbNamed(const QString &word) {
     using Verb = CommandLine::Verb;
     static const QHash<QString, Verb> verbs{
-        {QStringLiteral("open"), Verb::open},     {QStringLiteral("close"), Verb::close},
-        {QStringLiteral("toggle"), Verb::toggle}, {QStringLiteral("status"), Verb::status},
-        {QStringLiteral("add"), Verb::add},       {QStringLiteral("edit"), Verb::edit},
-        {QStringLiteral("scan"), Verb::scan},     {QStringLiteral("render"), Verb::render},
-        {QStringLiteral("ocr"), Verb::ocr},       {QStringLiteral("quit"), Verb::quit},
-        {QStringLiteral("help"), Verb::help},     {QStringLiteral("--help"), Verb::help},
-        {QStringLiteral("-h"), Verb::help},       {QStringLiteral("--version"), Verb::version}};
+        {QStringLiteral("open"), Verb::open},         {QStringLiteral("close"), Verb::close},
+        {QStringLiteral("toggle"), Verb::toggle},     {QStringLiteral("status"), Verb::status},
+        {QStringLiteral("add"), Verb::add},           {QStringLiteral("edit"), Verb::edit},
+        {QStringLiteral("scan"), Verb::scan},         {QStringLiteral("render"), Verb::render},
+        {QStringLiteral("ocr"), Verb::ocr},           {QStringLiteral("quit"), Verb::quit},
+        {QStringLiteral("settings"), Verb::settings}, {QStringLiteral("help"), Verb::help},
+        {QStringLiteral("--help"), Verb::help},       {QStringLiteral("-h"), Verb::help},
+        {QStringLiteral("--version"), Verb::version}};
     const auto found = verbs.constFind(word);
     return found == verbs.cend() ? std::nullopt : std::optional(*found);
 }
@@ -79,6 +81,13 @@ Result<void> takeWord(CommandLine &line, QStringList &words) {
         (word == u"-o" ? line.output : line.edits) = words.takeFirst();
         return {};
     }
+    if (line.verb == Verb::settings && line.page.isEmpty()) {
+        if (!settingsPageNamed(word))
+            return wrongUsage(
+                translated("settings takes general, screenshots, editor, tray, text, shortcut or about."));
+        line.page = word;
+        return {};
+    }
     const bool takesPath = line.verb == Verb::scan || line.verb == Verb::render || line.verb == Verb::edit ||
                            line.verb == Verb::ocr;
     if (takesPath && line.path.isEmpty() && !word.startsWith(u'-')) {
@@ -94,6 +103,10 @@ Result<CommandLine> CommandLine::parse(const QStringList &words) {
     CommandLine line;
     if (words.isEmpty())
         return line;
+    if (words == QStringList{QStringLiteral("--background")}) {
+        line.background = true;
+        return line;
+    }
     const auto verb = verbNamed(words.constFirst());
     if (!verb)
         return wrongUsage(translated("There is no command “%1”.").arg(words.constFirst()));
@@ -117,22 +130,26 @@ Result<CommandLine> CommandLine::parse(const QStringList &words) {
 }
 
 QString CommandLine::usage() {
-    return translated("Usage: tembra [COMMAND]\n"
-                      "\n"
-                      "  tembra                       start, or show the shelf of the running one\n"
-                      "  tembra open [--tab TAB]      open the shelf (TAB: tray, screenshots or text)\n"
-                      "  tembra close                 close the shelf\n"
-                      "  tembra toggle                open or close the shelf\n"
-                      "  tembra add FILE...           put files into the file tray\n"
-                      "  tembra edit FILE             open a screenshot in the editor\n"
-                      "  tembra status [--json]       tell the state of the running one\n"
-                      "  tembra scan FOLDER [--json]  tell what is recognised as a capture, and why\n"
-                      "  tembra render FILE --edits EDITS.json -o OUT\n"
-                      "                               draw annotations and crop onto an image\n"
-                      "  tembra ocr FILE [--paragraphs | --one-line] [--words] [--json]\n"
-                      "                               read the text of an image\n"
-                      "  tembra quit                  end the running one\n"
-                      "  tembra --version, --help\n");
+    return translated(
+        "Usage: tembra [COMMAND]\n"
+        "\n"
+        "  tembra                       start, or show the shelf of the running one\n"
+        "  tembra --background          start without showing anything, as at login\n"
+        "  tembra open [--tab TAB]      open the shelf (TAB: tray, screenshots or text)\n"
+        "  tembra close                 close the shelf\n"
+        "  tembra toggle                open or close the shelf\n"
+        "  tembra add FILE...           put files into the file tray\n"
+        "  tembra edit FILE             open a screenshot in the editor\n"
+        "  tembra settings [PAGE]       open the settings (PAGE: general, screenshots, editor,\n"
+        "                               tray, text, shortcut or about)\n"
+        "  tembra status [--json]       tell the state of the running one\n"
+        "  tembra scan FOLDER [--json]  tell what is recognised as a capture, and why\n"
+        "  tembra render FILE --edits EDITS.json -o OUT\n"
+        "                               draw annotations and crop onto an image\n"
+        "  tembra ocr FILE [--paragraphs | --one-line] [--words] [--json]\n"
+        "                               read the text of an image\n"
+        "  tembra quit                  end the running one\n"
+        "  tembra --version, --help\n");
 }
 
 } // namespace tembra

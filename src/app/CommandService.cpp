@@ -2,7 +2,6 @@
 
 #include "app/StatusReport.h"
 #include "base/FileUri.h"
-#include "editor/window/EditorStatus.h"
 #include "shelf/ShelfController.h"
 
 #include <QCoreApplication>
@@ -17,13 +16,6 @@ tl::unexpected<Error> refused(const QString &message) {
 
 } // namespace
 
-CommandService::CommandService(ShelfController &shelf, std::function<EditorStatus()> editorStatus,
-                               std::function<void()> reopen, std::function<void()> quit)
-    : m_shelf(shelf),
-      m_editorStatus(std::move(editorStatus)),
-      m_reopen(std::move(reopen)),
-      m_quit(std::move(quit)) {}
-
 Result<QString> CommandService::perform(const QString &command, const QStringList &arguments) {
     if (command == u"open")
         return open(arguments);
@@ -33,14 +25,16 @@ Result<QString> CommandService::perform(const QString &command, const QStringLis
         return add(arguments);
     if (command == u"edit")
         return edit(arguments);
+    if (command == u"settings")
+        return showSettings(arguments);
     if (command == u"reopen")
-        m_reopen();
+        m_hooks.reopen();
     else if (command == u"close")
         m_shelf.collapse();
     else if (command == u"toggle")
         m_shelf.toggleFromShortcut();
     else if (command == u"quit")
-        m_quit();
+        m_hooks.quit();
     else
         return refused(QCoreApplication::translate("CommandService", "Tembra does not know the command “%1”.")
                            .arg(command));
@@ -73,11 +67,21 @@ Result<QString> CommandService::edit(const QStringList &files) {
     });
 }
 
+Result<QString> CommandService::showSettings(const QStringList &arguments) const {
+    const auto page = arguments.isEmpty() ? std::nullopt : settingsPageNamed(arguments.constFirst());
+    if (!page && !arguments.isEmpty())
+        return refused(
+            QCoreApplication::translate("CommandService", "The settings have no page of this name."));
+    m_shelf.collapse();
+    m_hooks.showSettings(page);
+    return QString();
+}
+
 Result<QString> CommandService::status(const QStringList &arguments) const {
-    const ShelfStatus now = m_shelf.status();
+    const ProgramStatus now = m_hooks.status();
     if (arguments.contains(QStringLiteral("--json")))
-        return QString::fromUtf8(statusJson(now, m_editorStatus(), QCoreApplication::applicationVersion()));
-    return statusText(now);
+        return QString::fromUtf8(statusJson(now));
+    return statusText(now.shelf);
 }
 
 } // namespace tembra

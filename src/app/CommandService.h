@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/ProgramStatus.h"
 #include "base/Result.h"
 
 #include <QString>
@@ -10,15 +11,20 @@
 namespace tembra {
 
 class ShelfController;
-struct EditorStatus;
 
 // Carries out, in the running program, what the command line of another process or the desktop asks. Main
 // thread.
 class CommandService {
 public:
-    // `reopen` and `quit` belong to the program's flow.
-    CommandService(ShelfController &shelf, std::function<EditorStatus()> editorStatus,
-                   std::function<void()> reopen, std::function<void()> quit);
+    // What belongs to the program's flow.
+    struct Hooks {
+        std::function<ProgramStatus()> status;
+        std::function<void(std::optional<SettingsPageId> page)> showSettings;
+        std::function<void()> reopen;
+        std::function<void()> quit;
+    };
+
+    CommandService(ShelfController &shelf, Hooks hooks) : m_shelf(shelf), m_hooks(std::move(hooks)) {}
 
     // Gives what the command prints, or the one sentence that says why it failed.
     [[nodiscard]] Result<QString> perform(const QString &command, const QStringList &arguments);
@@ -29,12 +35,11 @@ private:
     Result<QString> add(const QStringList &files);
     // A path or file URI.
     Result<QString> edit(const QStringList &files);
+    Result<QString> showSettings(const QStringList &arguments) const;
     Result<QString> status(const QStringList &arguments) const;
 
     ShelfController &m_shelf;
-    std::function<EditorStatus()> m_editorStatus;
-    std::function<void()> m_reopen;
-    std::function<void()> m_quit;
+    const Hooks m_hooks;
 };
 
 } // namespace tembra

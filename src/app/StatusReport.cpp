@@ -1,8 +1,7 @@
 #include "app/StatusReport.h"
 
 #include "app/IsoDate.h"
-#include "editor/window/EditorStatus.h"
-#include "shelf/ShelfStatus.h"
+#include "app/ProgramStatus.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>
@@ -57,6 +56,13 @@ QJsonObject recognitionObject(const ShelfStatus &status) {
             {QStringLiteral("expanded"), status.isRecognitionExpanded}};
 }
 
+QJsonObject shortcutObject(const ShelfStatus &status) {
+    return {{QStringLiteral("enabled"), status.isShortcutEnabled},
+            {QStringLiteral("title"), status.shortcutTitle},
+            {QStringLiteral("error"),
+             status.shortcutError ? QJsonValue(*status.shortcutError) : QJsonValue(QJsonValue::Null)}};
+}
+
 QJsonObject autoCleanObject(const ShelfStatus &status) {
     QJsonValue next = QJsonValue::Null;
     if (status.nextAutoCleanCheck)
@@ -89,11 +95,26 @@ QJsonObject editorObject(const EditorStatus &editor) {
             {QStringLiteral("fullImage"), editor.hasFullImage}};
 }
 
+QJsonObject onboardingObject(const OnboardingStatus &onboarding) {
+    return {{QStringLiteral("step"), commandName(onboarding.step)},
+            {QStringLiteral("visible"), onboarding.isVisible},
+            {QStringLiteral("heading"), onboarding.heading}};
+}
+
+QJsonObject updatesObject(const UpdateStatus &updates) {
+    return {
+        {QStringLiteral("state"), updates.state},
+        {QStringLiteral("version"), updates.version.isEmpty() ? QJsonValue() : QJsonValue(updates.version)},
+        {QStringLiteral("automatic"), updates.automatic}};
+}
+
 } // namespace
 
-QByteArray statusJson(const ShelfStatus &status, const EditorStatus &editor, const QString &version) {
+QByteArray statusJson(const ProgramStatus &program) {
+    const ShelfStatus &status = program.shelf;
+    const QJsonValue page = program.settingsPage ? QJsonValue(name(*program.settingsPage)) : QJsonValue();
     const QJsonObject report{
-        {QStringLiteral("version"), version},
+        {QStringLiteral("version"), program.version},
         {QStringLiteral("shelf"), shelfObject(status)},
         {QStringLiteral("folder"),
          QJsonObject{{QStringLiteral("path"),
@@ -105,10 +126,14 @@ QByteArray statusJson(const ShelfStatus &status, const EditorStatus &editor, con
                                                      {QStringLiteral("detail"), status.notificationDetail},
                                                      {QStringLiteral("count"), status.notificationCount}}},
         {QStringLiteral("tray"), trayObject(status)},
-        {QStringLiteral("editor"), editorObject(editor)},
+        {QStringLiteral("editor"), editorObject(program.editor)},
+        {QStringLiteral("onboarding"), onboardingObject(program.onboarding)},
         {QStringLiteral("recognition"), recognitionObject(status)},
+        {QStringLiteral("shortcut"), shortcutObject(status)},
         {QStringLiteral("lastCapture"), lastCaptureValue(status)},
         {QStringLiteral("autoClean"), autoCleanObject(status)},
+        {QStringLiteral("updates"), updatesObject(program.updates)},
+        {QStringLiteral("settings"), QJsonObject{{QStringLiteral("page"), page}}},
         {QStringLiteral("undo"), QJsonArray::fromStringList(status.undo)},
         {QStringLiteral("redo"), QJsonArray::fromStringList(status.redo)}};
     return QJsonDocument(report).toJson(QJsonDocument::Indented);

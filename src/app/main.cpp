@@ -73,6 +73,9 @@ Result<QString> sendToRunning(const CommandLine &line) {
         return instance->send(QStringLiteral("add"), uris(line.files), true);
     case Verb::edit:
         return instance->send(QStringLiteral("edit"), uris({line.path}), true);
+    case Verb::settings:
+        return instance->send(QStringLiteral("settings"),
+                              line.page.isEmpty() ? QStringList() : QStringList{line.page}, true);
     case Verb::status:
         return instance->send(QStringLiteral("status"),
                               line.json ? QStringList{QStringLiteral("--json")} : QStringList(), false);
@@ -121,7 +124,7 @@ int runCommand(const CommandLine &line, int argc, char **argv) {
 }
 
 // The program itself, until it quits.
-int runShelf(int argc, char **argv) {
+int runShelf(const CommandLine &line, int argc, char **argv) {
     preparePlatformEnvironment();
     const QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
@@ -140,6 +143,8 @@ int runShelf(int argc, char **argv) {
     };
     auto claimed = instance->claim(answer);
     if (!claimed && claimed.error().code == SingleInstance::alreadyRunning) {
+        if (line.background)
+            return done;
         const auto reopened = instance->send(QStringLiteral("reopen"), {}, false);
         if (reopened)
             return finish(reopened);
@@ -170,7 +175,7 @@ int main(int argc, char **argv) {
         return wrongUsage;
     }
     if (line->verb == CommandLine::Verb::start)
-        return runShelf(argc, argv);
+        return runShelf(*line, argc, argv);
     // A command has nothing to put away, and the thread of Qt's D-Bus connection must not be caught by the
     // end of what it still uses.
     const int status = runCommand(*line, argc, argv);

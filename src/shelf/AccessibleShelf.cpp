@@ -66,11 +66,8 @@ QAccessibleInterface *accessibleShelf(const QString &, QObject *object) {
 } // namespace
 
 void installAccessibleShelf() {
-    static const bool installed = [] {
-        QAccessible::installFactory(accessibleShelf);
-        return true;
-    }();
-    Q_UNUSED(installed)
+    // Qt keeps each factory once.
+    QAccessible::installFactory(accessibleShelf);
 }
 
 } // namespace tembra

@@ -93,15 +93,15 @@ void ScreenshotCommands::openFiles(const QStringList &paths, const QString &appl
     tembra::openFiles(m_workspace, paths, applicationIdentifier, onError);
 }
 
-bool ScreenshotCommands::canRecognizeSelectedScreenshot() const {
-    const QStringList selected = selectedPaths();
+bool ScreenshotCommands::canRecognizeSelectedScreenshot(const QStringList &selected) const {
     return m_settings.state().imageToTextEnabled && selected.size() == 1 &&
            CaptureMedia::isImageExtension(CaptureMedia::extension(selected.first()));
 }
 
 void ScreenshotCommands::recognizeSelectedScreenshot() {
-    if (canRecognizeSelectedScreenshot())
-        onRecognize(selectedPaths().first());
+    const QStringList selected = selectedPaths();
+    if (canRecognizeSelectedScreenshot(selected))
+        onRecognize(selected.first());
 }
 
 void ScreenshotCommands::trashSelected() {
@@ -121,7 +121,7 @@ std::unique_ptr<QMenu> ScreenshotCommands::menu() {
                                     .pinnedCount = count - static_cast<int>(removableSelectedShots().size()),
                                     .canEdit = std::ranges::any_of(paths, CaptureMedia::isEditable),
                                     .offersRecognition = m_settings.state().imageToTextEnabled,
-                                    .canRecognize = canRecognizeSelectedScreenshot(),
+                                    .canRecognize = canRecognizeSelectedScreenshot(paths),
                                     .applications = m_workspace.applicationsFor(paths)};
     return screenshotMenu(state, {.copy = [this] { copySelectedScreenshots(); },
                                   .openInEditor = onOpenInEditor,

@@ -48,8 +48,6 @@ public:
     void openScreenshotsWith(const QString &applicationIdentifier);
     // In the default application when the identifier is empty.
     void openFiles(const QStringList &paths, const QString &applicationIdentifier);
-    // One image is selected, and its text can be shown.
-    [[nodiscard]] bool canRecognizeSelectedScreenshot() const;
     void recognizeSelectedScreenshot();
     // Those that are not pinned.
     void trashSelected();
@@ -58,6 +56,8 @@ public:
     [[nodiscard]] std::unique_ptr<QMenu> menu();
 
 private:
+    // One image is selected, and its text can be shown.
+    [[nodiscard]] bool canRecognizeSelectedScreenshot(const QStringList &selected) const;
     [[nodiscard]] std::vector<Shot> removable(const std::vector<Shot> &shots) const;
 
     AppSettings &m_settings;

@@ -27,6 +27,7 @@ ShelfContent::ShelfContent(const ShelfServices &services, ClipboardStore &store)
     connect(m_header, &ShelfHeader::tabHovered, this, &ShelfContent::tabHovered);
     connect(m_header, &ShelfHeader::tabLeft, this, &ShelfContent::tabLeft);
     connect(m_header, &ShelfHeader::settingsClicked, this, &ShelfContent::settingsRequested);
+    connect(m_header, &ShelfHeader::programMenuRequested, this, &ShelfContent::programMenuRequested);
     connect(m_header, &ShelfHeader::undoClicked, this, &ShelfContent::undoRequested);
     connect(m_notification, &CaptureNotificationView::undoClicked, this, &ShelfContent::undoRequested);
     connect(m_notification, &CaptureNotificationView::hovered, this, &ShelfContent::notificationHeld);
@@ -102,7 +103,6 @@ void ShelfContent::showTab(State &state) {
     m_grid->setVisible(isScreenshots && !state.message);
     m_message->setVisible(isScreenshots && state.message);
     m_tray->setVisible(m_activeTab == ShelfTab::fileTray);
-    m_recognition->apply(state.recognition, state.recognizedPicture);
     m_recognition->setVisible(m_activeTab == ShelfTab::imageToText);
     if (m_activeTab == ShelfTab::fileTray) {
         m_tray->setShowsFileNames(state.showsFileNames);

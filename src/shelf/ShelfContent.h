@@ -1,6 +1,5 @@
 #pragma once
 
-#include "recognition/model/OCRState.h"
 #include "shelf/CaptureNotification.h"
 #include "shelf/FileGridState.h"
 #include "shelf/FileThumbnailCache.h"
@@ -41,9 +40,6 @@ public:
         std::optional<ScreenshotMessage> message;
         FileGridState screenshots;
         bool showsFileNames = true;
-        OCRState recognition;
-        // That the text was read from, small.
-        QImage recognizedPicture;
         QSet<ScreenshotFileIdentity> selection;
         // What an offered undo would reverse.
         std::optional<QString> undoName;
@@ -87,7 +83,8 @@ Q_SIGNALS:
     void backgroundMenuRequested(QPoint globalPosition);
     void dragRequested();
     void undoRequested();
-    void settingsRequested(QPoint globalPosition);
+    void settingsRequested();
+    void programMenuRequested(QPoint globalPosition);
     void notificationClicked();
     // The pointer rests on it, or drags from it.
     void notificationHeld(bool isHeld);

@@ -49,6 +49,7 @@ ShelfController::ShelfController(AppSettings &settings, std::unique_ptr<ShelfSes
       m_announcer(services.scheduler),
       m_preview(services),
       m_ocr(services.recognizer, services.pasteboard, services.scheduler),
+      m_shortcut(settings, services.hotKeys, [this] { toggleFromShortcut(); }),
       m_screenshotFeedback(
           [](QStringList &phrases) { std::ranges::shuffle(phrases, *QRandomGenerator::global()); }),
       m_screenshotAutoOpen(services.isCapture) {
@@ -67,7 +68,7 @@ ShelfController::ShelfController(AppSettings &settings, std::unique_ptr<ShelfSes
         collapse();
         onError(tr("Couldn’t Copy Text"), error.message);
     };
-    askForFolder = askForScreenshotsFolder;
+    askForFolder = [](const QString &suggested) { return askForScreenshotsFolder(suggested); };
     askForImage = tembra::askForImage;
     askForSafetyReview = showSafetyReview;
     askForClearing = showClearScreenshots;
@@ -97,6 +98,7 @@ void ShelfController::start() {
     scheduleTimelineRefresh();
     updateFolderState();
     installActiveStatusMenu();
+    m_shortcut.start();
 }
 
 void ShelfController::startObserving() {
@@ -117,6 +119,7 @@ void ShelfController::stop() {
     m_session->isRunning = false;
     m_session->cancelAutoClean();
     disconnect(&m_settings, nullptr, this, nullptr);
+    m_shortcut.stop();
     m_displayReconcileWork.cancel();
     m_timelineRefreshWork.cancel();
     m_undoOffer.cancel();
@@ -157,7 +160,8 @@ void ShelfController::connectTabs() {
     // Where the user put files is where the user stays.
     connect(content, &ShelfContent::filesDropped, this, [this] { activateTab(ShelfTab::fileTray); });
     connect(content, &ShelfContent::messageActed, this, &ShelfController::chooseFolder);
-    connect(content, &ShelfContent::settingsRequested, this,
+    connect(content, &ShelfContent::settingsRequested, this, &ShelfController::showSettings);
+    connect(content, &ShelfContent::programMenuRequested, this,
             [this](QPoint position) { showMenu(statusMenu(statusMenuActions()), position); });
     connect(content, &ShelfContent::notificationHeld, this,
             [this](bool isHeld) { m_announcer.hold(isHeld); });
@@ -315,8 +319,7 @@ bool ShelfController::activateTab(ShelfTab tab, bool duringDrag) {
     m_activeTab = tab;
     if (tab == ShelfTab::imageToText)
         m_preview.close();
-    else
-        m_ocr.setPresented(false);
+    m_ocr.setPresented(tab == ShelfTab::imageToText);
     render();
     fitPanel();
     return true;
@@ -374,8 +377,6 @@ void ShelfController::render() {
     const QStringList undoable = m_session->screenshotUndoManager.undoNames();
     if (m_undoOffer.isPending() && !undoable.isEmpty())
         state.undoName = undoable.first();
-    state.recognition = m_ocr.state();
-    state.recognizedPicture = m_ocr.picture();
     const AppSettingsState &settings = m_settings.state();
     state.showsFileNames = settings.showFileNames;
     state.message = screenshotFolderMessage(m_folderState.value_or(ScreenshotFolderState::none));

@@ -20,6 +20,7 @@
 #include "shelf/ShelfTab.h"
 #include "shelf/StatusItem.h"
 #include "shelf/TabHover.h"
+#include "shortcut/ActivationShortcutControl.h"
 
 #include <QHash>
 #include <QObject>
@@ -71,6 +72,12 @@ public:
     std::function<void(int count, int pinnedCount, std::function<void()> clear)> askForClearing;
     // The user wants the program to end.
     std::function<void()> onQuit;
+    // The user wants the settings, or those of the screenshots.
+    std::function<void()> onShowSettings;
+    std::function<void()> onShowScreenshotSettings;
+    // The user wants to know of new versions, where that can be asked now.
+    std::function<void()> onCheckForUpdates;
+    std::function<bool()> canCheckForUpdates;
     // A screenshot is to be opened in the editor, on the display that has the shelf.
     std::function<void(const Shot &, const ScreenRect &display)> onOpenInEditor;
     // Screenshots came, went or changed.
@@ -82,6 +89,8 @@ public:
     void stop();
 
     [[nodiscard]] ShelfSession &session() { return *m_session; }
+    // The key that opens the shelf and closes it.
+    [[nodiscard]] ActivationShortcutControl &shortcut() { return m_shortcut; }
     // In display order.
     [[nodiscard]] std::vector<Shot> shots() const;
 
@@ -94,17 +103,31 @@ public:
     void openManually();
     void toggleFromShortcut();
     void reopenFromDock();
+    // What can be done in the program's menu has changed.
+    void validateStatusMenu();
     // Whether the tab is shown. One that was activated for a drag gives way again to the one before when the
     // shelf closes.
     bool activateTab(ShelfTab tab, bool duringDrag = false);
 
     // Puts files into the file tray. Error: what could not be taken, and why.
     Result<void> addToTray(const QStringList &paths);
+    // Asks for a folder, with nothing of the shelf in the way, and does nothing with it.
+    [[nodiscard]] std::optional<QString> pickFolder();
     void chooseFolder();
     // Makes the folder the one that is shown; `adopting` leaves the screenshot tool's own setting as it is,
     // since the folder came from there.
     Result<void> acceptScreenshotFolder(const QString &folder, bool adopting);
+    // The same, chosen in the settings: the tool saves there from now on, and auto-clean is off.
+    Result<void> changeScreenshotFolder(const QString &folder);
     [[nodiscard]] QString suggestedScreenshotFolder() const;
+    // Asks the screenshot tool again where it saves; `onDestinationRead` follows.
+    void checkDestination();
+    // While others move screenshots into the folder; what has come into it then is nothing new.
+    void suspendFolder();
+    void resumeFolder();
+
+    void showSettings();
+    void showScreenshotSettings();
 
     // Shows the selected files large, or not any more.
     void togglePreview();
@@ -149,6 +172,7 @@ private:
     void scheduleTimelineRefresh();
     void render();
     void updateFolderState();
+    void folderChanged();
     void receiveFolderChange(const FolderShelf &shelf);
     void rereadDestination();
     void receiveDestination(const ScreenshotDestination &destination);
@@ -212,6 +236,7 @@ private:
     CaptureAnnouncer m_announcer;
     FilePreview m_preview;
     OCRController m_ocr;
+    ActivationShortcutControl m_shortcut;
     ScreenshotFeedback m_screenshotFeedback;
     ScreenshotAutoOpen m_screenshotAutoOpen;
 
@@ -222,7 +247,7 @@ private:
     QHash<ScreenshotFileIdentity, QString> m_editedScreenshots;
     bool m_choosingFolder = false;
     bool m_dragging = false;
-    // Keeps the shelf open while it is up.
+    // The latest.
     std::unique_ptr<QMenu> m_menu;
     std::unique_ptr<StatusItem> m_statusItem;
     ShelfTab m_activeTab = ShelfTab::screenshots;

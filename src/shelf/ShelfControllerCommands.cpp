@@ -135,7 +135,8 @@ void ShelfController::dragSelected() {
 }
 
 void ShelfController::showScreenshotBackgroundMenu(QPoint globalPosition) {
-    ScreenshotBackgroundMenuActions actions{.openFolder = [this] { revealFolder(); }};
+    ScreenshotBackgroundMenuActions actions{.openFolder = [this] { revealFolder(); },
+                                            .showSettings = [this] { showScreenshotSettings(); }};
     if (!m_commands->removableShots().empty())
         actions.clear = [this] { clearScreenshots(); };
     showMenu(screenshotBackgroundMenu(actions), globalPosition);
@@ -143,13 +144,34 @@ void ShelfController::showScreenshotBackgroundMenu(QPoint globalPosition) {
 
 StatusMenuActions ShelfController::statusMenuActions() {
     return {.open = [this] { openManually(); },
+            .showSettings = [this] { showSettings(); },
+            .checkForUpdates = onCheckForUpdates,
+            .canCheckForUpdates = canCheckForUpdates,
             .openFolder = [this] { revealFolder(); },
             .openCapture = [this] { openCapture(); },
             .quit = onQuit};
 }
 
+// The panel is above every other window, also above that of the settings.
+void ShelfController::showSettings() {
+    collapse();
+    if (onShowSettings)
+        onShowSettings();
+}
+
+void ShelfController::showScreenshotSettings() {
+    collapse();
+    if (onShowScreenshotSettings)
+        onShowScreenshotSettings();
+}
+
 void ShelfController::installActiveStatusMenu() {
     m_statusItem = std::make_unique<StatusItem>(statusMenuActions());
+}
+
+void ShelfController::validateStatusMenu() {
+    if (m_statusItem)
+        m_statusItem->validate();
 }
 
 void ShelfController::showMenu(std::unique_ptr<QMenu> menu, QPoint globalPosition) {

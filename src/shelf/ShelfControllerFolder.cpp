@@ -76,14 +76,32 @@ QString ShelfController::suggestedScreenshotFolder() const {
     return m_settings.state().screenshotsFolder.value_or(QString());
 }
 
-void ShelfController::chooseFolder() {
+void ShelfController::checkDestination() {
+    m_locationMonitor->check();
+}
+
+void ShelfController::suspendFolder() {
+    m_session->fileWatcher().pause();
+}
+
+void ShelfController::resumeFolder() {
+    m_session->rereadFolder();
+    m_session->fileWatcher().resume();
+}
+
+std::optional<QString> ShelfController::pickFolder() {
     if (m_choosingFolder)
-        return;
+        return std::nullopt;
     m_choosingFolder = true;
     // The panel is above every other window, also above the dialog.
     collapse();
-    const std::optional<QString> chosen = askForFolder(suggestedScreenshotFolder());
+    std::optional<QString> chosen = askForFolder(suggestedScreenshotFolder());
     m_choosingFolder = false;
+    return chosen;
+}
+
+void ShelfController::chooseFolder() {
+    const std::optional<QString> chosen = pickFolder();
     if (!chosen)
         return;
     if (const auto accepted = acceptScreenshotFolder(*chosen, false); !accepted)
@@ -93,12 +111,22 @@ void ShelfController::chooseFolder() {
 
 Result<void> ShelfController::acceptScreenshotFolder(const QString &folder, bool adopting) {
     auto granted = m_settings.grantScreenshotsFolder(folder, !adopting, false);
-    if (!granted)
-        return granted;
+    if (granted)
+        folderChanged();
+    return granted;
+}
+
+Result<void> ShelfController::changeScreenshotFolder(const QString &folder) {
+    auto granted = m_settings.grantScreenshotsFolder(folder, true, true);
+    if (granted)
+        folderChanged();
+    return granted;
+}
+
+void ShelfController::folderChanged() {
     rereadDestination();
     refreshWatchers();
     updateFolderState();
-    return {};
 }
 
 } // namespace tembra

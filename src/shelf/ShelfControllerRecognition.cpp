@@ -37,6 +37,7 @@ void ShelfController::connectRecognition() {
     connect(panel, &OCRPanel::linkCopyRequested, this,
             [this](const QUrl &url) { m_ocr.copyOCRSelection(addressOf(url)); });
     connect(panel, &OCRPanel::linkActivated, this, &ShelfController::openLink);
+    recognitionChanged();
 }
 
 // A new image shows where its text will be.
@@ -104,9 +105,8 @@ bool ShelfController::handleRecognitionKey(ShelfCommand command) {
 }
 
 void ShelfController::recognitionChanged() {
-    m_isStale = true;
-    if (m_activeTab == ShelfTab::imageToText)
-        render();
+    if (m_content)
+        m_content->recognition().apply(m_ocr.state(), m_ocr.picture());
 }
 
 void ShelfController::fitPanel() {

@@ -6,6 +6,7 @@
 #include "shelf/ShelfContent.h"
 #include "shelf/ShelfController.h"
 #include "shelf/ShelfSurfaces.h"
+#include "shortcut/ShortcutTitle.h"
 #include "tray/ClipboardStore.h"
 
 namespace tembra {
@@ -52,6 +53,9 @@ ShelfStatus ShelfController::status() const {
         status.notificationDetail = showing->detail();
         status.notificationCount = showing->captureCount;
     }
+    status.isShortcutEnabled = m_settings.state().shortcutEnabled;
+    status.shortcutTitle = title(m_settings.state().activationShortcut);
+    status.shortcutError = m_shortcut.error();
     status.recognitionPhase = phaseName(m_ocr.state());
     status.recognitionText = shownText(m_ocr.state());
     status.isRecognitionExpanded = m_ocr.state().isExpanded;

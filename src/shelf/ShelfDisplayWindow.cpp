@@ -16,8 +16,8 @@ namespace tembra {
 
 namespace {
 
-// The window is as large as the largest panel, so that it need not change while the panel grows in it.
-constexpr QSize largestPanel{744, 256};
+// The window is as large as the panel usually gets, so that it need not change while the panel grows in it.
+constexpr QSize usualPanel{744, 256};
 // A pointer this close still counts as in a notch or the panel.
 constexpr int pointerTolerance = 1;
 // Motion that begins at rest begins one frame ahead: its first frame is to show something.
@@ -86,7 +86,7 @@ void ShelfDisplayWindow::placePanel() {
     // A panel that is getting smaller needs its room until it is.
     const QSize now(static_cast<int>(std::ceil(bodySize().width())),
                     static_cast<int>(std::ceil(bodySize().height())));
-    const QSize largest = largestPanel.expandedTo(m_presentation.size).expandedTo(now);
+    const QSize largest = usualPanel.expandedTo(m_presentation.size).expandedTo(now);
     // Nothing of it, not even its shadow, falls on the display beside.
     const QSize canvas(std::min(largest.width() + 2 * ShelfShadow::reach, displayWidth(m_display)),
                        largest.height() + ShelfShadow::reach + ShelfShadow::drop);

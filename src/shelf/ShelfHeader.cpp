@@ -49,8 +49,11 @@ ShelfHeader::ShelfHeader(QWidget *parent)
       m_undo(new TembraButton(TembraButton::Kind::plain, this)),
       m_settings(new ShelfButton(Icon::gear, tr("Settings"), this)) {
     m_settings->setCheckable(false);
-    connect(m_settings, &ShelfButton::clicked, this, [this] {
-        Q_EMIT settingsClicked(m_settings->mapToGlobal(QPoint(0, m_settings->height() + buttonSpacing)));
+    connect(m_settings, &ShelfButton::clicked, this, &ShelfHeader::settingsClicked);
+    m_settings->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(m_settings, &QWidget::customContextMenuRequested, this, [this] {
+        const QPoint below(0, m_settings->height() + buttonSpacing);
+        Q_EMIT programMenuRequested(m_settings->mapToGlobal(below));
     });
     m_undo->setText(tr("Undo"));
     m_undo->setFocusPolicy(Qt::TabFocus);

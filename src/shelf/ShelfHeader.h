@@ -35,8 +35,9 @@ Q_SIGNALS:
     void droppedOn(tembra::ShelfTab tab, const QMimeData *content);
     void tabLeft(tembra::ShelfTab tab);
     void undoClicked();
-    // Where a menu of the button is to open.
-    void settingsClicked(QPoint globalPosition);
+    void settingsClicked();
+    // By a click of the other button, or the menu key: where the menu is to open.
+    void programMenuRequested(QPoint globalPosition);
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -5,6 +5,7 @@
 #include "base/SerialQueue.h"
 #include "platform/Displays.h"
 #include "platform/FileFacts.h"
+#include "platform/HotKeys.h"
 #include "platform/HotZones.h"
 #include "platform/InputMonitor.h"
 #include "platform/PanelWindows.h"
@@ -31,6 +32,7 @@ struct ShelfServices {
     InputMonitor &inputMonitor;
     PanelWindows &panelWindows;
     HotZones &hotZones;
+    HotKeys &hotKeys;
     Pasteboard &pasteboard;
     Thumbnails &thumbnails;
     const FileFactsReader &files;

@@ -44,6 +44,11 @@ struct ShelfStatus {
     QString notificationDetail;
     int notificationCount = 0;
 
+    bool isShortcutEnabled = false;
+    QString shortcutTitle;
+    // Why it does not work.
+    std::optional<QString> shortcutError;
+
     std::optional<Capture> lastCapture;
 
     struct TrayEntry {

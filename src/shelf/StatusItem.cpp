@@ -31,7 +31,7 @@ public:
 } // namespace
 
 StatusItem::StatusItem(const StatusMenuActions &actions)
-    : m_menu(statusMenu(actions)), m_icon(QIcon(new StatusIconEngine)) {
+    : m_actions(actions), m_menu(statusMenu(actions)), m_icon(QIcon(new StatusIconEngine)) {
     m_icon.setToolTip(QStringLiteral("Tembra"));
     m_icon.setContextMenu(m_menu.get());
     QObject::connect(&m_icon, &QSystemTrayIcon::activated, &m_icon,

@@ -15,7 +15,11 @@ public:
     StatusItem(const StatusItem &) = delete;
     StatusItem &operator=(const StatusItem &) = delete;
 
+    // What the menu's items can do has changed.
+    void validate() const { validateStatusMenu(*m_menu, m_actions); }
+
 private:
+    const StatusMenuActions m_actions;
     std::unique_ptr<QMenu> m_menu;
     QSystemTrayIcon m_icon;
 };

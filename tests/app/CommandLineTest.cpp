@@ -16,6 +16,7 @@ QStringList words(const char *line) {
 TEST(CommandLine, understandsEveryCommand) {
     const std::vector<std::pair<const char *, CommandLine>> table{
         {"", {}},
+        {"--background", {.background = true}},
         {"open", {.verb = Verb::open}},
         {"open --tab text", {.verb = Verb::open, .tab = QStringLiteral("text")}},
         {"status --json", {.verb = Verb::status, .json = true}},
@@ -33,7 +34,8 @@ TEST(CommandLine, understandsEveryCommand) {
 }
 
 TEST(CommandLine, refusesWhatItDoesNotUnderstand) {
-    for (const char *line : {"fly", "open --tab", "open --tab sky", "close now", "scan", "scan --json",
-                             "scan a b", "add", "add --", "toggle --json", "-x"})
+    for (const char *line :
+         {"fly", "open --tab", "open --tab sky", "close now", "scan", "scan --json", "scan a b",
+          "--background open", "open --background", "add", "add --", "toggle --json", "-x"})
         EXPECT_FALSE(CommandLine::parse(words(line))) << line;
 }

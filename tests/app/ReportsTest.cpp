@@ -1,10 +1,9 @@
+#include "app/ProgramStatus.h"
 #include "app/ScanReport.h"
 #include "app/StatusReport.h"
-#include "editor/window/EditorStatus.h"
 #include "platform/linux/LinuxCaptureMarkers.h"
 #include "platform/linux/LinuxFolderFiles.h"
 #include "screenshots/ScreenshotCaptureDetector.h"
-#include "shelf/ShelfStatus.h"
 #include "support/Files.h"
 #include "support/Pictures.h"
 
@@ -65,24 +64,34 @@ TEST(ScanReport, saysOfEachFileWhatItIsAndWhy) {
 }
 
 TEST(StatusReport, givesScriptsEveryKeyAlsoOfAShelfThatKnowsNothing) {
-    ShelfStatus status;
-    const QJsonObject empty =
-        QJsonDocument::fromJson(statusJson(status, EditorStatus(), QStringLiteral("1.2"))).object();
+    ProgramStatus program{.version = QStringLiteral("1.2")};
+    const QJsonObject empty = QJsonDocument::fromJson(statusJson(program)).object();
     EXPECT_EQ(empty[u"version"].toString(), QStringLiteral("1.2"));
     EXPECT_TRUE(empty[u"folder"][u"path"].isNull());
     EXPECT_EQ(empty[u"folder"][u"state"].toString(), QStringLiteral("none"));
     EXPECT_TRUE(empty[u"lastCapture"].isNull());
+    EXPECT_TRUE(empty[u"shortcut"][u"error"].isNull());
+    EXPECT_TRUE(empty[u"updates"][u"version"].isNull());
+    EXPECT_TRUE(empty[u"settings"][u"page"].isNull());
 
+    ShelfStatus &status = program.shelf;
     status.folder = QStringLiteral("/shots");
     status.frame = {268, 0, 744, 256};
+    status.shortcutError = QStringLiteral("Taken.");
     status.sections = {{QStringLiteral("Today"), 3}};
     status.lastCapture =
         ShelfStatus::Capture{QStringLiteral("/shots/a.png"), Instant(std::chrono::seconds(1))};
-    const QJsonObject full =
-        QJsonDocument::fromJson(
-            statusJson(status, EditorStatus{.isOpen = true, .path = QStringLiteral("/a.png")}, {}))
-            .object();
+    program.onboarding = {.step = OnboardingStep::folder, .isVisible = true};
+    program.updates = {QStringLiteral("available"), QStringLiteral("2.0"), true};
+    program.settingsPage = SettingsPageId::fileTray;
+    const QJsonObject full = QJsonDocument::fromJson(statusJson(program)).object();
     EXPECT_EQ(full[u"shelf"][u"frame"].toArray(), QJsonArray({268, 0, 744, 256}));
+    EXPECT_EQ(full[u"onboarding"][u"step"].toString(), QStringLiteral("folder"));
+    EXPECT_EQ(full[u"updates"][u"state"].toString(), QStringLiteral("available"));
+    EXPECT_EQ(full[u"updates"][u"version"].toString(), QStringLiteral("2.0"));
+    EXPECT_TRUE(full[u"updates"][u"automatic"].toBool());
+    EXPECT_EQ(full[u"settings"][u"page"].toString(), QStringLiteral("tray"));
     EXPECT_EQ(full[u"screenshots"][u"sections"][0][u"count"].toInt(), 3);
+    EXPECT_EQ(full[u"shortcut"][u"error"].toString(), QStringLiteral("Taken."));
     EXPECT_EQ(full[u"lastCapture"][u"at"].toString(), QStringLiteral("1970-01-01T00:00:01.000Z"));
 }

@@ -1,7 +1,7 @@
 #include "EditorStories.h"
 #include "FileManagerWindow.h"
 
-#include <QFileInfo>
+#include <QFile>
 #include <QUrl>
 #include <QtEndian>
 
@@ -102,8 +102,7 @@ TEST_F(EditorStories, imagesAndAnnotationsLeaveTheEditorByTheClipboardAndByADrag
 }
 
 TEST_F(EditorStories, theShelfOpensImagesInTheEditorAndANewCaptureByItself) {
-    QDir().mkpath(QFileInfo(tembra.settingsFile()).path());
-    writeFile(tembra.settingsFile(), R"({"automaticallyOpenEditor": true})");
+    tembra.setSettings({{text("automaticallyOpenEditor"), true}});
     // What recordings are played with.
     const QString applications = tembra.home() + text("/.local/share/applications");
     QDir().mkpath(applications);

@@ -6,7 +6,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -265,8 +264,7 @@ TEST_F(RecognitionStories, aLinkOpensWithTheBrowserAndTheShelfCloses) {
 }
 
 TEST_F(RecognitionStories, whereItIsSwitchedOffNothingOffersIt) {
-    QDir().mkpath(QFileInfo(tembra.settingsFile()).path());
-    writeFile(tembra.settingsFile(), R"({"imageToTextEnabled": false})");
+    tembra.setSettings({{text("imageToTextEnabled"), false}});
     start();
     const auto refused = tembra.command({text("open"), text("--tab"), text("text")});
     EXPECT_NE(refused.exitStatus, 0);

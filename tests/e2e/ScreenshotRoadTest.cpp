@@ -186,7 +186,10 @@ TEST(Settings, aBrokenFileNeverStopsTheStartAndIsKeptAside) {
         file.close();
 
         tembra.start();
-        EXPECT_TRUE(tembra.waitFor(isReady)) << broken.toStdString();
+        EXPECT_TRUE(tembra.waitFor([](const QJsonObject &status) {
+            return status[u"onboarding"][u"visible"].toBool();
+        })) << broken.toStdString()
+            << ": it is a first start";
         const QStringList kept = QFileInfo(tembra.settingsFile())
                                      .dir()
                                      .entryList({QStringLiteral("settings.json?*")}, QDir::Files);

@@ -1,9 +1,6 @@
 #include "DummyServer.h"
 #include "TembraProcess.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QPoint>
@@ -48,13 +45,7 @@ protected:
     }
 
     void start(const char *displayPreference) {
-        QDir().mkpath(QFileInfo(tembra.settingsFile()).path());
-        QFile file(tembra.settingsFile());
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(QJsonDocument(QJsonObject{{QStringLiteral("displayPreference"),
-                                              QString::fromLatin1(displayPreference)}})
-                       .toJson());
-        file.close();
+        tembra.setSettings({{QStringLiteral("displayPreference"), QString::fromLatin1(displayPreference)}});
         tembra.start();
     }
     void move(QPoint to) {

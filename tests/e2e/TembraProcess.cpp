@@ -27,6 +27,7 @@ TembraProcess::TembraProcess() : m_environment(QProcessEnvironment::systemEnviro
     m_environment.insert(QStringLiteral("QT_LINUX_ACCESSIBILITY_ALWAYS_ON"), QStringLiteral("1"));
     m_environment.remove(QStringLiteral("XDG_CURRENT_DESKTOP"));
     QDir().mkpath(screenshots());
+    setSettings({});
     m_process.setProcessEnvironment(m_environment);
     m_process.setProcessChannelMode(QProcess::MergedChannels);
 }
@@ -46,6 +47,28 @@ QString TembraProcess::screenshots() const {
 
 QString TembraProcess::settingsFile() const {
     return home() + QStringLiteral("/tembra/config/settings.json");
+}
+
+void TembraProcess::setSettings(const QJsonObject &settings) const {
+    // Whoever is past the onboarding counts as coming from an earlier version, which had other defaults.
+    QJsonObject values{{QStringLiteral("hasCompletedOnboarding"), true},
+                       {QStringLiteral("hoverOnTabToOpen"), false},
+                       {QStringLiteral("automaticallyCopyScreenshots"), true}};
+    for (auto setting = settings.begin(); setting != settings.end(); ++setting)
+        values.insert(setting.key(), setting.value());
+    QDir().mkpath(QFileInfo(settingsFile()).path());
+    QFile file(settingsFile());
+    if (!file.open(QIODevice::WriteOnly) || file.write(QJsonDocument(values).toJson()) < 0)
+        qFatal("cannot write %s", qPrintable(settingsFile()));
+}
+
+void TembraProcess::forgetSettings() const {
+    QFile::remove(settingsFile());
+}
+
+void TembraProcess::kill() {
+    m_process.kill();
+    m_process.waitForFinished();
 }
 
 void TembraProcess::start() {

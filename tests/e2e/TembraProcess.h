@@ -28,6 +28,11 @@ public:
     // Where the screenshot tool of this desktop saves.
     [[nodiscard]] QString screenshots() const;
     [[nodiscard]] QString settingsFile() const;
+    // The program is to start with these settings, and unless they say otherwise as one that is new but past
+    // its onboarding. Before the start; made so by the constructor.
+    void setSettings(const QJsonObject &settings) const;
+    // As on the first start of all.
+    void forgetSettings() const;
     // With the same home, for other programs.
     [[nodiscard]] const QProcessEnvironment &environment() const { return m_environment; }
 
@@ -45,6 +50,8 @@ public:
     [[nodiscard]] bool waitFor(const std::function<bool(const QJsonObject &)> &wish) const;
     [[nodiscard]] bool waitForEnd();
     [[nodiscard]] bool isRunning() const { return m_process.state() == QProcess::Running; }
+    // At once, as by a fault.
+    void kill();
     [[nodiscard]] qint64 processId() const { return m_process.processId(); }
     // What the program wrote to its log so far.
     QString log();

@@ -11,6 +11,7 @@
 #include "shelf/ShelfHeader.h"
 #include "support/FakeDesktop.h"
 #include "support/FakeFileFacts.h"
+#include "support/FakeHotKeys.h"
 #include "support/FakeInputMonitor.h"
 #include "support/FakeOCRRecognizer.h"
 #include "support/FakePasteboard.h"
@@ -80,6 +81,7 @@ protected:
     FakeInputMonitor input;
     FakePanelWindows panels;
     FakeHotZones zones;
+    FakeHotKeys hotKeys;
     FakeThumbnails thumbnails;
     FakeFileFacts files;
     NoPictures pictures;
@@ -89,7 +91,8 @@ protected:
     ClipboardStore store{tray.services()};
     ManualQueue queue;
     ShelfContent content{{scheduler, scheduler.uptimeClock(), scheduler.wallClock({}), displays, workspace,
-                          input, panels, zones, pasteboard, thumbnails, files, pictures, recognizer, queue},
+                          input, panels, zones, hotKeys, pasteboard, thumbnails, files, pictures, recognizer,
+                          queue},
                          store};
     ShelfContent::State state;
 };

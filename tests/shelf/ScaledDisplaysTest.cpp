@@ -2,6 +2,7 @@
 #include "platform/linux/desktop/QtDisplays.h"
 #include "shelf/ShelfSurfaces.h"
 #include "support/FakeDesktop.h"
+#include "support/FakeHotKeys.h"
 #include "support/FakeInputMonitor.h"
 #include "support/FakeOCRRecognizer.h"
 #include "support/FakeWorkspace.h"
@@ -37,11 +38,12 @@ protected:
     QtDisplays displays{parts.scheduler};
     FakePanelWindows panelWindows;
     FakeHotZones hotZones;
+    FakeHotKeys hotKeys;
     NoThumbnails thumbnails;
     FakeOCRRecognizer recognizer;
     QWidget content;
     ShelfSurfaces surfaces{{parts.scheduler, parts.scheduler.uptimeClock(), parts.now, displays, workspace,
-                            input, panelWindows, hotZones, parts.pasteboard, thumbnails, parts.files,
+                            input, panelWindows, hotZones, hotKeys, parts.pasteboard, thumbnails, parts.files,
                             parts.pictures, recognizer, previewQueue, [](const QString &) { return true; }},
                            [this]() -> QWidget & { return content; }};
 };

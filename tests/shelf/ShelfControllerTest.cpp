@@ -9,6 +9,7 @@
 #include "settings/AppSettings.h"
 #include "support/FakeDesktop.h"
 #include "support/FakeFolderEvents.h"
+#include "support/FakeHotKeys.h"
 #include "support/FakeInputMonitor.h"
 #include "support/FakeOCRRecognizer.h"
 #include "support/FakeWorkspace.h"
@@ -69,7 +70,7 @@ protected:
             std::make_unique<ScreenshotLocationMonitor>([this] { return destination; }, queue, scheduler,
                                                         workspace),
             ShelfServices{scheduler, scheduler.uptimeClock(), clock, displays, workspace, input, panelWindows,
-                          hotZones, parts.pasteboard, thumbnails, files, parts.pictures, recognizer,
+                          hotZones, hotKeys, parts.pasteboard, thumbnails, files, parts.pictures, recognizer,
                           previewQueue, [this](const QString &path) { return detector.isCapture(path); }});
         controller->onError = [this](const QString &title, const QString &) { errors += title; };
         controller->askForClearing = [this](int count, int pinned, std::function<void()> clear) {
@@ -172,6 +173,7 @@ protected:
     FakeDisplays displays;
     FakePanelWindows panelWindows;
     FakeHotZones hotZones;
+    FakeHotKeys hotKeys;
     NoThumbnails thumbnails;
     FakeOCRRecognizer recognizer;
     AppSettings settings{defaults, FolderPreferences(), ScreenshotFolderAccess(bookmarks, files, folders),
@@ -490,6 +492,24 @@ TEST_F(ShelfControllerTest, aPressInHoverModeOpensWhatHoveringClosesAgain) {
         hotZones.press();
         EXPECT_EQ(status().expanded, expanded) << "each click turns it round";
     }
+}
+
+TEST_F(ShelfControllerTest, theShortcutOpensForGoodAndCloses) {
+    start();
+    hotKeys.press();
+    EXPECT_FALSE(status().expanded) << "it is off";
+    settings.setShortcutEnabled(true);
+    hotKeys.press();
+    movePointer(atTopEdge);
+    movePointer(farAway);
+    EXPECT_TRUE(status().expanded);
+    hotKeys.press();
+    EXPECT_FALSE(status().expanded);
+    EXPECT_TRUE(status().isShortcutEnabled);
+    EXPECT_EQ(status().shortcutTitle, QStringLiteral("⇧⌘W"));
+
+    controller->stop();
+    EXPECT_TRUE(hotKeys.registered().empty());
 }
 
 TEST_F(ShelfControllerTest, withoutADisplayNothingOpensAndHoveringWorksOnceThereIsOne) {

@@ -3,6 +3,7 @@
 #include "shelf/FileThumbnailCache.h"
 #include "support/FakeDesktop.h"
 #include "support/FakeFileFacts.h"
+#include "support/FakeHotKeys.h"
 #include "support/FakeInputMonitor.h"
 #include "support/FakeOCRRecognizer.h"
 #include "support/FakePasteboard.h"
@@ -76,6 +77,7 @@ protected:
     FakeInputMonitor input;
     FakePanelWindows panels;
     FakeHotZones zones;
+    FakeHotKeys hotKeys;
     NoPictures pictures;
     FakeOCRRecognizer recognizer;
     ManualQueue queue;
@@ -84,7 +86,8 @@ protected:
     ClipboardStore store{parts.services()};
     ClipboardShelf view{store,
                         {scheduler, scheduler.uptimeClock(), scheduler.wallClock({}), displays, workspace,
-                         input, panels, zones, pasteboard, thumbnails, files, pictures, recognizer, queue},
+                         input, panels, zones, hotKeys, pasteboard, thumbnails, files, pictures, recognizer,
+                         queue},
                         {thumbnails, files, cache},
                         nullptr};
     QStringList failures;
