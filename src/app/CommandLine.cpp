@@ -66,7 +66,8 @@ Result<void> takeWord(CommandLine &line, QStringList &words) {
         return {};
     if (word == u"--tab" && line.verb == Verb::open) {
         if (words.isEmpty() || !shelfTabNamed(words.constFirst()))
-            return wrongUsage(translated("--tab takes tray, screenshots or text."));
+            return wrongUsage(
+                translated(QT_TRANSLATE_NOOP("CommandLine", "--tab takes tray, screenshots or text.")));
         line.tab = words.takeFirst();
         return {};
     }
@@ -77,14 +78,15 @@ Result<void> takeWord(CommandLine &line, QStringList &words) {
     }
     if (line.verb == Verb::render && (word == u"--edits" || word == u"-o")) {
         if (words.isEmpty())
-            return wrongUsage(translated("%1 takes a file.").arg(word));
+            return wrongUsage(translated(QT_TRANSLATE_NOOP("CommandLine", "%1 takes a file.")).arg(word));
         (word == u"-o" ? line.output : line.edits) = words.takeFirst();
         return {};
     }
     if (line.verb == Verb::settings && line.page.isEmpty()) {
         if (!settingsPageNamed(word))
-            return wrongUsage(
-                translated("settings takes general, screenshots, editor, tray, text, shortcut or about."));
+            return wrongUsage(translated(QT_TRANSLATE_NOOP(
+                "CommandLine",
+                "settings takes general, screenshots, editor, tray, text, shortcut or about.")));
         line.page = word;
         return {};
     }
@@ -94,7 +96,8 @@ Result<void> takeWord(CommandLine &line, QStringList &words) {
         line.path = word;
         return {};
     }
-    return wrongUsage(translated("Unexpected word on the command line: %1").arg(word));
+    return wrongUsage(
+        translated(QT_TRANSLATE_NOOP("CommandLine", "Unexpected word on the command line: %1")).arg(word));
 }
 
 } // namespace
@@ -109,7 +112,8 @@ Result<CommandLine> CommandLine::parse(const QStringList &words) {
     }
     const auto verb = verbNamed(words.constFirst());
     if (!verb)
-        return wrongUsage(translated("There is no command “%1”.").arg(words.constFirst()));
+        return wrongUsage(translated(QT_TRANSLATE_NOOP("CommandLine", "There is no command “%1”."))
+                              .arg(words.constFirst()));
     line.verb = *verb;
     QStringList rest = words.mid(1);
     while (!rest.isEmpty()) {
@@ -117,20 +121,23 @@ Result<CommandLine> CommandLine::parse(const QStringList &words) {
             return failure(taken.error());
     }
     if (line.verb == Verb::scan && line.path.isEmpty())
-        return wrongUsage(translated("scan takes the folder to look at."));
+        return wrongUsage(translated(QT_TRANSLATE_NOOP("CommandLine", "scan takes the folder to look at.")));
     if (line.verb == Verb::add && line.files.isEmpty())
-        return wrongUsage(translated("add takes the files to put into the file tray."));
+        return wrongUsage(
+            translated(QT_TRANSLATE_NOOP("CommandLine", "add takes the files to put into the file tray.")));
     if (line.verb == Verb::edit && line.path.isEmpty())
-        return wrongUsage(translated("edit takes the image to open."));
+        return wrongUsage(translated(QT_TRANSLATE_NOOP("CommandLine", "edit takes the image to open.")));
     if (line.verb == Verb::ocr && line.path.isEmpty())
-        return wrongUsage(translated("ocr takes the image to read."));
+        return wrongUsage(translated(QT_TRANSLATE_NOOP("CommandLine", "ocr takes the image to read.")));
     if (line.verb == Verb::render && (line.path.isEmpty() || line.edits.isEmpty() || line.output.isEmpty()))
-        return wrongUsage(translated("render takes an image, --edits and -o with a file each."));
+        return wrongUsage(translated(
+            QT_TRANSLATE_NOOP("CommandLine", "render takes an image, --edits and -o with a file each.")));
     return line;
 }
 
 QString CommandLine::usage() {
-    return translated(
+    return translated(QT_TRANSLATE_NOOP(
+        "CommandLine",
         "Usage: tembra [COMMAND]\n"
         "\n"
         "  tembra                       start, or show the shelf of the running one\n"
@@ -149,7 +156,7 @@ QString CommandLine::usage() {
         "  tembra ocr FILE [--paragraphs | --one-line] [--words] [--json]\n"
         "                               read the text of an image\n"
         "  tembra quit                  end the running one\n"
-        "  tembra --version, --help\n");
+        "  tembra --version, --help\n"));
 }
 
 } // namespace tembra

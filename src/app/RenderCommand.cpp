@@ -29,7 +29,8 @@ Result<QByteArray> contentOf(const QString &path, const FileCoordinator &files) 
     const QFileInfo file(path);
     return files.read(file.exists() ? file.canonicalFilePath() : file.absoluteFilePath())
         .or_else([&path](const Error &error) -> Result<QByteArray> {
-            return renderFailure(1, translated("“%1” cannot be read: %2").arg(path, error.message));
+            return renderFailure(1, translated(QT_TRANSLATE_NOOP("RenderCommand", "“%1” cannot be read: %2"))
+                                        .arg(path, error.message));
         });
 }
 
@@ -45,7 +46,8 @@ Result<void> write(const QString &path, const QByteArray &bytes) {
     QSaveFile file(path);
     if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
         return {};
-    return renderFailure(2, translated("“%1” cannot be written: %2").arg(path, file.errorString()));
+    return renderFailure(2, translated(QT_TRANSLATE_NOOP("RenderCommand", "“%1” cannot be written: %2"))
+                                .arg(path, file.errorString()));
 }
 
 } // namespace
@@ -54,7 +56,8 @@ Result<QString> renderImage(const QString &image, const QString &edits, const QS
     const QFileInfo written(output);
     if (written.exists() && (written == QFileInfo(image) || written == QFileInfo(edits)))
         return renderFailure(
-            3, translated("What is read is not written over: name another file for the output."));
+            3, translated(QT_TRANSLATE_NOOP(
+                   "RenderCommand", "What is read is not written over: name another file for the output.")));
     QtScheduler scheduler;
     const Platform platform = makeHeadlessPlatform(scheduler);
     const auto original = contentOf(image, *platform.fileCoordinator);

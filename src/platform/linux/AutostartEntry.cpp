@@ -156,7 +156,8 @@ Status AutostartEntry::statusOf(const RcFile &entry) const {
 
 Result<void> AutostartEntry::enable() const {
     if (!isExecutable(m_program))
-        return entryFailure(translated("Launch at login is unavailable for this copy of Tembra"));
+        return entryFailure(translated(
+            QT_TRANSLATE_NOOP("LoginItem", "Launch at login is unavailable for this copy of Tembra")));
     auto entry = RcFile::read(userEntry());
     if (!entry)
         return failure(entry.error());
@@ -189,7 +190,8 @@ Result<void> AutostartEntry::disable() const {
     const bool isThere = file.exists() || QFileInfo(file).isSymLink();
     if (!isThere || file.remove())
         return {};
-    return entryFailure(translated("“%1” can’t be removed: %2").arg(userEntry(), file.errorString()));
+    return entryFailure(translated(QT_TRANSLATE_NOOP("LoginItem", "“%1” can’t be removed: %2"))
+                            .arg(userEntry(), file.errorString()));
 }
 
 std::optional<QString> AutostartEntry::programOf(const QByteArray &exec) {
@@ -212,12 +214,14 @@ Result<void> AutostartEntry::openDesktopSettings() {
     const auto program = settingsProgram(qEnvironmentVariable("XDG_CURRENT_DESKTOP"));
     if (program && QProcess::startDetached(program->constFirst(), program->mid(1)))
         return {};
-    return entryFailure(translated("This desktop has no settings for the programs that start at login."));
+    return entryFailure(translated(QT_TRANSLATE_NOOP(
+        "LoginItem", "This desktop has no settings for the programs that start at login.")));
 }
 
 Result<void> AutostartEntry::save(const RcFile &entry) const {
     return entry.save().map_error([this](const Error &error) {
-        const QString message = translated("“%1” can’t be written: %2").arg(userEntry(), error.message);
+        const QString message = translated(QT_TRANSLATE_NOOP("LoginItem", "“%1” can’t be written: %2"))
+                                    .arg(userEntry(), error.message);
         return Error{error.domain, error.code, message, {}};
     });
 }

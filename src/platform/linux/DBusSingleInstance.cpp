@@ -27,7 +27,8 @@ tl::unexpected<Error> instanceFailure(SingleInstance::ErrorCode code, const QStr
 
 tl::unexpected<Error> noBus() {
     return instanceFailure(SingleInstance::noSessionBus,
-                           translated("There is no D-Bus session to reach Tembra through."));
+                           translated(QT_TRANSLATE_NOOP(
+                               "SingleInstance", "There is no D-Bus session to reach Tembra through.")));
 }
 
 } // namespace
@@ -53,7 +54,8 @@ Result<void> DBusSingleInstance::claim(Handler handler) {
         return {};
     bus.unregisterObject(objectPath);
     m_object.reset();
-    return instanceFailure(alreadyRunning, translated("Tembra is already running."));
+    return instanceFailure(alreadyRunning,
+                           translated(QT_TRANSLATE_NOOP("SingleInstance", "Tembra is already running.")));
 }
 
 void DBusSingleInstance::release() {
@@ -76,7 +78,8 @@ Result<QString> DBusSingleInstance::send(const QString &command, const QStringLi
     const QString &error = reply.errorName();
     if (error == u"org.freedesktop.DBus.Error.ServiceUnknown" ||
         error == u"org.freedesktop.DBus.Error.NameHasNoOwner")
-        return instanceFailure(notRunning, translated("Tembra is not running."));
+        return instanceFailure(notRunning,
+                               translated(QT_TRANSLATE_NOOP("SingleInstance", "Tembra is not running.")));
     return instanceFailure(refused, reply.errorMessage());
 }
 
