@@ -45,7 +45,11 @@ AppDelegate::AppDelegate(Platform &platform, Scheduler &scheduler)
       m_ocrQueue(QStringLiteral("local.dova.Tembra.ocr")),
       m_desktopQueue(QStringLiteral("Tembra.DesktopScreenshots")),
       m_updateQueue(QStringLiteral("Tembra.Updates")),
-      m_ocrRecognizer(*platform.textRecognizer, *platform.pictureDecoder, m_ocrQueue) {}
+      m_ocrRecognizer(*platform.textRecognizer, *platform.pictureDecoder, m_ocrQueue) {
+    m_captureCommand.onFailed = [](const QString &sentence) {
+        showAlert(QCoreApplication::translate("CaptureCommand", "Couldn’t Run the Command"), sentence);
+    };
+}
 
 AppDelegate::~AppDelegate() = default;
 
@@ -202,10 +206,20 @@ std::unique_ptr<ShelfController> AppDelegate::makeShelfController() {
     auto controller =
         std::make_unique<ShelfController>(*m_settings, makeSession(), makeLocationMonitor(), services);
     controller->onError = showAlert;
+    controller->onNewCaptures = [this](const std::vector<Shot> &shots) { receiveNewCaptures(shots); };
     controller->onQuit = [this] { terminate(); };
     controller->onCheckForUpdates = [this] { m_updater->checkForUpdates(); };
     controller->canCheckForUpdates = [this] { return m_updater->canCheck(); };
     return controller;
+}
+
+// In the order in which they were taken.
+void AppDelegate::receiveNewCaptures(const std::vector<Shot> &shots) {
+    for (auto shot = shots.rbegin(); shot != shots.rend(); ++shot) {
+        m_captureCommand.run(m_settings->state().newCaptureCommand, shot->location);
+        if (onNewCapture)
+            onNewCapture(shot->location);
+    }
 }
 
 bool AppDelegate::isCapture(const QString &path) const {

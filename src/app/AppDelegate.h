@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/CaptureCommand.h"
 #include "base/ThreadQueue.h"
 #include "platform/Platform.h"
 #include "recognition/model/OCRRecognizer.h"
@@ -25,6 +26,7 @@ class ShelfSession;
 class SettingsPresenting;
 class UpdateAlerts;
 struct ProgramStatus;
+struct Shot;
 
 // The composition root: makes the settings, then the flow, and answers the program's life-cycle questions.
 // Main thread; lives in main().
@@ -44,6 +46,9 @@ public:
     // Ends the program if it may end.
     void terminate();
 
+    // Called with each new capture, for those who listen from outside.
+    std::function<void(const QString &path)> onNewCapture;
+
     // What a command of another process does here.
     [[nodiscard]] Result<QString> perform(const QString &command, const QStringList &arguments);
 
@@ -58,6 +63,7 @@ private:
     [[nodiscard]] std::unique_ptr<AppUpdater> makeUpdater();
     // Its items in the menus, and what it tells the user.
     void connectUpdater();
+    void receiveNewCaptures(const std::vector<Shot> &shots);
     [[nodiscard]] std::unique_ptr<FileWatcherService> makeFileWatcher();
     // Asks the screenshot tool how names begin, on the queue that the function is used on.
     [[nodiscard]] std::function<QString()> makeCustomPrefix() const;
@@ -86,6 +92,7 @@ private:
     ThreadQueue m_desktopQueue;
     ThreadQueue m_updateQueue;
     OCRRecognizer m_ocrRecognizer;
+    CaptureCommand m_captureCommand;
     std::unique_ptr<EditorImageCopies> m_imageCopies;
     std::unique_ptr<AppSettings> m_settings;
     std::unique_ptr<AppUpdater> m_updater;

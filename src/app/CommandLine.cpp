@@ -29,16 +29,16 @@ std::optional<CommandLine::Verb> verbNamed(const QString &word) {
         {QStringLiteral("add"), Verb::add},           {QStringLiteral("edit"), Verb::edit},
         {QStringLiteral("scan"), Verb::scan},         {QStringLiteral("render"), Verb::render},
         {QStringLiteral("ocr"), Verb::ocr},           {QStringLiteral("quit"), Verb::quit},
-        {QStringLiteral("settings"), Verb::settings}, {QStringLiteral("help"), Verb::help},
-        {QStringLiteral("--help"), Verb::help},       {QStringLiteral("-h"), Verb::help},
-        {QStringLiteral("--version"), Verb::version}};
+        {QStringLiteral("settings"), Verb::settings}, {QStringLiteral("doctor"), Verb::doctor},
+        {QStringLiteral("help"), Verb::help},         {QStringLiteral("--help"), Verb::help},
+        {QStringLiteral("-h"), Verb::help},           {QStringLiteral("--version"), Verb::version}};
     const auto found = verbs.constFind(word);
     return found == verbs.cend() ? std::nullopt : std::optional(*found);
 }
 
 bool hasJson(CommandLine::Verb verb) {
     using Verb = CommandLine::Verb;
-    return verb == Verb::status || verb == Verb::scan || verb == Verb::ocr;
+    return verb == Verb::status || verb == Verb::scan || verb == Verb::ocr || verb == Verb::doctor;
 }
 
 // What `ocr` can be told; false for every other word.
@@ -86,7 +86,7 @@ Result<void> takeWord(CommandLine &line, QStringList &words) {
         if (!settingsPageNamed(word))
             return wrongUsage(translated(QT_TRANSLATE_NOOP(
                 "CommandLine",
-                "settings takes general, screenshots, editor, tray, text, shortcut or about.")));
+                "settings takes general, screenshots, editor, tray, text, shortcut, doctor or about.")));
         line.page = word;
         return {};
     }
@@ -148,7 +148,8 @@ QString CommandLine::usage() {
         "  tembra add FILE...           put files into the file tray\n"
         "  tembra edit FILE             open a screenshot in the editor\n"
         "  tembra settings [PAGE]       open the settings (PAGE: general, screenshots, editor,\n"
-        "                               tray, text, shortcut or about)\n"
+        "                               tray, text, shortcut, doctor or about)\n"
+        "  tembra doctor [--json]       tell what works on this desktop, and what mends the rest\n"
         "  tembra status [--json]       tell the state of the running one\n"
         "  tembra scan FOLDER [--json]  tell what is recognised as a capture, and why\n"
         "  tembra render FILE --edits EDITS.json -o OUT\n"

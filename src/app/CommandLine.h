@@ -19,6 +19,7 @@ struct CommandLine {
         edit,
         settings,
         status,
+        doctor,
         scan,
         render,
         ocr,

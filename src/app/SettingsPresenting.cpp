@@ -1,10 +1,12 @@
 #include "app/SettingsPresenting.h"
 
 #include "app/Alert.h"
+#include "app/DoctorServices.h"
 #include "base/Background.h"
 #include "session/ShelfSession.h"
 #include "shelf/FolderChooser.h"
 #include "shelf/ShelfController.h"
+#include "shortcut/ShortcutTitle.h"
 
 namespace tembra {
 
@@ -43,7 +45,19 @@ ImageToTextSettingsPage::Actions textActions(const Services &services, const Gen
             .usualLanguages = [&recognizer] { return recognizer.usualLanguages(); }};
 }
 
-SettingsWindowController::Services windowServices(const Services &services, const Generation &life) {
+// What the settings hold now, and what became of it.
+DoctorSubject doctorSubject(const AppSettings &settings, const ActivationShortcutControl &shortcut) {
+    const AppSettingsState &state = settings.state();
+    return {.folder = state.screenshotsFolder ? state.screenshotsFolder : settings.lostScreenshotsFolder(),
+            .isShortcutOn = state.shortcutEnabled,
+            .shortcutTitle = platformTitle(state.activationShortcut),
+            .shortcutError = shortcut.error(),
+            .languages = state.textRecognitionLanguages,
+            .newCaptureCommand = state.newCaptureCommand};
+}
+
+SettingsWindowController::Services windowServices(const Services &services, const Generation &life,
+                                                  Doctor &doctor) {
     return {.settings = services.settings,
             .defaults = *services.platform.defaults,
             .loginItem = services.platform.loginItem,
@@ -52,6 +66,8 @@ SettingsWindowController::Services windowServices(const Services &services, cons
             .updater = services.updater,
             .screenshots = screenshotActions(services),
             .imageToText = textActions(services, life),
+            .examine = [&doctor, &settings = services.settings, &shortcut = services.shelf.shortcut()](
+                           auto told) { doctor.examine(doctorSubject(settings, shortcut), std::move(told)); },
             .onError = showAlert,
             .onQuit = services.onQuit};
 }
@@ -59,7 +75,9 @@ SettingsWindowController::Services windowServices(const Services &services, cons
 } // namespace
 
 SettingsPresenting::SettingsPresenting(const Services &services)
-    : m_shelf(services.shelf), m_controller(windowServices(services, m_life)) {
+    : m_shelf(services.shelf),
+      m_doctor(doctorServices(services.platform, services.scheduler, services.queue)),
+      m_controller(windowServices(services, m_life, m_doctor)) {
     m_shelf.onShowSettings = [this] { show(std::nullopt); };
     m_shelf.onShowScreenshotSettings = [this] { show(SettingsPageId::screenshots); };
     TextRecognizer &recognizer = *services.platform.textRecognizer;

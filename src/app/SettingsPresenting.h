@@ -2,6 +2,7 @@
 
 #include "base/Generation.h"
 #include "base/SerialQueue.h"
+#include "doctor/Doctor.h"
 #include "platform/Platform.h"
 #include "windows/settings/SettingsWindowController.h"
 
@@ -15,7 +16,7 @@ public:
     struct Services {
         Platform &platform;
         Scheduler &scheduler;
-        // Asks the text recognition what is installed.
+        // Asks the text recognition what is installed, and waits for disks.
         SerialQueue &queue;
         AppSettings &settings;
         ShelfController &shelf;
@@ -37,6 +38,7 @@ public:
 private:
     ShelfController &m_shelf;
     Generation m_life;
+    Doctor m_doctor;
     SettingsWindowController m_controller;
 };
 

@@ -1,5 +1,7 @@
 #include "app/AppDelegate.h"
+#include "app/Catalogues.h"
 #include "app/CommandLine.h"
+#include "app/DoctorCommand.h"
 #include "app/OCRCommand.h"
 #include "app/RenderCommand.h"
 #include "app/ScanCommand.h"
@@ -11,7 +13,7 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QTranslator>
+#include <QLocale>
 
 #include <cstdio>
 #include <cstdlib>
@@ -43,11 +45,6 @@ QStringList wordsOf(int argc, char **argv) {
 void describeProgram() {
     QCoreApplication::setApplicationName(QStringLiteral("Tembra"));
     QCoreApplication::setApplicationVersion(QStringLiteral(TEMBRA_VERSION));
-}
-
-void loadWording(QTranslator &wording) {
-    if (wording.load(platformWordingCatalogue()))
-        QCoreApplication::installTranslator(&wording);
 }
 
 // The running program has another current folder, and a message carries nothing but text.
@@ -85,6 +82,7 @@ Result<QString> sendToRunning(const CommandLine &line) {
     case Verb::scan:
     case Verb::render:
     case Verb::ocr:
+    case Verb::doctor:
     case Verb::help:
     case Verb::version:
         break;
@@ -96,19 +94,30 @@ Result<QString> sendToRunning(const CommandLine &line) {
 int runPictureCommand(const CommandLine &line, int argc, char **argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
-    QTranslator wording;
-    loadWording(wording);
+    const Catalogues catalogues(QLocale::system().uiLanguages());
     return finish(line.verb == CommandLine::Verb::ocr ? readText(line)
                                                       : renderImage(line.path, line.edits, line.output));
 }
 
-// A command that ends by itself, without windows.
+// On the display of the desktop, as the program itself.
+int runDoctor(const CommandLine &line, int argc, char **argv) {
+    preparePlatformEnvironment();
+    const QApplication application(argc, argv);
+    const Catalogues catalogues(QLocale::system().uiLanguages());
+    QtScheduler scheduler;
+    const DoctorReport report = examineDesktop(scheduler);
+    print(stdout, line.json ? QString::fromUtf8(report.json()) : report.text());
+    return report.isHealthy() ? done : failed;
+}
+
+// A command that ends by itself.
 int runCommand(const CommandLine &line, int argc, char **argv) {
     if (line.verb == CommandLine::Verb::render || line.verb == CommandLine::Verb::ocr)
         return runPictureCommand(line, argc, argv);
+    if (line.verb == CommandLine::Verb::doctor)
+        return runDoctor(line, argc, argv);
     const QCoreApplication application(argc, argv);
-    QTranslator wording;
-    loadWording(wording);
+    const Catalogues catalogues(QLocale::system().uiLanguages());
     switch (line.verb) {
     case CommandLine::Verb::help:
         print(stdout, CommandLine::usage());
@@ -128,8 +137,7 @@ int runShelf(const CommandLine &line, int argc, char **argv) {
     preparePlatformEnvironment();
     const QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    QTranslator wording;
-    loadWording(wording);
+    const Catalogues catalogues(QLocale::system().uiLanguages());
 
     QtScheduler scheduler;
     Platform platform = makePlatform(scheduler);
@@ -156,6 +164,7 @@ int runShelf(const CommandLine &line, int argc, char **argv) {
     if (!claimed)
         qWarning("%s", qUtf8Printable(claimed.error().message));
 
+    delegate.onNewCapture = [&instance](const QString &path) { instance->announceCapture(path); };
     QObject::connect(&application, &QCoreApplication::aboutToQuit, &application, [&] {
         delegate.applicationWillTerminate();
         instance->release();

@@ -3,6 +3,7 @@
 #include "base/Scheduler.h"
 #include "platform/Bookmarks.h"
 #include "platform/CaptureMarkers.h"
+#include "platform/DesktopFindings.h"
 #include "platform/Displays.h"
 #include "platform/FileCoordinator.h"
 #include "platform/FileFacts.h"
@@ -54,6 +55,8 @@ struct Platform {
     std::unique_ptr<ThumbnailCache> thumbnailCache;
     std::unique_ptr<TextRecognizer> textRecognizer;
     LoginItemService loginItem;
+    // Where volumes are mounted on which the user may keep files; any thread.
+    std::function<QStringList()> userVolumes;
     // The services below need a display and are absent in commands that run without one.
     std::unique_ptr<Displays> displays;
     std::unique_ptr<Workspace> workspace;
@@ -65,6 +68,8 @@ struct Platform {
     std::unique_ptr<Pasteboard> pasteboard;
     std::unique_ptr<FilePromises> filePromises;
     std::unique_ptr<Sounds> sounds;
+    // What this desktop lets the program do; main thread.
+    std::function<DesktopFindings()> desktopFindings;
 };
 
 // Files, settings and the screenshot tool: enough for commands without windows. The scheduler must outlive
@@ -79,7 +84,8 @@ struct Platform {
 void preparePlatformEnvironment();
 // Whether the system's packages installed the program, and so update it. Needs an application object.
 [[nodiscard]] bool isPackageManaged();
-// The translation catalogue that rewords texts which name things of another platform.
-[[nodiscard]] QString platformWordingCatalogue();
+// The name of the translation catalogue that rewords, in that language ("en"), texts which name things of
+// another platform.
+[[nodiscard]] QString platformWordingCatalogue(const QString &language);
 
 } // namespace tembra

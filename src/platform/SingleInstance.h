@@ -23,6 +23,8 @@ public:
     [[nodiscard]] virtual Result<void> claim(Handler handler) = 0;
     // Lets the next one claim; what was asked before is still answered.
     virtual void release() = 0;
+    // Tells every program that listens that there is a new capture.
+    virtual void announceCapture(const QString &path) = 0;
     // Sends a command to the running program; with `startIfNeeded` the session may start it first, where it
     // knows how.
     [[nodiscard]] virtual Result<QString> send(const QString &command, const QStringList &arguments,

@@ -138,6 +138,11 @@ void AppSettings::setTextRecognitionLanguages(const QStringList &codes) {
            [&] { m_defaults.setStringArray(settingsKey::textRecognitionLanguages, codes); });
 }
 
+void AppSettings::setNewCaptureCommand(const QStringList &command) {
+    assign(&AppSettingsState::newCaptureCommand, command,
+           [&] { m_defaults.setStringArray(settingsKey::newCaptureCommand, command); });
+}
+
 void AppSettings::setScreenshotAutoClean(ScreenshotAutoCleanPeriod period) {
     assign(&AppSettingsState::screenshotAutoClean, period, [&] {
         m_defaults.setInteger(settingsKey::screenshotAutoCleanDays, static_cast<int>(period));

@@ -75,6 +75,8 @@ public:
     void setGroupScreenshotsByDate(bool grouped);
     // None means those of the desktop.
     void setTextRecognitionLanguages(const QStringList &codes);
+    // Empty for none.
+    void setNewCaptureCommand(const QStringList &command);
     void setScreenshotAutoClean(ScreenshotAutoCleanPeriod period);
     // Switches the screenshot tool's floating thumbnail off, or back to how it was before.
     Result<void> setScreenshotPreviewDisabled(bool disabled);

@@ -39,6 +39,8 @@ struct AppSettingsState {
     bool groupScreenshotsByDate = false;
     // As the text recognition names them; none means those of the desktop.
     QStringList textRecognitionLanguages;
+    // Run for each new capture, without a shell: a program and its arguments. None by default.
+    QStringList newCaptureCommand;
     ScreenshotAutoCleanPeriod screenshotAutoClean = ScreenshotAutoCleanPeriod::never;
 
     bool operator==(const AppSettingsState &) const = default;

@@ -7,6 +7,7 @@
 namespace tembra {
 
 QString title(ScreenshotAutoCleanPeriod period) {
+    const int days = static_cast<int>(period);
     switch (period) {
     case ScreenshotAutoCleanPeriod::never:
         return QCoreApplication::translate("ScreenshotAutoCleanPeriod", "Never");
@@ -15,8 +16,7 @@ QString title(ScreenshotAutoCleanPeriod period) {
     case ScreenshotAutoCleanPeriod::threeDays:
     case ScreenshotAutoCleanPeriod::sevenDays:
     case ScreenshotAutoCleanPeriod::thirtyDays:
-        return QCoreApplication::translate("ScreenshotAutoCleanPeriod", "%1 days")
-            .arg(static_cast<int>(period));
+        return QCoreApplication::translate("ScreenshotAutoCleanPeriod", "%n days", nullptr, days);
     }
     Q_UNREACHABLE();
 }

@@ -22,6 +22,8 @@ inline const QString showFileNames = QStringLiteral("showFileNames");
 inline const QString groupScreenshotsByDate = QStringLiteral("groupScreenshotsByDate");
 inline const QString screenshotAutoCleanDays = QStringLiteral("screenshotAutoCleanDays");
 inline const QString textRecognitionLanguages = QStringLiteral("textRecognitionLanguages");
+// A program and its arguments.
+inline const QString newCaptureCommand = QStringLiteral("newCaptureCommand");
 inline const QString pinnedScreenshotBookmarks = QStringLiteral("pinnedScreenshotBookmarks");
 inline const QString autoCleanRestoredFiles = QStringLiteral("autoCleanRestoredFiles");
 // The review of an auto-clean that was on before the review existed: 0 still owed to the user, 1 shown but

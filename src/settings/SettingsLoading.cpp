@@ -30,6 +30,8 @@ AppSettingsState loadSettings(const UserDefaults &defaults) {
     read(settingsKey::groupScreenshotsByDate, state.groupScreenshotsByDate);
     state.textRecognitionLanguages =
         defaults.stringArray(settingsKey::textRecognitionLanguages).value_or(QStringList());
+    state.newCaptureCommand =
+        defaults.stringArray(settingsKey::newCaptureCommand).value_or(QStringList());
     state.screenshotAutoClean =
         autoCleanPeriodFromDays(defaults.integer(settingsKey::screenshotAutoCleanDays).value_or(0));
     return state;

@@ -82,6 +82,8 @@ public:
     std::function<void(const Shot &, const ScreenRect &display)> onOpenInEditor;
     // Screenshots came, went or changed.
     std::function<void()> onShotsChanged;
+    // Captures have arrived, newest first.
+    std::function<void(const std::vector<Shot> &)> onNewCaptures;
     // Where the screenshot tool saves was read.
     std::function<void(const ScreenshotDestination &)> onDestinationRead;
 

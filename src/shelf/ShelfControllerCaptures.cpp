@@ -28,6 +28,8 @@ void ShelfController::receiveNewFiles(const std::vector<Shot> &shots) {
     const bool isFirst = !m_settings.state().hasCaughtFirstScreenshot;
     m_settings.markFirstScreenshotCaught();
     announce(shots, isFirst);
+    if (onNewCaptures)
+        onNewCaptures(shots);
     // The others of a series stand beside it.
     const std::vector<Shot> taken = m_screenshotAutoOpen.take(shots);
     if (!taken.empty())

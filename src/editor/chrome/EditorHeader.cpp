@@ -78,8 +78,8 @@ void EditorHeader::apply(const EditorHeaderState &state) {
     m_name->setDirty(state.isDirty);
     m_undo->setEnabled(state.canUndo);
     m_redo->setEnabled(state.canRedo);
-    const QString undo = tr("Undo %1").arg(state.undoName).trimmed();
-    const QString redo = tr("Redo %1").arg(state.redoName).trimmed();
+    const QString undo = state.undoName.isEmpty() ? tr("Undo") : tr("Undo %1").arg(state.undoName);
+    const QString redo = state.redoName.isEmpty() ? tr("Redo") : tr("Redo %1").arg(state.redoName);
     setToolTipWithKeys(*m_undo, undo, QKeySequence(Qt::CTRL | Qt::Key_Z));
     setToolTipWithKeys(*m_redo, redo, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
     m_save->setEnabled(state.canSave && !state.isSaving);

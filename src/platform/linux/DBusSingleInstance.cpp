@@ -47,12 +47,13 @@ Result<void> DBusSingleInstance::claim(Handler handler) {
         return noBus();
     // The object is there before the name is, so that a call that waited for the name finds it.
     m_object = std::make_unique<QObject>();
-    new TembraAdaptor(m_object.get(), handler);
+    m_adaptor = new TembraAdaptor(m_object.get(), handler);
     new ApplicationAdaptor(m_object.get(), std::move(handler));
     bus.registerObject(objectPath, m_object.get());
     if (bus.registerService(serviceName))
         return {};
     bus.unregisterObject(objectPath);
+    m_adaptor = nullptr;
     m_object.reset();
     return instanceFailure(alreadyRunning,
                            translated(QT_TRANSLATE_NOOP("SingleInstance", "Tembra is already running.")));
@@ -61,6 +62,11 @@ Result<void> DBusSingleInstance::claim(Handler handler) {
 void DBusSingleInstance::release() {
     if (m_object)
         QDBusConnection::sessionBus().unregisterService(serviceName);
+}
+
+void DBusSingleInstance::announceCapture(const QString &path) {
+    if (m_adaptor)
+        Q_EMIT m_adaptor->CaptureArrived(path);
 }
 
 Result<QString> DBusSingleInstance::send(const QString &command, const QStringList &arguments,

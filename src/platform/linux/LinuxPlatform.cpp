@@ -15,6 +15,7 @@
 #include "platform/linux/LinuxStandardFolders.h"
 #include "platform/linux/LinuxTrash.h"
 #include "platform/linux/ThumbnailCacheFolder.h"
+#include "platform/linux/UserVolumes.h"
 #include "platform/linux/desktop/DesktopServices.h"
 #include "platform/linux/recognition/TesseractOCRRecognizer.h"
 #include "platform/linux/tools/ScreenshotTool.h"
@@ -47,6 +48,7 @@ Platform makeHeadlessPlatform(Scheduler &scheduler) {
     platform.textRecognizer =
         std::make_unique<TesseractOCRRecognizer>(TesseractOCRRecognizer::installedWorker());
     platform.loginItem = AutostartEntry::ofUser().service();
+    platform.userVolumes = userVolumes;
     platform.fileFacts = std::move(facts);
     return platform;
 }
@@ -63,6 +65,7 @@ Platform makePlatform(Scheduler &scheduler) {
     platform.pasteboard = std::move(desktop.pasteboard);
     platform.filePromises = std::move(desktop.filePromises);
     platform.sounds = std::move(desktop.sounds);
+    platform.desktopFindings = std::move(desktop.findings);
     platform.thumbnails =
         std::make_unique<FreedesktopThumbnails>(scheduler, FreedesktopThumbnails::userLocations());
     return platform;
@@ -85,8 +88,8 @@ bool isPackageManaged() {
     return QFileInfo::exists(programs.filePath(QStringLiteral("../share/tembra/package-managed")));
 }
 
-QString platformWordingCatalogue() {
-    return QStringLiteral(":/tembra/tembra_linux_en.qm");
+QString platformWordingCatalogue(const QString &language) {
+    return QStringLiteral("tembra_linux_") + language;
 }
 
 } // namespace tembra

@@ -60,7 +60,8 @@ void describeFirstScreenshot(const OnboardingState &state, OnboardingPage &page)
     page.scene = OnboardingScene::waiting;
     page.heading = text(QT_TRANSLATE_NOOP("Onboarding", "Take your first screenshot"));
     page.text = text(QT_TRANSLATE_NOOP("Onboarding", "Take a screenshot the way you always do, with Print "
-                                                     "for\u00a0example. Tembra waits for it here."));
+                                                     "for\u00a0"
+                                                     "example. Tembra waits for it here."));
     page.link = text(QT_TRANSLATE_NOOP("Onboarding", "Skip"));
 }
 

@@ -3,10 +3,12 @@
 #include "controls/TembraButton.h"
 #include "controls/TembraDropdownPopup.h"
 #include "controls/TembraSettingsRow.h"
+#include "controls/TembraTextField.h"
 #include "controls/TembraToggle.h"
 #include "settings/FolderPath.h"
 
 #include <QDir>
+#include <QProcess>
 
 #include <algorithm>
 
@@ -16,6 +18,17 @@ namespace {
 
 TembraButton *rowButton(const QString &title) {
     return new TembraButton(TembraButton::Kind::plain, TembraButton::Size::compact, title);
+}
+
+// As QProcess::splitCommand takes it apart.
+QString commandText(const QStringList &command) {
+    QStringList words;
+    for (QString word : command) {
+        const bool needsQuotes = word.isEmpty() || word.contains(u' ') || word.contains(u'"');
+        word.replace(u'"', QStringLiteral("\"\"\""));
+        words += needsQuotes ? u'"' + word + u'"' : word;
+    }
+    return words.join(u' ');
 }
 
 } // namespace
@@ -71,6 +84,21 @@ void ScreenshotsSettingsPage::addReactions() {
     setRowShown(addRow(tr("Hide the screenshot tool’s preview"), hide), m_actions.hasPreview());
     connect(hide, &QAbstractButton::clicked, this, &ScreenshotsSettingsPage::setPreviewHidden);
     onRefresh([this, hide] { hide->setChecked(state().screenshotPreviewDisabled); });
+    addCommand();
+}
+
+void ScreenshotsSettingsPage::addCommand() {
+    auto *command = new TembraTextField;
+    command->setPlaceholderText(tr("None"));
+    addRow(tr("Run a command"), command,
+           tr("A program with its arguments. {} stands for the file, which else comes last."));
+    connect(command, &QLineEdit::editingFinished, this,
+            [this, command] { settings().setNewCaptureCommand(QProcess::splitCommand(command->text())); });
+    onRefresh([this, command] {
+        // What is being typed is not written over.
+        if (!command->hasFocus() || !command->isModified())
+            command->setText(commandText(state().newCaptureCommand));
+    });
 }
 
 void ScreenshotsSettingsPage::setPreviewHidden(bool isHidden) {

@@ -32,6 +32,7 @@ Q_SIGNALS:
 private:
     void addLocation();
     void addReactions();
+    void addCommand();
     void addGrid();
     void addAutoClean();
     void chooseFolder();

@@ -25,6 +25,8 @@ Names namesOf(SettingsPageId page) {
         return {QT_TRANSLATE_NOOP("SettingsPage", "Image to Text"), "text"};
     case SettingsPageId::shortcut:
         return {QT_TRANSLATE_NOOP("SettingsPage", "Shortcut"), "shortcut"};
+    case SettingsPageId::doctor:
+        return {QT_TRANSLATE_NOOP("SettingsPage", "Doctor"), "doctor"};
     case SettingsPageId::about:
         break;
     }

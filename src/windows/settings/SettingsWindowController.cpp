@@ -2,6 +2,7 @@
 
 #include "windows/settings/AboutSettingsPage.h"
 #include "windows/settings/AutoCleanQuestion.h"
+#include "windows/settings/DoctorSettingsPage.h"
 #include "windows/settings/EditorSettingsPage.h"
 #include "windows/settings/FileTraySettingsPage.h"
 #include "windows/settings/GeneralSettingsPage.h"
@@ -77,6 +78,8 @@ SettingsPage *SettingsWindowController::makePage(SettingsPageId id) {
         return new ImageToTextSettingsPage(settings, m_services.imageToText);
     case SettingsPageId::shortcut:
         return new ShortcutSettingsPage(settings, m_services.shortcut, m_services.hotKeys);
+    case SettingsPageId::doctor:
+        return new DoctorSettingsPage(settings, m_services.examine);
     case SettingsPageId::about:
         break;
     }

@@ -2,6 +2,7 @@
 
 #include "platform/LoginItemService.h"
 #include "platform/UserDefaults.h"
+#include "windows/settings/DoctorSettingsPage.h"
 #include "windows/settings/ImageToTextSettingsPage.h"
 #include "windows/settings/ScreenshotsSettingsPage.h"
 #include "windows/settings/SettingsPageId.h"
@@ -34,6 +35,7 @@ public:
         // Its question is asked here where it has none.
         ScreenshotsSettingsPage::Actions screenshots;
         ImageToTextSettingsPage::Actions imageToText;
+        DoctorSettingsPage::Examine examine;
         std::function<void(const QString &title, const QString &message)> onError;
         std::function<void()> onQuit;
     };

@@ -2,6 +2,7 @@
 
 #include "platform/linux/desktop/CanberraSounds.h"
 #include "platform/linux/desktop/DesktopFilePromises.h"
+#include "platform/linux/desktop/DesktopPaths.h"
 #include "platform/linux/desktop/LinuxWorkspace.h"
 #include "platform/linux/desktop/PortalHotKeys.h"
 #include "platform/linux/desktop/QtDisplays.h"
@@ -14,6 +15,8 @@
 #include "platform/linux/desktop/X11HotZones.h"
 #include "platform/linux/desktop/X11InputMonitor.h"
 #include "platform/linux/desktop/X11PanelWindows.h"
+
+#include <QSystemTrayIcon>
 
 namespace tembra {
 
@@ -34,6 +37,31 @@ std::unique_ptr<HotKeys> makeHotKeys(const std::shared_ptr<X11Connection> &conne
     return std::make_unique<PortalHotKeys>();
 }
 
+DesktopPaths::Windows windowsPath(const X11Connection *connection) {
+    if (!connection)
+        return DesktopPaths::Windows::plainWayland;
+    if (!qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
+        return DesktopPaths::Windows::xwayland;
+    const QByteArray compositor = "_NET_WM_CM_S" + QByteArray::number(connection->screenNumber());
+    return connection->selectionOwner(connection->atom(compositor)) == XCB_WINDOW_NONE
+               ? DesktopPaths::Windows::x11Uncomposited
+               : DesktopPaths::Windows::x11;
+}
+
+DesktopPaths::Shortcut shortcutPath(const HotKeys &hotKeys) {
+    if (!hotKeys.areAvailable())
+        return DesktopPaths::Shortcut::none;
+    return dynamic_cast<const PortalHotKeys *>(&hotKeys) ? DesktopPaths::Shortcut::portal
+                                                         : DesktopPaths::Shortcut::grab;
+}
+
+DesktopPaths::Clipboard clipboardPath(const Pasteboard &pasteboard) {
+    if (dynamic_cast<const WaylandDataControlPasteboard *>(&pasteboard))
+        return DesktopPaths::Clipboard::dataControl;
+    return qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ? DesktopPaths::Clipboard::x11
+                                                          : DesktopPaths::Clipboard::focusedOnly;
+}
+
 } // namespace
 
 DesktopServices makeDesktopServices(Scheduler &scheduler, std::optional<CameraHousing> camera) {
@@ -45,6 +73,14 @@ DesktopServices makeDesktopServices(Scheduler &scheduler, std::optional<CameraHo
     services.pasteboard = makePasteboard(scheduler, connection);
     services.hotKeys = makeHotKeys(connection);
     services.filePromises = std::make_unique<DesktopFilePromises>(connection);
+    services.findings = [connection, hotKeys = services.hotKeys.get(),
+                         pasteboard = services.pasteboard.get()] {
+        return DesktopPaths{.windows = windowsPath(connection.get()),
+                            .clipboard = clipboardPath(*pasteboard),
+                            .shortcut = shortcutPath(*hotKeys),
+                            .hasStatusItems = QSystemTrayIcon::isSystemTrayAvailable()}
+            .findings();
+    };
     if (!connection) {
         services.inputMonitor = std::make_unique<QtInputMonitor>();
         services.panelWindows = std::make_unique<QtPanelWindows>();

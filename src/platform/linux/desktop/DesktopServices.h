@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Scheduler.h"
+#include "platform/DesktopFindings.h"
 #include "platform/Displays.h"
 #include "platform/FilePromises.h"
 #include "platform/HotKeys.h"
@@ -12,6 +13,7 @@
 #include "platform/Workspace.h"
 #include "platform/linux/desktop/CameraHousing.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -28,6 +30,8 @@ struct DesktopServices {
     std::unique_ptr<Sounds> sounds;
     std::unique_ptr<Pasteboard> pasteboard;
     std::unique_ptr<FilePromises> filePromises;
+    // By which of its ways these work.
+    std::function<DesktopFindings()> findings;
 };
 
 // The services for the windowing system that Qt runs on. The application object and the scheduler must
