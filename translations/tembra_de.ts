@@ -5,64 +5,64 @@
     <name>ActivationShortcut</name>
     <message>
         <source>Enter</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingabe</translation>
     </message>
     <message>
         <source>Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Tab</translation>
     </message>
     <message>
         <source>Space</source>
-        <translation type="unfinished"></translation>
+        <translation>Leertaste</translation>
     </message>
     <message>
         <source>Backspace</source>
-        <translation type="unfinished"></translation>
+        <translation>Rücktaste</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Entf</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Links</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechts</translation>
     </message>
     <message>
         <source>Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Runter</translation>
     </message>
     <message>
         <source>Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Hoch</translation>
     </message>
     <message>
         <source>Ctrl</source>
-        <translation type="unfinished"></translation>
+        <translation>Strg</translation>
     </message>
     <message>
         <source>Alt</source>
-        <translation type="unfinished"></translation>
+        <translation>Alt</translation>
     </message>
     <message>
         <source>Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Umschalt</translation>
     </message>
     <message>
         <source>Super</source>
-        <translation type="unfinished"></translation>
+        <translation>Super</translation>
     </message>
 </context>
 <context>
     <name>Alert</name>
     <message numerus="yes">
         <source>and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>und %n weitere</numerusform>
+            <numerusform>und %n weitere</numerusform>
         </translation>
     </message>
 </context>
@@ -70,187 +70,198 @@
     <name>AppDelegate</name>
     <message>
         <source>Tembra is still starting.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tembra startet noch.</translation>
     </message>
 </context>
 <context>
     <name>AutoClean</name>
     <message>
         <source>Some pinned files couldn’t be located. Auto-clean remains unchanged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einige angepinnte Dateien wurden nicht gefunden. Das automatische Aufräumen bleibt unverändert.</translation>
     </message>
 </context>
 <context>
     <name>AutoCleanChange</name>
     <message>
         <source>Couldn’t check screenshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirmfotos konnten nicht geprüft werden</translation>
     </message>
     <message>
         <source>Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Ändern</translation>
     </message>
     <message>
         <source>Enable</source>
-        <translation type="unfinished"></translation>
+        <translation>Einschalten</translation>
     </message>
     <message numerus="yes">
         <source>%n files will move to Trash when you click %1. Pinned files stay.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Datei wird in den Papierkorb verschoben, wenn Sie auf „%1“ klicken. Angepinnte Dateien bleiben.</numerusform>
+            <numerusform>%n Dateien werden in den Papierkorb verschoben, wenn Sie auf „%1“ klicken. Angepinnte Dateien bleiben.</numerusform>
         </translation>
     </message>
     <message>
         <source>Change auto-clean?</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatisches Aufräumen ändern?</translation>
     </message>
     <message>
         <source>Moves old screenshots and recordings to Trash, including existing ones. Pinned items stay.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschiebt alte Bildschirmfotos und Aufzeichnungen in den Papierkorb, auch schon vorhandene. Angepinntes bleibt.</translation>
     </message>
     <message>
         <source>Enable auto-clean?</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatisches Aufräumen einschalten?</translation>
     </message>
 </context>
 <context>
     <name>Bookmarks</name>
     <message>
         <source>The bookmark cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der gespeicherte Verweis kann nicht gelesen werden.</translation>
     </message>
     <message>
         <source>The disk that holds “%1” is not connected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Datenträger mit „%1“ ist nicht angeschlossen.</translation>
     </message>
     <message>
         <source>“%1” is not there any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist nicht mehr da.</translation>
+    </message>
+</context>
+<context>
+    <name>CaptureCommand</name>
+    <message>
+        <source>Couldn’t Run the Command</source>
+        <translation>Der Befehl konnte nicht gestartet werden</translation>
+    </message>
+    <message>
+        <source>“%1”, which is to be run for new screenshots, could not be started.</source>
+        <translation>„%1“, das für neue Bildschirmfotos gestartet werden soll, ließ sich nicht starten.</translation>
     </message>
 </context>
 <context>
     <name>CaptureNotification</name>
     <message>
         <source>Got it! First one caught</source>
-        <translation type="unfinished"></translation>
+        <translation>Hab’s! Die erste Aufnahme</translation>
     </message>
     <message>
         <source>Got the recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Aufzeichnung ist da</translation>
     </message>
     <message>
         <source>Screenshot saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirmfoto gespeichert</translation>
     </message>
     <message numerus="yes">
         <source>%n captures</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Aufnahme</numerusform>
+            <numerusform>%n Aufnahmen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n screenshots</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Bildschirmfoto</numerusform>
+            <numerusform>%n Bildschirmfotos</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 · copied</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · kopiert</translation>
     </message>
     <message>
         <source>Copies when you open the shelf</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopie beim Öffnen der Leiste</translation>
     </message>
 </context>
 <context>
     <name>ClearScreenshots</name>
     <message numerus="yes">
         <source>Move %n screenshots to Trash?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Bildschirmfoto in den Papierkorb verschieben?</numerusform>
+            <numerusform>%n Bildschirmfotos in den Papierkorb verschieben?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n pinned screenshots stay.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n angepinntes Bildschirmfoto bleibt.</numerusform>
+            <numerusform>%n angepinnte Bildschirmfotos bleiben.</numerusform>
         </translation>
     </message>
     <message>
         <source>Move to Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>In den Papierkorb</translation>
     </message>
 </context>
 <context>
     <name>ClipboardStore</name>
     <message>
         <source>Could not receive this file</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Datei konnte nicht empfangen werden</translation>
     </message>
     <message>
         <source>Could not add this image</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Bild konnte nicht hinzugefügt werden</translation>
     </message>
     <message>
         <source>Pipes, sockets and devices cannot be kept in the file tray</source>
-        <translation type="unfinished"></translation>
+        <translation>Pipes, Sockets und Geräte lassen sich nicht in der Dateiablage aufbewahren</translation>
     </message>
     <message>
         <source>Some files could not be received</source>
-        <translation type="unfinished"></translation>
+        <translation>Einige Dateien konnten nicht empfangen werden</translation>
     </message>
     <message>
         <source>Receiving files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien werden empfangen&#xa0;…</translation>
     </message>
 </context>
 <context>
     <name>CommandLine</name>
     <message>
         <source>--tab takes tray, screenshots or text.</source>
-        <translation type="unfinished"></translation>
+        <translation>--tab nimmt tray, screenshots oder text an.</translation>
     </message>
     <message>
         <source>%1 takes a file.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>settings takes general, screenshots, editor, tray, text, shortcut or about.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 braucht eine Datei.</translation>
     </message>
     <message>
         <source>Unexpected word on the command line: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Unerwartetes Wort in der Befehlszeile: %1</translation>
     </message>
     <message>
         <source>There is no command “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Befehl „%1“ gibt es nicht.</translation>
     </message>
     <message>
         <source>scan takes the folder to look at.</source>
-        <translation type="unfinished"></translation>
+        <translation>scan braucht den Ordner, der untersucht werden soll.</translation>
     </message>
     <message>
         <source>add takes the files to put into the file tray.</source>
-        <translation type="unfinished"></translation>
+        <translation>add braucht die Dateien, die in die Dateiablage sollen.</translation>
     </message>
     <message>
         <source>edit takes the image to open.</source>
-        <translation type="unfinished"></translation>
+        <translation>edit braucht das Bild, das geöffnet werden soll.</translation>
     </message>
     <message>
         <source>ocr takes the image to read.</source>
-        <translation type="unfinished"></translation>
+        <translation>ocr braucht das Bild, das gelesen werden soll.</translation>
     </message>
     <message>
         <source>render takes an image, --edits and -o with a file each.</source>
-        <translation type="unfinished"></translation>
+        <translation>render braucht ein Bild sowie --edits und -o mit je einer Datei.</translation>
+    </message>
+    <message>
+        <source>settings takes general, screenshots, editor, tray, text, shortcut, doctor or about.</source>
+        <translation>settings nimmt general, screenshots, editor, tray, text, shortcut, doctor oder about.</translation>
     </message>
     <message>
         <source>Usage: tembra [COMMAND]
@@ -263,7 +274,8 @@
   tembra add FILE...           put files into the file tray
   tembra edit FILE             open a screenshot in the editor
   tembra settings [PAGE]       open the settings (PAGE: general, screenshots, editor,
-                               tray, text, shortcut or about)
+                               tray, text, shortcut, doctor or about)
+  tembra doctor [--json]       tell what works on this desktop, and what mends the rest
   tembra status [--json]       tell the state of the running one
   tembra scan FOLDER [--json]  tell what is recognised as a capture, and why
   tembra render FILE --edits EDITS.json -o OUT
@@ -273,2054 +285,2402 @@
   tembra quit                  end the running one
   tembra --version, --help
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Aufruf: tembra [BEFEHL]
+
+  tembra                       starten; läuft es schon, die Leiste zeigen
+  tembra --background          unsichtbar starten, wie bei der Anmeldung
+  tembra open [--tab TAB]      Leiste öffnen (TAB: tray, screenshots oder text)
+  tembra close                 Leiste schließen
+  tembra toggle                Leiste öffnen oder schließen
+  tembra add DATEI...          Dateien in die Dateiablage legen
+  tembra edit DATEI            ein Bildschirmfoto im Editor öffnen
+  tembra settings [SEITE]      Einstellungen öffnen (SEITE: general,
+                               screenshots, editor, tray, text, shortcut,
+                               doctor, about)
+  tembra doctor [--json]       zeigen, was in dieser Arbeitsumgebung geht und was
+                               den Rest behebt
+  tembra status [--json]       Zustand des laufenden Programms nennen
+  tembra scan ORDNER [--json]  nennen, was als Aufnahme erkannt wird und warum
+  tembra render DATEI --edits EDITS.json -o AUSGABE
+                               Anmerkungen und Zuschnitt auf ein Bild anwenden
+  tembra ocr DATEI [--paragraphs | --one-line] [--words] [--json]
+                               Text eines Bildes lesen
+  tembra quit                  laufendes Programm beenden
+  tembra --version, --help
+</translation>
     </message>
 </context>
 <context>
     <name>CommandService</name>
     <message>
         <source>Tembra does not know the command “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tembra kennt den Befehl „%1“ nicht.</translation>
     </message>
     <message>
         <source>This tab is not shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Tab wird nicht angezeigt.</translation>
     </message>
     <message>
         <source>The settings have no page of this name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungen haben keine Seite mit diesem Namen.</translation>
+    </message>
+</context>
+<context>
+    <name>DesktopPaths</name>
+    <message>
+        <source>X11, with a compositor. Nothing is missing.</source>
+        <translation>X11, mit Compositor. Nichts fehlt.</translation>
+    </message>
+    <message>
+        <source>X11, without a compositor: the shelf’s corners are not see-through.</source>
+        <translation>X11, ohne Compositor: Die Ecken der Leiste sind nicht durchsichtig.</translation>
+    </message>
+    <message>
+        <source>Start a compositor, for example picom.</source>
+        <translation>Starten Sie einen Compositor, zum Beispiel picom.</translation>
+    </message>
+    <message>
+        <source>Wayland, through its X server, because this desktop gives programs no place at the edge of the screen. Over windows of other programs the pointer may go unnoticed there.</source>
+        <translation>Wayland, über dessen X-Server, weil diese Arbeitsumgebung Programmen keinen Platz am Bildschirmrand gibt. Über Fenstern anderer Programme bleibt der Zeiger dort womöglich unbemerkt.</translation>
+    </message>
+    <message>
+        <source>Bind the command “tembra toggle” to a key in the keyboard settings of the desktop.</source>
+        <translation>Legen Sie in den Tastatureinstellungen der Arbeitsumgebung den Befehl „tembra toggle“ auf eine Taste.</translation>
+    </message>
+    <message>
+        <source>Wayland, as a layer of the desktop. Nothing is missing.</source>
+        <translation>Wayland, als Ebene der Arbeitsumgebung. Nichts fehlt.</translation>
+    </message>
+    <message>
+        <source>Wayland, on a desktop that gives programs no place at the edge of the screen.</source>
+        <translation>Wayland, auf einer Arbeitsumgebung, die Programmen keinen Platz am Bildschirmrand gibt.</translation>
+    </message>
+    <message>
+        <source>Install the desktop’s X server, Xwayland, and log in again.</source>
+        <translation>Installieren Sie den X-Server der Arbeitsumgebung, Xwayland, und melden Sie sich neu an.</translation>
+    </message>
+    <message>
+        <source>Through the X server.</source>
+        <translation>Über den X-Server.</translation>
+    </message>
+    <message>
+        <source>Through the desktop’s data control, also in the background.</source>
+        <translation>Über die Datensteuerung der Arbeitsumgebung, auch im Hintergrund.</translation>
+    </message>
+    <message>
+        <source>This desktop lets only the program with the keyboard use the clipboard. New screenshots may not be copied by themselves.</source>
+        <translation>Diese Arbeitsumgebung lässt nur das Programm mit der Tastatur an die Zwischenablage. Neue Bildschirmfotos werden womöglich nicht von selbst kopiert.</translation>
+    </message>
+    <message>
+        <source>Select the screenshot in the shelf and press Ctrl+C.</source>
+        <translation>Wählen Sie das Bildschirmfoto in der Leiste aus und drücken Sie Strg+C.</translation>
+    </message>
+    <message>
+        <source>Keys are taken from the X server.</source>
+        <translation>Tasten kommen vom X-Server.</translation>
+    </message>
+    <message>
+        <source>Keys are asked of the desktop’s portal.</source>
+        <translation>Tasten kommen vom Portal der Arbeitsumgebung.</translation>
+    </message>
+    <message>
+        <source>This desktop lets programs have no keys of their own.</source>
+        <translation>Diese Arbeitsumgebung gibt Programmen keine eigenen Tasten.</translation>
+    </message>
+    <message>
+        <source>Tembra is among the desktop’s status items.</source>
+        <translation>Tembra steht bei den Statussymbolen der Arbeitsumgebung.</translation>
+    </message>
+    <message>
+        <source>This desktop shows no status items.</source>
+        <translation>Diese Arbeitsumgebung zeigt keine Statussymbole.</translation>
+    </message>
+    <message>
+        <source>Start Tembra once more to open the shelf, or use “tembra toggle”. Under GNOME the extension AppIndicator shows status items.</source>
+        <translation>Starten Sie Tembra noch einmal, um die Leiste zu öffnen, oder verwenden Sie „tembra toggle“. Unter GNOME zeigt die Erweiterung AppIndicator Statussymbole.</translation>
+    </message>
+    <message>
+        <source>A new file in the folder was not noticed.</source>
+        <translation>Eine neue Datei im Ordner blieb unbemerkt.</translation>
+    </message>
+    <message>
+        <source>Let programs watch more folders: sudo sysctl fs.inotify.max_user_watches=524288</source>
+        <translation>Lassen Sie Programme mehr Ordner beobachten: sudo sysctl fs.inotify.max_user_watches=524288</translation>
+    </message>
+    <message>
+        <source>Text is read in: %1. Not installed: %2.</source>
+        <translation>Text wird gelesen in: %1. Nicht installiert: %2.</translation>
+    </message>
+    <message>
+        <source>Install the language’s data: sudo apt install tesseract-ocr-%1</source>
+        <translation>Installieren Sie die Daten der Sprache: sudo apt install tesseract-ocr-%1</translation>
     </message>
 </context>
 <context>
     <name>DesktopScreenshotOrganizer</name>
     <message>
         <source>“%1” is there already and is no folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ gibt es schon und ist kein Ordner.</translation>
     </message>
     <message>
         <source>The folder “%1” cannot be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner „%1“ kann nicht angelegt werden.</translation>
     </message>
     <message>
         <source>The folder “%1” cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner „%1“ kann nicht gelesen werden.</translation>
+    </message>
+</context>
+<context>
+    <name>Doctor</name>
+    <message>
+        <source>A window stands at the top edge of the screen.</source>
+        <translation>Ein Fenster steht am oberen Bildschirmrand.</translation>
+    </message>
+    <message>
+        <source>A window that was put at the top edge of the screen is not there.</source>
+        <translation>Ein Fenster, das an den oberen Bildschirmrand gesetzt wurde, ist nicht dort.</translation>
+    </message>
+    <message>
+        <source>Log in to another session of the desktop, for example on X11.</source>
+        <translation>Melden Sie sich in einer anderen Sitzung an, zum Beispiel unter X11.</translation>
+    </message>
+    <message>
+        <source>No folder was tried.</source>
+        <translation>Kein Ordner wurde geprüft.</translation>
+    </message>
+    <message>
+        <source>The folder is on another machine, which does not tell what changes there: new captures are looked for now and then.</source>
+        <translation>Der Ordner liegt auf einem anderen Rechner, der Änderungen nicht meldet: Nach neuen Aufnahmen wird von Zeit zu Zeit gesehen.</translation>
+    </message>
+    <message>
+        <source>A new file in the folder was noticed.</source>
+        <translation>Eine neue Datei im Ordner wurde bemerkt.</translation>
+    </message>
+    <message>
+        <source>Screenshots folder</source>
+        <translation>Bildschirmfoto-Ordner</translation>
+    </message>
+    <message>
+        <source>Changes in the folder</source>
+        <translation>Änderungen im Ordner</translation>
+    </message>
+    <message>
+        <source>Screenshot tool</source>
+        <translation>Bildschirmfoto-Programm</translation>
+    </message>
+    <message>
+        <source>Windows</source>
+        <translation>Fenster</translation>
+    </message>
+    <message>
+        <source>Place of the shelf</source>
+        <translation>Platz der Leiste</translation>
+    </message>
+    <message>
+        <source>Shortcut</source>
+        <translation>Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>Clipboard</source>
+        <translation>Zwischenablage</translation>
+    </message>
+    <message>
+        <source>Status item</source>
+        <translation>Statussymbol</translation>
+    </message>
+    <message>
+        <source>Languages of Image to Text</source>
+        <translation>Sprachen von „Text aus Bild“</translation>
+    </message>
+    <message>
+        <source>Command for new captures</source>
+        <translation>Befehl für neue Aufnahmen</translation>
+    </message>
+    <message>
+        <source>Trash for “%1”</source>
+        <translation>Papierkorb für „%1“</translation>
+    </message>
+    <message>
+        <source>Choose a folder in the settings: tembra settings screenshots</source>
+        <translation>Wählen Sie in den Einstellungen einen Ordner: tembra settings screenshots</translation>
+    </message>
+    <message>
+        <source>No folder is chosen yet.</source>
+        <translation>Noch ist kein Ordner gewählt.</translation>
+    </message>
+    <message>
+        <source>“%1” is not there.</source>
+        <translation>„%1“ ist nicht da.</translation>
+    </message>
+    <message>
+        <source>Connect its disk, or choose another folder in the settings.</source>
+        <translation>Schließen Sie den Datenträger an oder wählen Sie in den Einstellungen einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>“%1” may not be read.</source>
+        <translation>„%1“ darf nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>“%1” may be read but not changed: captures cannot be renamed or removed.</source>
+        <translation>„%1“ darf gelesen, aber nicht geändert werden: Aufnahmen können nicht umbenannt oder entfernt werden.</translation>
+    </message>
+    <message>
+        <source>Choose the folder once more in the settings: the tool is then told of it.</source>
+        <translation>Wählen Sie den Ordner in den Einstellungen noch einmal: Er wird dem Programm dann mitgeteilt.</translation>
+    </message>
+    <message>
+        <source>%1 puts captures on the clipboard and saves none.</source>
+        <translation>%1 legt Aufnahmen in die Zwischenablage und sichert keine.</translation>
+    </message>
+    <message>
+        <source>%1 does not save captures to a folder.</source>
+        <translation>%1 sichert Aufnahmen nicht in einen Ordner.</translation>
+    </message>
+    <message>
+        <source>%1 saves into “%2”, but captures are looked for in “%3”.</source>
+        <translation>%1 sichert nach „%2“, gesucht werden Aufnahmen aber in „%3“.</translation>
+    </message>
+    <message>
+        <source>%1 saves into “%2”.</source>
+        <translation>%1 sichert nach „%2“.</translation>
+    </message>
+    <message>
+        <source>No shortcut is switched on.</source>
+        <translation>Kein Tastenkürzel ist eingeschaltet.</translation>
+    </message>
+    <message>
+        <source>Choose another one: tembra settings shortcut</source>
+        <translation>Wählen Sie ein anderes: tembra settings shortcut</translation>
+    </message>
+    <message>
+        <source>Text is read in: %1.</source>
+        <translation>Text wird gelesen in: %1.</translation>
+    </message>
+    <message>
+        <source>No command is run for new captures.</source>
+        <translation>Für neue Aufnahmen wird kein Befehl gestartet.</translation>
+    </message>
+    <message>
+        <source>There is no program “%1”.</source>
+        <translation>Ein Programm „%1“ gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>Name it with its whole path: tembra settings screenshots</source>
+        <translation>Nennen Sie es mit ganzem Pfad: tembra settings screenshots</translation>
+    </message>
+    <message>
+        <source>“%1” is run for new captures.</source>
+        <translation>„%1“ wird für neue Aufnahmen gestartet.</translation>
+    </message>
+    <message>
+        <source>Nothing may be written there.</source>
+        <translation>Dort darf nichts geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Files move to the Trash and back.</source>
+        <translation>Dateien kommen in den Papierkorb und zurück.</translation>
+    </message>
+    <message>
+        <source>Remove files there with the file manager.</source>
+        <translation>Entfernen Sie Dateien dort mit dem Dateimanager.</translation>
+    </message>
+</context>
+<context>
+    <name>DoctorReport</name>
+    <message>
+        <source>works</source>
+        <translation>geht</translation>
+    </message>
+    <message>
+        <source>in part</source>
+        <translation>zum Teil</translation>
+    </message>
+    <message>
+        <source>BROKEN</source>
+        <translation>GEHT NICHT</translation>
     </message>
 </context>
 <context>
     <name>EditorDocuments</name>
     <message>
         <source>This is the screenshot that you are editing. Save it, or choose another name for the copy.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Bildschirmfoto bearbeiten Sie gerade. Speichern Sie es, oder wählen Sie einen anderen Namen für die Kopie.</translation>
     </message>
 </context>
 <context>
     <name>EditorPalette</name>
     <message>
         <source>Red</source>
-        <translation type="unfinished"></translation>
+        <translation>Rot</translation>
     </message>
     <message>
         <source>Orange</source>
-        <translation type="unfinished"></translation>
+        <translation>Orange</translation>
     </message>
     <message>
         <source>Green</source>
-        <translation type="unfinished"></translation>
+        <translation>Grün</translation>
     </message>
     <message>
         <source>Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Blau</translation>
     </message>
     <message>
         <source>Purple</source>
-        <translation type="unfinished"></translation>
+        <translation>Violett</translation>
     </message>
     <message>
         <source>Black</source>
-        <translation type="unfinished"></translation>
+        <translation>Schwarz</translation>
     </message>
     <message>
         <source>White</source>
-        <translation type="unfinished"></translation>
+        <translation>Weiß</translation>
     </message>
 </context>
 <context>
     <name>EditorQuestions</name>
     <message numerus="yes">
         <source>and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>und %n weiteres</numerusform>
+            <numerusform>und %n weitere</numerusform>
         </translation>
     </message>
     <message>
         <source>Save the edits of “%1”?</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen an „%1“ speichern?</translation>
     </message>
     <message numerus="yes">
         <source>Save the edits of %n screenshots?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Änderungen an %n Bildschirmfoto speichern?</numerusform>
+            <numerusform>Änderungen an %n Bildschirmfotos speichern?</numerusform>
         </translation>
     </message>
     <message>
         <source>Your edits are lost if you don’t save them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wenn Sie nicht speichern, gehen Ihre Änderungen verloren.</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>Save all</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle speichern</translation>
     </message>
     <message>
         <source>Discard</source>
-        <translation type="unfinished"></translation>
+        <translation>Verwerfen</translation>
     </message>
     <message>
         <source>Discard all</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle verwerfen</translation>
     </message>
     <message>
         <source>Reload “%1”?</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ neu laden?</translation>
     </message>
     <message>
         <source>Your unsaved edits of it are lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre nicht gespeicherten Änderungen daran gehen verloren.</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu laden</translation>
     </message>
     <message>
         <source>Save a copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopie speichern</translation>
     </message>
     <message>
         <source>Images (*.png *.jpg *.jpeg)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder (*.png *.jpg *.jpeg)</translation>
     </message>
 </context>
 <context>
     <name>EditorTool</name>
     <message>
         <source>Select</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswahl</translation>
     </message>
     <message>
         <source>Arrow</source>
-        <translation type="unfinished"></translation>
+        <translation>Pfeil</translation>
     </message>
     <message>
         <source>Pencil</source>
-        <translation type="unfinished"></translation>
+        <translation>Stift</translation>
     </message>
     <message>
         <source>Crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuschneiden</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Linie</translation>
     </message>
     <message>
         <source>Rectangle</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechteck</translation>
     </message>
     <message>
         <source>Ellipse</source>
-        <translation type="unfinished"></translation>
+        <translation>Ellipse</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>Number</source>
-        <translation type="unfinished"></translation>
+        <translation>Nummer</translation>
     </message>
     <message>
         <source>Blur</source>
-        <translation type="unfinished"></translation>
+        <translation>Weichzeichner</translation>
     </message>
 </context>
 <context>
     <name>EditorToolTip</name>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>FileCoordinator</name>
     <message>
         <source>Another program changed the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein anderes Programm hat die Datei geändert.</translation>
     </message>
     <message>
         <source>A file with this name already exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Datei mit diesem Namen gibt es schon.</translation>
     </message>
     <message>
         <source>This is not a regular file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das ist keine gewöhnliche Datei.</translation>
     </message>
     <message>
         <source>The file is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist zu groß.</translation>
     </message>
 </context>
 <context>
     <name>FileManager</name>
     <message>
         <source>“%1” is no longer there.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist nicht mehr da.</translation>
     </message>
     <message>
         <source>The folder “%1” is no longer there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner „%1“ ist nicht mehr da.</translation>
     </message>
     <message>
         <source>No file manager could open the folder “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Dateimanager konnte den Ordner „%1“ öffnen.</translation>
     </message>
 </context>
 <context>
     <name>FileOpening</name>
     <message>
         <source>Couldn’t Show in Finder</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzeige im Finder nicht möglich</translation>
     </message>
     <message>
         <source>Couldn’t Open Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien konnten nicht geöffnet werden</translation>
     </message>
 </context>
 <context>
     <name>FilePromises</name>
     <message>
         <source>The program that was to write the file did not do so.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Programm, das die Datei schreiben sollte, hat es nicht getan.</translation>
     </message>
 </context>
 <context>
     <name>FileWatcherService</name>
     <message>
         <source>Folder access needs to be restored</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Zugriff auf den Ordner muss wiederhergestellt werden</translation>
     </message>
 </context>
 <context>
     <name>FolderChooser</name>
     <message>
         <source>Choose where screenshots should save. Auto-clean will be set to Never for this folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie, wo Bildschirmfotos gespeichert werden. Das automatische Aufräumen wird für diesen Ordner auf „Nie“ gestellt.</translation>
     </message>
     <message>
         <source>New macOS screenshots will be saved here and appear in Tembra.</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue macOS-Bildschirmfotos werden hier gespeichert und erscheinen in Tembra.</translation>
     </message>
     <message>
         <source>Choose Your Screenshots Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirmfoto-Ordner wählen</translation>
     </message>
 </context>
 <context>
     <name>FolderNotification</name>
     <message>
         <source>Screenshot location changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Speicherort der Bildschirmfotos geändert</translation>
     </message>
     <message>
         <source>Screenshots aren’t saving to a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirmfotos kommen in keinen Ordner</translation>
     </message>
     <message>
         <source>Screenshots folder unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirmfoto-Ordner nicht verfügbar</translation>
     </message>
     <message>
         <source>Screenshots folder recovered</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirmfoto-Ordner wieder da</translation>
     </message>
 </context>
 <context>
     <name>GlobalActivationShortcut</name>
     <message>
         <source>This shortcut is unavailable. Choose another combination.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Tastenkürzel ist nicht verfügbar. Wählen Sie eine andere Kombination.</translation>
     </message>
 </context>
 <context>
     <name>HotKeys</name>
     <message>
         <source>Another program has this shortcut.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Tastenkürzel gehört einem anderen Programm.</translation>
     </message>
     <message>
         <source>The desktop has ended this shortcut. Switch it off and on again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Arbeitsumgebung hat dieses Tastenkürzel beendet. Schalten Sie es aus und wieder ein.</translation>
     </message>
     <message>
         <source>This desktop gives programs no shortcuts of their own. Bind “tembra toggle” to one in its settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Arbeitsumgebung gibt Programmen keine eigenen Tastenkürzel. Weisen Sie „tembra toggle“ in ihren Einstellungen eines zu.</translation>
     </message>
     <message>
         <source>Open or close the shelf</source>
-        <translation type="unfinished"></translation>
+        <translation>Leiste öffnen oder schließen</translation>
     </message>
 </context>
 <context>
     <name>ImageChooser</name>
     <message>
         <source>Choose an Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild wählen</translation>
     </message>
     <message>
         <source>Images</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder</translation>
     </message>
     <message>
         <source>All Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Dateien</translation>
     </message>
 </context>
 <context>
     <name>LoginItem</name>
     <message>
         <source>Launch at login is unavailable for this copy of Tembra</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Start bei der Anmeldung ist für diese Kopie von Tembra nicht verfügbar</translation>
     </message>
     <message>
         <source>“%1” can’t be removed: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kann nicht entfernt werden: %2</translation>
     </message>
     <message>
         <source>This desktop has no settings for the programs that start at login.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Arbeitsumgebung hat keine Einstellungen für Programme, die bei der Anmeldung starten.</translation>
     </message>
     <message>
         <source>“%1” can’t be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kann nicht geschrieben werden: %2</translation>
     </message>
 </context>
 <context>
     <name>MainMenu</name>
     <message>
         <source>Check for updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach Updates suchen&#xa0;…</translation>
     </message>
     <message>
         <source>Hide Tembra</source>
-        <translation type="unfinished"></translation>
+        <translation>Tembra ausblenden</translation>
     </message>
     <message>
         <source>Hide others</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere ausblenden</translation>
     </message>
     <message>
         <source>Show all</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle einblenden</translation>
     </message>
     <message>
         <source>Quit Tembra</source>
-        <translation type="unfinished"></translation>
+        <translation>Tembra beenden</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>Save as…</source>
-        <translation type="unfinished"></translation>
+        <translation>Als Kopie speichern&#xa0;…</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Bearbeiten</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholen</translation>
     </message>
     <message>
         <source>Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausschneiden</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopieren</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Einfügen</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles auswählen</translation>
     </message>
     <message>
         <source>Duplicate</source>
-        <translation type="unfinished"></translation>
+        <translation>Duplizieren</translation>
     </message>
     <message>
         <source>Copy image</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild kopieren</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>Ansicht</translation>
     </message>
     <message>
         <source>Zoom in</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergrößern</translation>
     </message>
     <message>
         <source>Zoom out</source>
-        <translation type="unfinished"></translation>
+        <translation>Verkleinern</translation>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>In Fenster einpassen</translation>
     </message>
     <message>
         <source>Actual size</source>
-        <translation type="unfinished"></translation>
+        <translation>Originalgröße</translation>
     </message>
     <message>
         <source>Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Fenster</translation>
     </message>
     <message>
         <source>Minimize</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimieren</translation>
     </message>
     <message>
         <source>Bring all to front</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle nach vorne</translation>
     </message>
 </context>
 <context>
     <name>OCR</name>
     <message>
         <source>Could not read this image. Try another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Bild konnte nicht gelesen werden. Versuchen Sie es mit einem anderen.</translation>
     </message>
     <message>
         <source>No text found. Try another image.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Text gefunden. Versuchen Sie es mit einem anderen Bild.</translation>
     </message>
     <message>
         <source>%1 isn’t an image file.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist keine Bilddatei.</translation>
     </message>
     <message>
         <source>The image is damaged, too large or of an unknown kind.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild ist beschädigt, zu groß oder von unbekannter Art.</translation>
     </message>
     <message>
         <source>Animations can’t be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Animationen können nicht gelesen werden.</translation>
     </message>
 </context>
 <context>
     <name>Onboarding</name>
     <message>
         <source>Your screenshots, always at hand</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre Bildschirmfotos, immer zur Hand</translation>
     </message>
     <message>
         <source>Tembra keeps them at the top of your screen. Move the pointer to the edge, and they come down to meet it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tembra hält sie am oberen Bildschirmrand bereit. Bewegen Sie den Zeiger an den Rand, und sie kommen ihm entgegen.</translation>
     </message>
     <message>
         <source>Continue</source>
-        <translation type="unfinished"></translation>
+        <translation>Weiter</translation>
     </message>
     <message>
         <source>Where should screenshots go?</source>
-        <translation type="unfinished"></translation>
+        <translation>Wohin mit den Bildschirmfotos?</translation>
     </message>
     <message>
         <source>New screenshots will be saved here and appear in Tembra, at the top of your screen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Bildschirmfotos werden hier gespeichert und erscheinen in Tembra, oben am Bildschirm.</translation>
     </message>
     <message>
         <source>Choose Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner wählen</translation>
     </message>
     <message>
         <source>Use This Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner verwenden</translation>
     </message>
     <message>
         <source>Bring along what you have?</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorhandene gleich mitnehmen?</translation>
     </message>
     <message numerus="yes">
         <source>%n screenshots lie on your Desktop. Tembra can move them to the folder you chose.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Bildschirmfoto liegt auf Ihrem Schreibtisch. Tembra kann es in den gewählten Ordner verschieben.</numerusform>
+            <numerusform>%n Bildschirmfotos liegen auf Ihrem Schreibtisch. Tembra kann sie in den gewählten Ordner verschieben.</numerusform>
         </translation>
     </message>
     <message>
         <source>Moving…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird verschoben&#xa0;…</translation>
     </message>
     <message>
         <source>Move Screenshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschieben</translation>
     </message>
     <message>
         <source>Leave Them</source>
-        <translation type="unfinished"></translation>
+        <translation>Dort lassen</translation>
     </message>
     <message>
         <source>Got it! First one caught</source>
-        <translation type="unfinished"></translation>
+        <translation>Hab’s! Die erste Aufnahme</translation>
     </message>
     <message>
         <source>It is on your shelf now. Move the pointer to the top of your screen whenever you need it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie liegt jetzt in Ihrer Leiste. Bewegen Sie den Zeiger an den oberen Bildschirmrand, wann immer Sie sie brauchen.</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Fertig</translation>
     </message>
     <message>
         <source>Take your first screenshot</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Take a screenshot the way you always do, with Print for਎xample. Tembra waits for it here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Machen Sie Ihr erstes Bildschirmfoto</translation>
     </message>
     <message>
         <source>Skip</source>
-        <translation type="unfinished"></translation>
+        <translation>Überspringen</translation>
+    </message>
+    <message>
+        <source>Take a screenshot the way you always do, with Print for&#xa0;example. Tembra waits for it here.</source>
+        <translation>Machen Sie ein Bildschirmfoto wie gewohnt, zum&#xa0;Beispiel mit Druck. Tembra wartet hier darauf.</translation>
     </message>
 </context>
 <context>
     <name>Pasteboard</name>
     <message>
         <source>The clipboard is in use by another program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zwischenablage wird gerade von einem anderen Programm benutzt.</translation>
     </message>
     <message>
         <source>The desktop did not let Tembra use the clipboard.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Arbeitsumgebung hat Tembra den Zugriff auf die Zwischenablage verweigert.</translation>
     </message>
 </context>
 <context>
     <name>RcFile</name>
     <message>
         <source>“%1” is not a settings file.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine Einstellungsdatei.</translation>
     </message>
 </context>
 <context>
     <name>RenderCommand</name>
     <message>
         <source>“%1” cannot be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kann nicht gelesen werden: %2</translation>
     </message>
     <message>
         <source>“%1” cannot be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kann nicht geschrieben werden: %2</translation>
     </message>
     <message>
         <source>What is read is not written over: name another file for the output.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingaben werden nicht überschrieben: Nennen Sie eine andere Datei für die Ausgabe.</translation>
     </message>
 </context>
 <context>
     <name>SafetyReview</name>
     <message>
         <source>Keep auto-clean enabled?</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatisches Aufräumen beibehalten?</translation>
     </message>
     <message numerus="yes">
         <source>%n files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Datei</numerusform>
+            <numerusform>%n Dateien</numerusform>
         </translation>
     </message>
     <message>
         <source>Auto-clean is set to %1, with %2 to move to Trash.
 
 Keep auto-clean enabled or turn it off to keep these files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das automatische Aufräumen steht auf „%1“. In den Papierkorb kämen: %2.
+
+Behalten Sie es bei, oder schalten Sie es aus, damit diese Dateien bleiben.</translation>
     </message>
     <message>
         <source>Keep enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Beibehalten</translation>
     </message>
     <message>
         <source>Turn off</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausschalten</translation>
     </message>
 </context>
 <context>
     <name>ScanCommand</name>
     <message>
         <source>“%1” cannot be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kann nicht gelesen werden: %2</translation>
     </message>
 </context>
 <context>
     <name>ScanReport</name>
     <message>
         <source>neither an image nor a recording</source>
-        <translation type="unfinished"></translation>
+        <translation>weder ein Bild noch eine Aufzeichnung</translation>
     </message>
     <message>
         <source>neither marker, metadata nor name say that it is a capture</source>
-        <translation type="unfinished"></translation>
+        <translation>weder Kennzeichnung noch Metadaten noch Name weisen auf eine Aufnahme hin</translation>
     </message>
     <message>
         <source> (not whole)</source>
-        <translation type="unfinished"></translation>
+        <translation> (unvollständig)</translation>
     </message>
 </context>
 <context>
     <name>ScreenCapturePreferences</name>
     <message>
         <source>The screenshot tool</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bildschirmfoto-Programm</translation>
     </message>
     <message>
         <source>%1 has no floating thumbnail to turn on or off.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hat keine schwebende Vorschau, die sich ein- oder ausschalten ließe.</translation>
     </message>
 </context>
 <context>
     <name>ScreenshotAutoCleanPeriod</name>
     <message>
         <source>Never</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie</translation>
     </message>
     <message>
         <source>1 day</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Tag</translation>
     </message>
-    <message>
-        <source>%1 days</source>
-        <translation type="unfinished"></translation>
+    <message numerus="yes">
+        <source>%n days</source>
+        <translation>
+            <numerusform>%n Tag</numerusform>
+            <numerusform>%n Tage</numerusform>
+        </translation>
     </message>
 </context>
 <context>
     <name>ScreenshotCommands</name>
     <message>
         <source>Couldn’t Pin Screenshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirmfotos konnten nicht angepinnt werden</translation>
     </message>
     <message>
         <source>Couldn’t Open Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner konnte nicht geöffnet werden</translation>
     </message>
 </context>
 <context>
     <name>ScreenshotEdit</name>
     <message>
         <source>Straighten</source>
-        <translation type="unfinished"></translation>
+        <translation>Begradigen</translation>
     </message>
     <message>
         <source>Change number</source>
-        <translation type="unfinished"></translation>
+        <translation>Nummer ändern</translation>
     </message>
     <message>
         <source>Change text style</source>
-        <translation type="unfinished"></translation>
+        <translation>Textstil ändern</translation>
     </message>
     <message>
         <source>Change number size</source>
-        <translation type="unfinished"></translation>
+        <translation>Nummerngröße ändern</translation>
     </message>
     <message>
         <source>Change style</source>
-        <translation type="unfinished"></translation>
+        <translation>Stil ändern</translation>
     </message>
     <message>
         <source>Move annotations</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmerkungen verschieben</translation>
     </message>
     <message>
         <source>Resize</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe ändern</translation>
     </message>
     <message>
         <source>Change order</source>
-        <translation type="unfinished"></translation>
+        <translation>Reihenfolge ändern</translation>
     </message>
     <message>
         <source>Duplicate</source>
-        <translation type="unfinished"></translation>
+        <translation>Duplizieren</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Einfügen</translation>
     </message>
     <message>
         <source>Draw arrow</source>
-        <translation type="unfinished"></translation>
+        <translation>Pfeil zeichnen</translation>
     </message>
     <message>
         <source>Draw stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>Strich zeichnen</translation>
     </message>
     <message>
         <source>Draw line</source>
-        <translation type="unfinished"></translation>
+        <translation>Linie zeichnen</translation>
     </message>
     <message>
         <source>Draw rectangle</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechteck zeichnen</translation>
     </message>
     <message>
         <source>Draw ellipse</source>
-        <translation type="unfinished"></translation>
+        <translation>Ellipse zeichnen</translation>
     </message>
     <message>
         <source>Blur</source>
-        <translation type="unfinished"></translation>
+        <translation>Weichzeichnen</translation>
     </message>
     <message>
         <source>Add number</source>
-        <translation type="unfinished"></translation>
+        <translation>Nummer hinzufügen</translation>
     </message>
     <message>
         <source>Bend</source>
-        <translation type="unfinished"></translation>
+        <translation>Biegen</translation>
     </message>
     <message>
         <source>Move end</source>
-        <translation type="unfinished"></translation>
+        <translation>Ende verschieben</translation>
     </message>
     <message>
         <source>Blur words</source>
-        <translation type="unfinished"></translation>
+        <translation>Wörter weichzeichnen</translation>
     </message>
     <message>
         <source>“%1” already exists in this folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ gibt es in diesem Ordner schon.</translation>
     </message>
     <message>
         <source>Delete annotation</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmerkung löschen</translation>
     </message>
     <message>
         <source>Delete annotations</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmerkungen löschen</translation>
     </message>
     <message>
         <source>Crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuschneiden</translation>
     </message>
     <message>
         <source>This file can’t be edited.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Datei kann nicht bearbeitet werden.</translation>
     </message>
     <message>
         <source>The editor currently supports PNG and JPEG images.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Editor kann zurzeit PNG- und JPEG-Bilder bearbeiten.</translation>
     </message>
     <message>
         <source>This image changed outside Tembra. Make a copy to edit it as a new image.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Bild wurde außerhalb von Tembra geändert. Legen Sie eine Kopie an, um es als neues Bild zu bearbeiten.</translation>
     </message>
     <message>
         <source>The original image couldn’t be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Originalbild konnte nicht geöffnet werden.</translation>
     </message>
     <message>
         <source>This annotation couldn’t be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Anmerkung konnte nicht geöffnet werden.</translation>
     </message>
     <message>
         <source>This crop couldn’t be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Zuschnitt konnte nicht geöffnet werden.</translation>
     </message>
     <message>
         <source>This image changed outside Tembra. Your edits are still here. Use Save a copy to keep them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Bild wurde außerhalb von Tembra geändert. Ihre Änderungen sind noch da. Mit „Kopie speichern“ bleiben sie erhalten.</translation>
     </message>
     <message>
         <source>Enter a name for this screenshot.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie einen Namen für dieses Bildschirmfoto ein.</translation>
     </message>
     <message>
         <source>Choose a name without slashes, colons or a leading dot.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie einen Namen ohne Schrägstriche, Doppelpunkte oder Punkt am Anfang.</translation>
     </message>
     <message>
         <source>This image changed outside Tembra. Its name hasn’t been changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Bild wurde außerhalb von Tembra geändert. Sein Name bleibt, wie er war.</translation>
     </message>
     <message>
         <source>This image couldn’t be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Bild konnte nicht geöffnet werden.</translation>
     </message>
     <message>
         <source>There isn’t enough memory to save this image.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Speicher reicht nicht aus, um dieses Bild zu speichern.</translation>
     </message>
     <message>
         <source>Couldn’t prepare the image.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild konnte nicht vorbereitet werden.</translation>
     </message>
     <message>
         <source>This image format can’t be saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Bildformat kann nicht gespeichert werden.</translation>
     </message>
     <message>
         <source>Couldn’t encode the image.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild konnte nicht kodiert werden.</translation>
     </message>
     <message>
         <source>Couldn’t prepare the blur.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Weichzeichnen konnte nicht vorbereitet werden.</translation>
     </message>
     <message>
         <source>The edits are not readable JSON.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Änderungen sind kein lesbares JSON.</translation>
     </message>
 </context>
 <context>
     <name>ScreenshotFeedback</name>
     <message>
         <source>Got it</source>
-        <translation type="unfinished"></translation>
+        <translation>Hab’s</translation>
     </message>
     <message>
         <source>Caught it</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingefangen</translation>
     </message>
     <message>
         <source>Got that</source>
-        <translation type="unfinished"></translation>
+        <translation>Ist im Kasten</translation>
     </message>
     <message>
         <source>I got you</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf mich ist Verlass</translation>
     </message>
     <message>
         <source>Saved it</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesichert</translation>
     </message>
     <message>
         <source>Right here</source>
-        <translation type="unfinished"></translation>
+        <translation>Liegt bereit</translation>
     </message>
     <message>
         <source>Keeping this one</source>
-        <translation type="unfinished"></translation>
+        <translation>Das bleibt hier</translation>
     </message>
     <message>
         <source>Another one</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch eins</translation>
     </message>
     <message>
         <source>Got that too</source>
-        <translation type="unfinished"></translation>
+        <translation>Auch im Kasten</translation>
     </message>
     <message>
         <source>Still here</source>
-        <translation type="unfinished"></translation>
+        <translation>Bin noch da</translation>
     </message>
     <message>
         <source>I’ve got you</source>
-        <translation type="unfinished"></translation>
+        <translation>Ich pass drauf auf</translation>
     </message>
 </context>
 <context>
     <name>ScreenshotFolderAccess</name>
     <message>
         <source>“%1” is not a folder on this computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist kein Ordner auf diesem Computer.</translation>
     </message>
     <message>
         <source>“%1” is not a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist kein Ordner.</translation>
     </message>
     <message>
         <source>“%1” is in the Trash.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ liegt im Papierkorb.</translation>
     </message>
 </context>
 <context>
     <name>ScreenshotFolderMessage</name>
     <message>
         <source>Choose Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner wählen</translation>
     </message>
     <message>
         <source>Where should screenshots go?</source>
-        <translation type="unfinished"></translation>
+        <translation>Wohin mit den Bildschirmfotos?</translation>
     </message>
     <message>
         <source>Loading screenshots…</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirmfotos werden geladen&#xa0;…</translation>
     </message>
     <message>
         <source>Screenshots are saved elsewhere. Choose the new folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirmfotos werden woanders gespeichert. Wählen Sie den neuen Ordner.</translation>
     </message>
     <message>
         <source>Screenshots go to the clipboard. Choose a folder to save them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirmfotos kommen in die Zwischenablage. Wählen Sie einen Ordner, um sie zu speichern.</translation>
     </message>
     <message>
         <source>Screenshots aren’t saved to a folder. Choose one to use with Tembra.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirmfotos kommen in keinen Ordner. Wählen Sie einen für Tembra.</translation>
     </message>
     <message>
         <source>Where did the folder go?</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo ist der Ordner geblieben?</translation>
     </message>
     <message>
         <source>I lost track of your screenshots folder. Pick a new one to keep going</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Bildschirmfoto-Ordner ist nicht mehr zu finden. Wählen Sie einen neuen, dann geht es weiter.</translation>
     </message>
     <message>
         <source>No screenshots yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch keine Bildschirmfotos</translation>
     </message>
     <message>
         <source>Take one and it appears here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das nächste erscheint hier.</translation>
     </message>
 </context>
 <context>
     <name>ScreenshotMenu</name>
     <message>
         <source>No Compatible Applications</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine passenden Programme</translation>
     </message>
     <message>
         <source> (Default)</source>
-        <translation type="unfinished"></translation>
+        <translation> (Standard)</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopieren</translation>
     </message>
     <message>
         <source>Open in Editor</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Editor öffnen</translation>
     </message>
     <message>
         <source>Open With</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen mit</translation>
     </message>
     <message>
         <source>Image to Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text aus Bild</translation>
     </message>
     <message>
         <source>Show in Finder</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Finder anzeigen</translation>
     </message>
     <message>
         <source>Unpin</source>
-        <translation type="unfinished"></translation>
+        <translation>Lösen</translation>
     </message>
     <message>
         <source>Pin</source>
-        <translation type="unfinished"></translation>
+        <translation>Anpinnen</translation>
     </message>
     <message>
         <source>Move to Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>In den Papierkorb</translation>
     </message>
     <message>
         <source>Pinned screenshots stay. Unpin them to move them to Trash.</source>
-        <translation type="unfinished"></translation>
+        <translation>Angepinnte Bildschirmfotos bleiben. Zum Entfernen erst lösen.</translation>
     </message>
     <message>
         <source>Open Folder in Finder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner im Finder öffnen</translation>
     </message>
     <message>
         <source>Screenshot Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirmfoto-Einstellungen</translation>
     </message>
     <message>
         <source>Clear Screenshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirmfotos entfernen</translation>
     </message>
 </context>
 <context>
     <name>ScreenshotRemoval</name>
     <message>
         <source>Some pinned files are unavailable. Reconnect their disk and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einige angepinnte Dateien sind nicht verfügbar. Schließen Sie deren Datenträger wieder an, und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>This screenshot is pinned. Unpin it before moving it to Trash.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Bildschirmfoto ist angepinnt. Lösen Sie es, bevor Sie es in den Papierkorb verschieben.</translation>
     </message>
     <message>
         <source>The original file has changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Originaldatei hat sich geändert.</translation>
     </message>
     <message>
         <source>The original folder has changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der ursprüngliche Ordner hat sich geändert.</translation>
     </message>
     <message>
         <source>The original folder is unavailable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der ursprüngliche Ordner ist nicht verfügbar.</translation>
     </message>
     <message>
         <source>The file could not be located in Trash.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei wurde im Papierkorb nicht gefunden.</translation>
     </message>
     <message>
         <source>The original file is no longer at this location.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Originaldatei ist nicht mehr an diesem Ort.</translation>
     </message>
     <message>
         <source>Couldn’t Move to Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschieben in den Papierkorb nicht möglich</translation>
     </message>
     <message>
         <source>Auto-clean</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatisches Aufräumen</translation>
     </message>
     <message>
         <source>Move to Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>In den Papierkorb verschieben</translation>
     </message>
     <message>
         <source>Couldn’t Restore Screenshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirmfotos konnten nicht wiederhergestellt werden</translation>
     </message>
 </context>
 <context>
     <name>ScreenshotSaveLocation</name>
     <message>
         <source>Couldn’t change the macOS screenshot folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der macOS-Ordner für Bildschirmfotos konnte nicht geändert werden.</translation>
     </message>
     <message>
         <source>Your previous folder is still selected. Try again, or change Save to in ⇧⌘5 → Options.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihr bisheriger Ordner ist weiterhin ausgewählt. Versuchen Sie es erneut, oder ändern Sie „Sichern in“ unter ⇧⌘5 → Optionen.</translation>
     </message>
     <message>
         <source>“%1” cannot be written to.</source>
-        <translation type="unfinished"></translation>
+        <translation>In „%1“ kann nicht geschrieben werden.</translation>
     </message>
 </context>
 <context>
     <name>ScreenshotSection</name>
     <message>
         <source>Pinned</source>
-        <translation type="unfinished"></translation>
+        <translation>Angepinnt</translation>
     </message>
     <message>
         <source>Today</source>
-        <translation type="unfinished"></translation>
+        <translation>Heute</translation>
     </message>
     <message>
         <source>Yesterday</source>
-        <translation type="unfinished"></translation>
+        <translation>Gestern</translation>
     </message>
     <message>
         <source>Last 7 Days</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzte 7 Tage</translation>
     </message>
     <message>
         <source>Older</source>
-        <translation type="unfinished"></translation>
+        <translation>Älter</translation>
     </message>
 </context>
 <context>
     <name>SettingsPage</name>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Allgemein</translation>
     </message>
     <message>
         <source>Screenshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirmfotos</translation>
     </message>
     <message>
         <source>Editor</source>
-        <translation type="unfinished"></translation>
+        <translation>Editor</translation>
     </message>
     <message>
         <source>File Tray</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateiablage</translation>
     </message>
     <message>
         <source>Image to Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text aus Bild</translation>
     </message>
     <message>
         <source>Shortcut</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastenkürzel</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>Info</translation>
+    </message>
+    <message>
+        <source>Doctor</source>
+        <translation>Diagnose</translation>
     </message>
 </context>
 <context>
     <name>ShelfSession</name>
     <message>
         <source>Couldn’t Copy Screenshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirmfotos konnten nicht kopiert werden</translation>
     </message>
     <message>
         <source>Clear File Tray</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateiablage leeren</translation>
     </message>
     <message>
         <source>Remove from File Tray</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus Dateiablage entfernen</translation>
     </message>
     <message>
         <source>Couldn’t update pinned screenshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Angepinntes Bildschirmfoto konnte nicht aktualisiert werden</translation>
     </message>
 </context>
 <context>
     <name>SingleInstance</name>
     <message>
         <source>There is no D-Bus session to reach Tembra through.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine D-Bus-Sitzung, über die Tembra erreichbar wäre.</translation>
     </message>
     <message>
         <source>Tembra is already running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tembra läuft bereits.</translation>
     </message>
     <message>
         <source>Tembra is not running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tembra läuft nicht.</translation>
     </message>
 </context>
 <context>
     <name>StatusMenu</name>
     <message>
         <source>Open Tembra</source>
-        <translation type="unfinished"></translation>
+        <translation>Tembra öffnen</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>Check for updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach Updates suchen&#xa0;…</translation>
     </message>
     <message>
         <source>Open Screenshots Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirmfoto-Ordner öffnen</translation>
     </message>
     <message>
         <source>Open Latest Capture</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzte Aufnahme öffnen</translation>
     </message>
     <message>
         <source>Quit Tembra</source>
-        <translation type="unfinished"></translation>
+        <translation>Tembra beenden</translation>
     </message>
 </context>
 <context>
     <name>StatusReport</name>
     <message>
         <source>No folder selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Ordner gewählt</translation>
     </message>
     <message>
         <source>Shelf: %1
 Folder: %2 (%3)
 Screenshots: %4
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Leiste: %1
+Ordner: %2 (%3)
+Bildschirmfotos: %4
+</translation>
     </message>
     <message>
         <source>open</source>
-        <translation type="unfinished"></translation>
+        <translation>offen</translation>
     </message>
     <message>
         <source>closed</source>
-        <translation type="unfinished"></translation>
+        <translation>geschlossen</translation>
     </message>
 </context>
 <context>
     <name>TextRecognition</name>
     <message>
         <source>Text can’t be recognized because a part of Tembra is missing. Reinstall it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Text kann nicht erkannt werden, weil ein Teil von Tembra fehlt. Installieren Sie Tembra neu.</translation>
     </message>
     <message>
         <source>Text can’t be recognized because no language is installed for it. Install the package tesseract-ocr-eng.</source>
-        <translation type="unfinished"></translation>
+        <translation>Text kann nicht erkannt werden, weil keine Sprache dafür installiert ist. Installieren Sie das Paket tesseract-ocr-deu.</translation>
     </message>
     <message>
         <source>The text of this image couldn’t be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Text dieses Bildes konnte nicht gelesen werden.</translation>
     </message>
     <message>
         <source>Text recognition was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Texterkennung wurde abgebrochen.</translation>
     </message>
 </context>
 <context>
     <name>Thumbnails</name>
     <message>
         <source>The picture is too large for a preview.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild ist zu groß für eine Vorschau.</translation>
     </message>
     <message>
         <source>The picture couldn’t be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild konnte nicht gelesen werden.</translation>
     </message>
 </context>
 <context>
     <name>Trash</name>
     <message>
         <source>“%1” has changed or is no longer there.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ hat sich geändert oder ist nicht mehr da.</translation>
     </message>
     <message>
         <source>The way to “%1” leads out of its folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Weg zu „%1“ führt aus seinem Ordner hinaus.</translation>
     </message>
     <message>
         <source>The disk that holds “%1” has no Trash.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Datenträger mit „%1“ hat keinen Papierkorb.</translation>
     </message>
     <message>
         <source>“%1” is no longer in the Trash.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist nicht mehr im Papierkorb.</translation>
     </message>
     <message>
         <source>Another file is now where “%1” was.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo „%1“ war, liegt jetzt eine andere Datei.</translation>
     </message>
     <message>
         <source>The folder that “%1” was in cannot be reached.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner, in dem „%1“ war, ist nicht erreichbar.</translation>
     </message>
     <message>
         <source>There is no room to move “%1” to the Trash.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Platz reicht nicht, um „%1“ in den Papierkorb zu verschieben.</translation>
     </message>
     <message>
         <source>“%1” could not be moved to the Trash: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ konnte nicht in den Papierkorb verschoben werden: %2.</translation>
     </message>
     <message>
         <source>“%1” could not be moved back: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ konnte nicht zurückgelegt werden: %2.</translation>
     </message>
 </context>
 <context>
     <name>Updates</name>
     <message>
         <source>The list of updates cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Update-Liste kann nicht gelesen werden.</translation>
     </message>
     <message>
         <source>No address of a list of updates is set.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist keine Adresse für die Update-Liste eingestellt.</translation>
     </message>
     <message>
         <source>The address of the list of updates is not a secure one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Adresse der Update-Liste ist nicht sicher.</translation>
     </message>
     <message>
         <source>The version of this copy is not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Version dieser Kopie ist nicht bekannt.</translation>
     </message>
     <message>
         <source>The list of updates is older than one seen before.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Update-Liste ist älter als eine schon bekannte.</translation>
     </message>
     <message>
         <source>The update server offered a connection that is not secure.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Update-Server hat eine unsichere Verbindung angeboten.</translation>
     </message>
     <message>
         <source>The update server sent more than it announced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Update-Server hat mehr gesendet als angekündigt.</translation>
     </message>
     <message>
         <source>The update server did not answer in time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Update-Server hat nicht rechtzeitig geantwortet.</translation>
     </message>
     <message>
         <source>The update server does not have the file (answer %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Update-Server hat die Datei nicht (Antwort %1).</translation>
     </message>
     <message>
         <source>The update server sends from one place to another.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Update-Server leitet immer wieder weiter.</translation>
     </message>
     <message>
         <source>The update server cannot be trusted: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Dem Update-Server kann nicht vertraut werden: %1</translation>
     </message>
     <message>
         <source>The connection to the update server was lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Verbindung zum Update-Server ist abgebrochen.</translation>
     </message>
     <message>
         <source>The update server cannot be reached: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Update-Server ist nicht erreichbar: %1</translation>
     </message>
     <message>
         <source>This copy of Tembra does not look for updates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Kopie von Tembra sucht nicht nach Updates.</translation>
     </message>
     <message>
         <source>Updates come with your system’s software updates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Updates kommen mit den Softwareaktualisierungen Ihres Systems.</translation>
     </message>
     <message>
         <source>Tembra has not looked for updates since it was started.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tembra hat seit dem Start nicht nach Updates gesucht.</translation>
     </message>
     <message>
         <source>Looking for updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>Updates werden gesucht&#xa0;…</translation>
     </message>
     <message>
         <source>Tembra is up to date.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tembra ist aktuell.</translation>
     </message>
     <message>
         <source>Tembra %1 is available.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tembra %1 ist verfügbar.</translation>
     </message>
     <message>
         <source>Downloading Tembra %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Tembra %1 wird heruntergeladen&#xa0;…</translation>
     </message>
     <message>
         <source>Tembra %1 is ready to be installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tembra %1 kann installiert werden.</translation>
     </message>
     <message>
         <source>The update cannot be saved on this disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Update kann auf diesem Datenträger nicht gespeichert werden.</translation>
     </message>
     <message>
         <source>The list of updates is not signed by the publisher of Tembra and was not used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Update-Liste ist nicht vom Herausgeber von Tembra signiert und wurde nicht verwendet.</translation>
     </message>
     <message>
         <source>The key that updates are checked with is not valid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Schlüssel, mit dem Updates geprüft werden, ist nicht gültig.</translation>
     </message>
     <message>
         <source>The update cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Update kann nicht gelesen werden.</translation>
     </message>
     <message>
         <source>The update is not complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Update ist unvollständig.</translation>
     </message>
     <message>
         <source>The update is not signed by the publisher of Tembra and was not kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Update ist nicht vom Herausgeber von Tembra signiert und wurde nicht behalten.</translation>
     </message>
 </context>
 <context>
     <name>Workspace</name>
     <message>
         <source>No application opens “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Programm öffnet „%1“.</translation>
     </message>
     <message>
         <source>%1 could not be started: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 konnte nicht gestartet werden: %2</translation>
     </message>
     <message>
         <source>“%1” could not be opened: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ konnte nicht geöffnet werden: %2</translation>
     </message>
 </context>
 <context>
     <name>tembra::AboutSettingsPage</name>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>Info</translation>
     </message>
     <message>
         <source>Quit Tembra</source>
-        <translation type="unfinished"></translation>
+        <translation>Tembra beenden</translation>
     </message>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Version %1</translation>
     </message>
     <message>
         <source>Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Updates</translation>
     </message>
     <message>
         <source>Check for updates automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatisch nach Updates suchen</translation>
     </message>
     <message>
         <source>Check Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Jetzt suchen</translation>
     </message>
     <message>
         <source>Download</source>
-        <translation type="unfinished"></translation>
+        <translation>Herunterladen</translation>
     </message>
     <message>
         <source>Install…</source>
-        <translation type="unfinished"></translation>
+        <translation>Installieren&#xa0;…</translation>
     </message>
     <message>
         <source>Made with</source>
-        <translation type="unfinished"></translation>
+        <translation>Erstellt mit</translation>
     </message>
 </context>
 <context>
     <name>tembra::ActivationShortcutControl</name>
     <message>
         <source>A shortcut needs Ctrl, Alt or Super, and another key.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Tastenkürzel braucht Strg, Alt oder Super und eine weitere Taste.</translation>
     </message>
 </context>
 <context>
     <name>tembra::CanvasTextEditor</name>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
 </context>
 <context>
     <name>tembra::CaptureNotificationView</name>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig</translation>
     </message>
 </context>
 <context>
     <name>tembra::ClipboardCell</name>
     <message>
         <source>Original unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>Original nicht verfügbar</translation>
     </message>
 </context>
 <context>
     <name>tembra::ClipboardCollectionView</name>
     <message>
         <source>File Tray</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateiablage</translation>
     </message>
 </context>
 <context>
     <name>tembra::ClipboardDropArea</name>
     <message>
         <source>Drop files here or ⌘V to paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien hier ablegen oder mit ⌘V einfügen</translation>
     </message>
 </context>
 <context>
     <name>tembra::ClipboardShelf</name>
     <message>
         <source>Drag or ⌘C to copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziehen oder ⌘C zum Kopieren</translation>
     </message>
     <message>
         <source>Some originals are currently unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>Einige Originale sind gerade nicht verfügbar</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopieren</translation>
     </message>
     <message>
         <source>Show in Finder</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Finder anzeigen</translation>
     </message>
     <message>
         <source>Remove from File Tray</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus Dateiablage entfernen</translation>
     </message>
     <message>
         <source>Clear File Tray</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateiablage leeren</translation>
     </message>
     <message>
         <source>Only files and images can be kept here</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier lassen sich nur Dateien und Bilder ablegen</translation>
+    </message>
+</context>
+<context>
+    <name>tembra::DoctorSettingsPage</name>
+    <message>
+        <source>Works</source>
+        <translation>Geht</translation>
+    </message>
+    <message>
+        <source>In part</source>
+        <translation>Zum Teil</translation>
+    </message>
+    <message>
+        <source>Does not work</source>
+        <translation>Geht nicht</translation>
+    </message>
+    <message>
+        <source>Doctor</source>
+        <translation>Diagnose</translation>
+    </message>
+    <message>
+        <source>Check Again</source>
+        <translation>Neu prüfen</translation>
+    </message>
+    <message>
+        <source>What works on this desktop</source>
+        <translation>Was in dieser Arbeitsumgebung geht</translation>
+    </message>
+    <message>
+        <source>Checks</source>
+        <translation>Prüfungen</translation>
+    </message>
+    <message>
+        <source>Checking…</source>
+        <translation>Wird geprüft&#xa0;…</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n things do not work.</source>
+        <translation>
+            <numerusform>%n Sache geht nicht.</numerusform>
+            <numerusform>%n Sachen gehen nicht.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Everything works, %n things in part.</source>
+        <translation>
+            <numerusform>Alles geht, %n Sache zum Teil.</numerusform>
+            <numerusform>Alles geht, %n Sachen zum Teil.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Everything works.</source>
+        <translation>Alles geht.</translation>
     </message>
 </context>
 <context>
     <name>tembra::EditorBanner</name>
     <message>
         <source>Dismiss</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausblenden</translation>
     </message>
 </context>
 <context>
     <name>tembra::EditorCropOverlay</name>
     <message>
         <source>Crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuschnitt</translation>
     </message>
     <message>
         <source>%1 by %2 pixels, from %3, %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mal %2 Pixel, ab %3, %4</translation>
     </message>
 </context>
 <context>
     <name>tembra::EditorCropRow</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Anwenden</translation>
     </message>
 </context>
 <context>
     <name>tembra::EditorCropSize</name>
     <message>
         <source>%1 × %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %2</translation>
     </message>
     <message>
         <source>Crop: %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuschnitt: %1, %2</translation>
     </message>
 </context>
 <context>
     <name>tembra::EditorDock</name>
     <message>
         <source>Tools and style</source>
-        <translation type="unfinished"></translation>
+        <translation>Werkzeuge und Stil</translation>
     </message>
 </context>
 <context>
     <name>tembra::EditorDragHandle</name>
     <message>
         <source>Drag image</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild ziehen</translation>
     </message>
     <message>
         <source>Copies the image when pressed by a key</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopiert das Bild, wenn eine Taste es auslöst</translation>
     </message>
     <message>
         <source>Drag the image into another window</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild in ein anderes Fenster ziehen</translation>
     </message>
 </context>
 <context>
     <name>tembra::EditorHeader</name>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholen</translation>
     </message>
     <message>
         <source>More</source>
-        <translation type="unfinished"></translation>
+        <translation>Mehr</translation>
     </message>
     <message>
         <source>Copy image</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild kopieren</translation>
     </message>
     <message>
         <source>Save as…</source>
-        <translation type="unfinished"></translation>
+        <translation>Als Kopie&#xa0;…</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>Save as</source>
-        <translation type="unfinished"></translation>
+        <translation>Als Kopie speichern</translation>
     </message>
     <message>
         <source>Undo %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig: %1</translation>
     </message>
     <message>
         <source>Redo %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholen: %1</translation>
     </message>
     <message>
         <source>Saving…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird gespeichert&#xa0;…</translation>
     </message>
     <message>
         <source>Show in Finder</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Finder anzeigen</translation>
     </message>
     <message>
         <source>Move to Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>In den Papierkorb</translation>
     </message>
 </context>
 <context>
     <name>tembra::EditorNameField</name>
     <message>
         <source>File name</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateiname</translation>
     </message>
     <message>
         <source>Edited</source>
-        <translation type="unfinished"></translation>
+        <translation>Bearbeitet</translation>
     </message>
 </context>
 <context>
     <name>tembra::EditorNumberControl</name>
     <message>
         <source>Previous number</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorherige Nummer</translation>
     </message>
     <message>
         <source>Next number</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächste Nummer</translation>
     </message>
     <message>
         <source>Number</source>
-        <translation type="unfinished"></translation>
+        <translation>Nummer</translation>
     </message>
 </context>
 <context>
     <name>tembra::EditorSettingsPage</name>
     <message>
         <source>Editor</source>
-        <translation type="unfinished"></translation>
+        <translation>Editor</translation>
     </message>
     <message>
         <source>Drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichnen</translation>
     </message>
     <message>
         <source>Drawing color</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichenfarbe</translation>
     </message>
     <message>
         <source>The editor remembers the last color that you drew with.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Editor merkt sich die Farbe, mit der Sie zuletzt gezeichnet haben.</translation>
     </message>
 </context>
 <context>
     <name>tembra::EditorSidebar</name>
     <message>
         <source>Screenshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirmfotos</translation>
     </message>
 </context>
 <context>
     <name>tembra::EditorSidebarModel</name>
     <message>
         <source>Edited, not saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Bearbeitet, nicht gespeichert</translation>
     </message>
     <message>
         <source>Edited</source>
-        <translation type="unfinished"></translation>
+        <translation>Bearbeitet</translation>
     </message>
 </context>
 <context>
     <name>tembra::EditorSizeControl</name>
     <message>
         <source>%1 px</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 px</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe</translation>
     </message>
 </context>
 <context>
     <name>tembra::EditorStyleRow</name>
     <message>
         <source>Filled</source>
-        <translation type="unfinished"></translation>
+        <translation>Gefüllt</translation>
     </message>
     <message>
         <source>Background</source>
-        <translation type="unfinished"></translation>
+        <translation>Hintergrund</translation>
     </message>
     <message>
         <source>Background behind the text</source>
-        <translation type="unfinished"></translation>
+        <translation>Hintergrund hinter dem Text</translation>
     </message>
     <message>
         <source>Area</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereich</translation>
     </message>
     <message>
         <source>Words</source>
-        <translation type="unfinished"></translation>
+        <translation>Wörter</translation>
     </message>
     <message>
         <source>What to blur</source>
-        <translation type="unfinished"></translation>
+        <translation>Was weichgezeichnet wird</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Leicht</translation>
     </message>
     <message>
         <source>Medium</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittel</translation>
     </message>
     <message>
         <source>Strong</source>
-        <translation type="unfinished"></translation>
+        <translation>Stark</translation>
     </message>
     <message>
         <source>Strength</source>
-        <translation type="unfinished"></translation>
+        <translation>Stärke</translation>
     </message>
     <message>
         <source>Straighten</source>
-        <translation type="unfinished"></translation>
+        <translation>Begradigen</translation>
     </message>
 </context>
 <context>
     <name>tembra::EditorSwatches</name>
     <message>
         <source>Custom color…</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigene Farbe&#xa0;…</translation>
     </message>
     <message>
         <source>Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Custom color… (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigene Farbe&#xa0;… (%1)</translation>
     </message>
 </context>
 <context>
     <name>tembra::EditorToolRow</name>
     <message>
         <source>Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Werkzeuge</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>tembra::EditorZoomControl</name>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>Zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom</translation>
     </message>
     <message>
         <source>Zoom out</source>
-        <translation type="unfinished"></translation>
+        <translation>Verkleinern</translation>
     </message>
     <message>
         <source>Zoom in</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergrößern</translation>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Passend</translation>
     </message>
     <message>
         <source>Fit in window</source>
-        <translation type="unfinished"></translation>
+        <translation>In Fenster einpassen</translation>
     </message>
 </context>
 <context>
     <name>tembra::FileTraySettingsPage</name>
     <message>
         <source>File Tray</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateiablage</translation>
     </message>
     <message>
         <source>Show the file tray</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateiablage anzeigen</translation>
     </message>
     <message>
         <source>Drop or paste files on the shelf now, and drag them out later.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien jetzt in der Leiste ablegen oder einfügen und später wieder herausziehen.</translation>
     </message>
 </context>
 <context>
     <name>tembra::GeneralSettingsPage</name>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Allgemein</translation>
     </message>
     <message>
         <source>Shelf</source>
-        <translation type="unfinished"></translation>
+        <translation>Leiste</translation>
     </message>
     <message>
         <source>Open the shelf</source>
-        <translation type="unfinished"></translation>
+        <translation>Leiste öffnen</translation>
     </message>
     <message>
         <source>On click</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei Klick</translation>
     </message>
     <message>
         <source>On hover</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Zeigen</translation>
     </message>
     <message>
         <source>Switch tabs on hover</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabs beim Zeigen wechseln</translation>
     </message>
     <message>
         <source>Show the shelf on</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirm für die Leiste</translation>
     </message>
     <message>
         <source>Main display</source>
-        <translation type="unfinished"></translation>
+        <translation>Hauptbildschirm</translation>
     </message>
     <message>
         <source>All displays</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Bildschirme</translation>
     </message>
     <message>
         <source>Startup</source>
-        <translation type="unfinished"></translation>
+        <translation>Autostart</translation>
     </message>
     <message>
         <source>Launch at login</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei der Anmeldung starten</translation>
     </message>
     <message>
         <source>Open Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen öffnen</translation>
     </message>
     <message>
         <source>Allow Tembra in System Settings to launch at login</source>
-        <translation type="unfinished"></translation>
+        <translation>Erlauben Sie Tembra in den Systemeinstellungen, bei der Anmeldung zu starten</translation>
     </message>
     <message>
         <source>Couldn’t change launch at login</source>
-        <translation type="unfinished"></translation>
+        <translation>Start bei der Anmeldung konnte nicht geändert werden</translation>
     </message>
     <message>
         <source>Disabled in macOS. Allow Tembra in System Settings to launch at login.</source>
-        <translation type="unfinished"></translation>
+        <translation>In macOS deaktiviert. Erlauben Sie Tembra in den Systemeinstellungen, bei der Anmeldung zu starten.</translation>
     </message>
     <message>
         <source>Launch at login is unavailable for this copy of Tembra</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Start bei der Anmeldung ist für diese Kopie von Tembra nicht verfügbar</translation>
     </message>
 </context>
 <context>
     <name>tembra::ImageToTextSettingsPage</name>
     <message>
         <source>Image to Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text aus Bild</translation>
     </message>
     <message>
         <source>Show Image to Text</source>
-        <translation type="unfinished"></translation>
+        <translation>„Text aus Bild“ anzeigen</translation>
     </message>
     <message>
         <source>Reads the text in a screenshot or image. Nothing leaves this computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Liest den Text in einem Bildschirmfoto oder Bild. Nichts verlässt diesen Computer.</translation>
     </message>
     <message>
         <source>Languages</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprachen</translation>
     </message>
     <message>
         <source>Follow the desktop’s languages</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprachen des Systems verwenden</translation>
     </message>
 </context>
 <context>
     <name>tembra::LoadingIndicator</name>
     <message>
         <source>Loading</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird geladen</translation>
     </message>
 </context>
 <context>
     <name>tembra::NativeScreenshotCell</name>
     <message>
         <source>Pinned</source>
-        <translation type="unfinished"></translation>
+        <translation>Angepinnt</translation>
     </message>
     <message>
         <source>Edited</source>
-        <translation type="unfinished"></translation>
+        <translation>Bearbeitet</translation>
     </message>
 </context>
 <context>
     <name>tembra::OCRDropView</name>
     <message>
         <source>or paste one with Ctrl+V</source>
-        <translation type="unfinished"></translation>
+        <translation>oder eines mit Strg+V einfügen</translation>
     </message>
     <message>
         <source>Choose Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild wählen</translation>
     </message>
     <message>
         <source>Drop an image to extract its text</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild hier ablegen, um seinen Text zu lesen</translation>
     </message>
 </context>
 <context>
     <name>tembra::OCRLoadingView</name>
     <message>
         <source>Analyzing…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird analysiert&#xa0;…</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
     <name>tembra::OCRPanel</name>
     <message>
         <source>Image to Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text aus Bild</translation>
     </message>
 </context>
 <context>
     <name>tembra::OCRPictureView</name>
     <message>
         <source>The image with this text</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild mit diesem Text</translation>
     </message>
 </context>
 <context>
     <name>tembra::OCRResultCard</name>
     <message>
         <source>Lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilen</translation>
     </message>
     <message>
         <source>Paragraphs</source>
-        <translation type="unfinished"></translation>
+        <translation>Absätze</translation>
     </message>
     <message>
         <source>One line</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Zeile</translation>
     </message>
     <message>
         <source>Text layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Textanordnung</translation>
     </message>
     <message>
         <source>New Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Neues Bild</translation>
     </message>
     <message>
         <source>Expand panel</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergrößern</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopieren</translation>
     </message>
     <message>
         <source>Copied</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopiert</translation>
     </message>
     <message numerus="yes">
         <source>%n words</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Wort</numerusform>
+            <numerusform>%n Wörter</numerusform>
         </translation>
     </message>
     <message>
         <source>Reduce panel</source>
-        <translation type="unfinished"></translation>
+        <translation>Verkleinern</translation>
     </message>
 </context>
 <context>
     <name>tembra::OCRResultTextView</name>
     <message>
         <source>Recognized text</source>
-        <translation type="unfinished"></translation>
+        <translation>Erkannter Text</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopieren</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles auswählen</translation>
     </message>
     <message>
         <source>Open Link</source>
-        <translation type="unfinished"></translation>
+        <translation>Link öffnen</translation>
     </message>
     <message>
         <source>Copy Link</source>
-        <translation type="unfinished"></translation>
+        <translation>Link kopieren</translation>
     </message>
 </context>
 <context>
     <name>tembra::OnboardingDots</name>
     <message>
         <source>Steps</source>
-        <translation type="unfinished"></translation>
+        <translation>Schritte</translation>
     </message>
     <message>
         <source>Step %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Schritt %1 von %2</translation>
     </message>
 </context>
 <context>
     <name>tembra::OnboardingFlow</name>
     <message numerus="yes">
         <source>%n screenshots were moved from the Desktop.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Bildschirmfoto wurde vom Schreibtisch verschoben.</numerusform>
+            <numerusform>%n Bildschirmfotos wurden vom Schreibtisch verschoben.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n screenshots could not be moved and stay on the Desktop.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Bildschirmfoto konnte nicht verschoben werden und bleibt auf dem Schreibtisch.</numerusform>
+            <numerusform>%n Bildschirmfotos konnten nicht verschoben werden und bleiben auf dem Schreibtisch.</numerusform>
         </translation>
     </message>
 </context>
@@ -2328,402 +2688,414 @@ Screenshots: %4
     <name>tembra::PreviewView</name>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschau</translation>
     </message>
     <message>
         <source>Open With</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen mit</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen</translation>
     </message>
     <message numerus="yes">
         <source>%n files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Datei</numerusform>
+            <numerusform>%n Dateien</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 cannot be shown</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht angezeigt werden</translation>
     </message>
     <message>
         <source>%1 · %2 × %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 × %3</translation>
     </message>
 </context>
 <context>
     <name>tembra::ScreenshotCanvasView</name>
     <message>
         <source>Arrow</source>
-        <translation type="unfinished"></translation>
+        <translation>Pfeil</translation>
     </message>
     <message>
         <source>Pencil stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>Stiftstrich</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Linie</translation>
     </message>
     <message>
         <source>Rectangle</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechteck</translation>
     </message>
     <message>
         <source>Ellipse</source>
-        <translation type="unfinished"></translation>
+        <translation>Ellipse</translation>
     </message>
     <message>
         <source>Text: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Text: %1</translation>
     </message>
     <message>
         <source>Number %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nummer %1</translation>
     </message>
     <message>
         <source>Blur</source>
-        <translation type="unfinished"></translation>
+        <translation>Weichzeichnung</translation>
     </message>
     <message>
         <source>Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausschneiden</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopieren</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Einfügen</translation>
     </message>
     <message>
         <source>Duplicate</source>
-        <translation type="unfinished"></translation>
+        <translation>Duplizieren</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Löschen</translation>
     </message>
     <message>
         <source>Bring to front</source>
-        <translation type="unfinished"></translation>
+        <translation>Ganz nach vorne</translation>
     </message>
     <message>
         <source>Bring forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach vorne</translation>
     </message>
     <message>
         <source>Send backward</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach hinten</translation>
     </message>
     <message>
         <source>Send to back</source>
-        <translation type="unfinished"></translation>
+        <translation>Ganz nach hinten</translation>
     </message>
     <message>
         <source>Numbers end at 9,999.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nummern gehen nur bis 9.999.</translation>
     </message>
     <message>
         <source>Add text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text hinzufügen</translation>
     </message>
     <message>
         <source>Change text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text ändern</translation>
     </message>
     <message>
         <source>Screenshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirmfoto</translation>
     </message>
 </context>
 <context>
     <name>tembra::ScreenshotCollectionView</name>
     <message>
         <source>Screenshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirmfotos</translation>
     </message>
 </context>
 <context>
     <name>tembra::ScreenshotEditorWindowController</name>
     <message>
         <source>%1 copy</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Kopie</translation>
     </message>
     <message>
         <source>A copy was saved as “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Kopie wurde als „%1“ gespeichert.</translation>
     </message>
     <message>
         <source>The words of this screenshot couldn’t be found. Draw the areas to blur instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Wörter dieses Bildschirmfotos konnten nicht gefunden werden. Ziehen Sie stattdessen Bereiche zum Weichzeichnen auf.</translation>
     </message>
     <message>
         <source>Looking for words…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wörter werden gesucht&#xa0;…</translation>
     </message>
     <message>
         <source>There are no words in this screenshot.</source>
-        <translation type="unfinished"></translation>
+        <translation>In diesem Bildschirmfoto sind keine Wörter.</translation>
     </message>
     <message>
         <source>“%1”: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“: %2</translation>
     </message>
     <message>
         <source>Make a copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopie anlegen</translation>
     </message>
     <message>
         <source>Save a copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopie speichern</translation>
     </message>
     <message>
         <source>Keep both</source>
-        <translation type="unfinished"></translation>
+        <translation>Beide behalten</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu laden</translation>
     </message>
     <message>
         <source>Another program changed this screenshot.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein anderes Programm hat dieses Bildschirmfoto geändert.</translation>
     </message>
     <message>
         <source>Another program changed this screenshot. Your edits are still here. Save a copy to keep them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein anderes Programm hat dieses Bildschirmfoto geändert. Ihre Änderungen sind noch da. Speichern Sie eine Kopie, um sie zu behalten.</translation>
     </message>
     <message>
         <source>This screenshot is no longer in its folder. Save a copy to keep your edits.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Bildschirmfoto ist nicht mehr in seinem Ordner. Speichern Sie eine Kopie, um Ihre Änderungen zu behalten.</translation>
     </message>
 </context>
 <context>
     <name>tembra::ScreenshotsSettingsPage</name>
     <message>
         <source>Screenshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirmfotos</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Speicherort</translation>
     </message>
     <message>
         <source>Choose…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen&#xa0;…</translation>
     </message>
     <message>
         <source>Screenshots folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirmfoto-Ordner</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen</translation>
     </message>
     <message>
         <source>Open Screenshots Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirmfoto-Ordner öffnen</translation>
     </message>
     <message>
         <source>No folder is chosen yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch ist kein Ordner gewählt.</translation>
     </message>
     <message>
         <source>When a screenshot is taken</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei neuen Bildschirmfotos</translation>
     </message>
     <message>
         <source>Show a notification</source>
-        <translation type="unfinished"></translation>
+        <translation>Benachrichtigung anzeigen</translation>
     </message>
     <message>
         <source>Copy to clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>In die Zwischenablage kopieren</translation>
     </message>
     <message>
         <source>Open in editor</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Editor öffnen</translation>
     </message>
     <message>
         <source>Hide the screenshot tool’s preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschau des Bildschirmfoto-Programms ausblenden</translation>
     </message>
     <message>
         <source>Couldn’t change the screenshot preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Bildschirmfoto-Vorschau konnte nicht geändert werden</translation>
     </message>
     <message>
         <source>Grid</source>
-        <translation type="unfinished"></translation>
+        <translation>Raster</translation>
     </message>
     <message>
         <source>Show file names</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateinamen anzeigen</translation>
     </message>
     <message>
         <source>Group by date</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach Datum gruppieren</translation>
     </message>
     <message>
         <source>Auto-clean</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatisches Aufräumen</translation>
     </message>
     <message>
         <source>Move old screenshots to Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>Alte Bildschirmfotos in den Papierkorb</translation>
     </message>
     <message>
         <source>Moves old screenshots and recordings to Trash, including existing ones. Pinned items stay.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschiebt alte Bildschirmfotos und Aufzeichnungen in den Papierkorb, auch schon vorhandene. Angepinntes bleibt.</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keiner</translation>
+    </message>
+    <message>
+        <source>Run a command</source>
+        <translation>Befehl starten</translation>
+    </message>
+    <message>
+        <source>A program with its arguments. {} stands for the file, which else comes last.</source>
+        <translation>Ein Programm mit seinen Argumenten. {} steht für die Datei, die sonst am Ende kommt.</translation>
     </message>
 </context>
 <context>
     <name>tembra::SettingsSidebar</name>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
 </context>
 <context>
     <name>tembra::SettingsWindow</name>
     <message>
         <source>No setting has these words.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Einstellung enthält diese Wörter.</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Suchen</translation>
     </message>
     <message>
         <source>Search in the settings</source>
-        <translation type="unfinished"></translation>
+        <translation>In den Einstellungen suchen</translation>
     </message>
 </context>
 <context>
     <name>tembra::ShelfController</name>
     <message>
         <source>Couldn’t Copy Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text konnte nicht kopiert werden</translation>
     </message>
     <message>
         <source>Couldn’t Open Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Video konnte nicht geöffnet werden</translation>
     </message>
     <message>
         <source>Couldn’t Open Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild konnte nicht geöffnet werden</translation>
     </message>
     <message>
         <source>The file tray is switched off.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Dateiablage ist ausgeschaltet.</translation>
     </message>
     <message>
         <source>Screenshots moved to Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>In den Papierkorb gelegt</translation>
     </message>
     <message>
         <source>Couldn’t Open Link</source>
-        <translation type="unfinished"></translation>
+        <translation>Link konnte nicht geöffnet werden</translation>
     </message>
 </context>
 <context>
     <name>tembra::ShelfHeader</name>
     <message>
         <source>Screenshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirmfotos</translation>
     </message>
     <message>
         <source>Image to Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text aus Bild</translation>
     </message>
     <message>
         <source>File Tray</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateiablage</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig</translation>
     </message>
     <message>
         <source>Undo %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig: %1</translation>
     </message>
 </context>
 <context>
     <name>tembra::ShelfPanel</name>
     <message>
         <source>Shelf</source>
-        <translation type="unfinished"></translation>
+        <translation>Leiste</translation>
     </message>
 </context>
 <context>
     <name>tembra::ShortcutRecorder</name>
     <message>
         <source>Press a combination…</source>
-        <translation type="unfinished"></translation>
+        <translation>Kombination drücken&#xa0;…</translation>
     </message>
 </context>
 <context>
     <name>tembra::ShortcutSettingsPage</name>
     <message>
         <source>Shortcut</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastenkürzel</translation>
     </message>
     <message>
         <source>Open the shelf with a shortcut</source>
-        <translation type="unfinished"></translation>
+        <translation>Leiste per Tastenkürzel öffnen</translation>
     </message>
     <message>
         <source>It works in every program, and closes the shelf again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Funktioniert in jedem Programm und schließt die Leiste auch wieder.</translation>
     </message>
     <message>
         <source>Click, then press the combination you want.</source>
-        <translation type="unfinished"></translation>
+        <translation>Anklicken, dann die gewünschte Kombination drücken.</translation>
     </message>
     <message>
         <source>Copy Command</source>
-        <translation type="unfinished"></translation>
+        <translation>Befehl kopieren</translation>
     </message>
     <message>
         <source>This desktop keeps global shortcuts to itself. In its keyboard settings, add a shortcut for the command “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Arbeitsumgebung behält globale Tastenkürzel für sich. Legen Sie in ihren Tastatureinstellungen eines für den Befehl „%1“ an.</translation>
     </message>
 </context>
 <context>
     <name>tembra::UpdateAlerts</name>
     <message>
         <source>Couldn’t check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Suche nach Updates nicht möglich</translation>
     </message>
     <message>
         <source>The update failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Update ist fehlgeschlagen</translation>
     </message>
     <message>
         <source>What’s New</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuerungen</translation>
     </message>
     <message>
         <source>Download</source>
-        <translation type="unfinished"></translation>
+        <translation>Herunterladen</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen</translation>
     </message>
 </context>
 </TS>

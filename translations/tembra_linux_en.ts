@@ -24,6 +24,33 @@
     </message>
 </context>
 <context>
+    <name>ScreenshotAutoCleanPeriod</name>
+    <message numerus="yes">
+        <source>%n days</source>
+        <translation>
+            <numerusform>%n day</numerusform>
+            <numerusform>%n days</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tembra::DoctorSettingsPage</name>
+    <message numerus="yes">
+        <source>%n things do not work.</source>
+        <translation>
+            <numerusform>%n thing does not work.</numerusform>
+            <numerusform>%n things do not work.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Everything works, %n things in part.</source>
+        <translation>
+            <numerusform>Everything works, %n thing in part.</numerusform>
+            <numerusform>Everything works, %n things in part.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>CaptureNotification</name>
     <message numerus="yes">
         <source>%n captures</source>
