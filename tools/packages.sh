@@ -12,7 +12,7 @@ build_packages=(
 )
 
 # What the program uses when it runs: image formats, its typeface, gsettings' storage, the language it reads in pictures.
-run_packages=(qt6-image-formats-plugins qt6-qpa-plugins fonts-inter dconf-gsettings-backend tesseract-ocr-eng)
+run_packages=(qt6-image-formats-plugins qt6-qpa-plugins qt6-translations-l10n fonts-inter dconf-gsettings-backend tesseract-ocr-eng)
 
 # A private desktop to run on, and real tools to take captures with and to drive it.
 desktop_packages=(

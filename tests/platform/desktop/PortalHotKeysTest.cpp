@@ -35,6 +35,7 @@ protected:
 
 TEST_F(PortalHotKeysTest, theDesktopIsAskedForTheKeyAndTellsItsPresses) {
     EXPECT_TRUE(m_hotKeys.areAvailable());
+    EXPECT_EQ(m_portal.application, QStringLiteral("app.tembra.Tembra"));
     auto registration = take();
     ASSERT_TRUE(registration);
     ASSERT_TRUE(eventually([this] { return !m_portal.shortcut.isEmpty(); }));

@@ -21,6 +21,8 @@ public:
     ~ShortcutsPortal() override { QDBusConnection::disconnectFromBus(name); }
 
     bool agrees = true;
+    // The program that said who it is, before it asked for anything.
+    QString application;
     // Somebody has asked whether it is there.
     bool wasFound = false;
     // The object that is the session; empty when there is none.
@@ -41,7 +43,10 @@ public:
     QString introspect(const QString &) const override { return {}; }
     bool handleMessage(const QDBusMessage &message, const QDBusConnection &bus) override {
         const QString member = message.member();
-        if (member == u"Get") {
+        if (member == u"Register" && !wasFound) {
+            application = message.arguments().value(0).toString();
+            bus.send(message.createReply());
+        } else if (member == u"Get") {
             wasFound = bus.send(message.createReply(QVariant::fromValue(QDBusVariant(1U))));
         } else if (member == u"CreateSession") {
             createSession(message);

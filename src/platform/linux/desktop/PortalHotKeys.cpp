@@ -11,10 +11,23 @@ namespace tembra {
 
 namespace {
 
+QDBusMessage portalCall(const QString &interface, const QString &method) {
+    return QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.portal.Desktop"),
+                                          QStringLiteral("/org/freedesktop/portal/desktop"), interface,
+                                          method);
+}
+
+// A program that is in no sandbox says which one it is before it asks for anything else, so that the desktop
+// knows whose keys they are (xdg-desktop-portal 1.20 and later; earlier ones refuse, and guess).
+void tellApplication() {
+    QDBusMessage call =
+        portalCall(QStringLiteral("org.freedesktop.host.portal.Registry"), QStringLiteral("Register"));
+    call << QStringLiteral("app.tembra.Tembra") << QVariantMap();
+    QDBusConnection::sessionBus().asyncCall(call);
+}
+
 QDBusPendingCall askForVersion() {
-    QDBusMessage call = QDBusMessage::createMethodCall(
-        QStringLiteral("org.freedesktop.portal.Desktop"), QStringLiteral("/org/freedesktop/portal/desktop"),
-        QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
+    QDBusMessage call = portalCall(QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
     call << QStringLiteral("org.freedesktop.portal.GlobalShortcuts") << QStringLiteral("version");
     constexpr int patienceMilliseconds = 3000;
     return QDBusConnection::sessionBus().asyncCall(call, patienceMilliseconds);
@@ -22,7 +35,11 @@ QDBusPendingCall askForVersion() {
 
 } // namespace
 
-PortalHotKeys::PortalHotKeys() : m_version(askForVersion()) {}
+PortalHotKeys::PortalHotKeys()
+    : m_version([] {
+          tellApplication();
+          return askForVersion();
+      }()) {}
 
 // A portal that is only just starting is asked again.
 bool PortalHotKeys::areAvailable() const {

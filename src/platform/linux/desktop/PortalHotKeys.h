@@ -13,7 +13,7 @@ namespace tembra {
 // later.
 class PortalHotKeys final : public HotKeys {
 public:
-    // Asks whether there is such a portal, without waiting for the answer.
+    // Tells the portal which program this is and asks whether it binds keys, without waiting for the answer.
     PortalHotKeys();
 
     // Waits for that answer, for a moment.
