@@ -132,7 +132,10 @@ void TembraSettingsRow::paintEvent(QPaintEvent *) {
     const QRect room = rect().adjusted(sideMargin, 0, -sideMargin, 0);
     QRect text = QStyle::alignedRect(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter,
                                      {textWidth(width()), titleHeight + below}, room);
-    const Qt::Alignment leading = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft);
+    const Qt::Alignment leading =
+        QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft) | Qt::AlignAbsolute;
+    // A path or a name reads as it is written, whatever the language of the program.
+    painter.setLayoutDirection(Qt::LayoutDirectionAuto);
     painter.setFont(typography::font(typography::bodySize));
     painter.setPen(theme.text);
     painter.drawText(text, leading | Qt::AlignTop,

@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QStyle>
 
 #include <array>
 #include <utility>
@@ -60,7 +61,9 @@ void CaptureNotificationView::apply(const CaptureNotification &notification) {
 }
 
 void CaptureNotificationView::resizeEvent(QResizeEvent *) {
-    m_undo->move(width() - m_undo->width() - textLeftWithoutPreviews, (height() - m_undo->height()) / 2);
+    const QPoint place(width() - m_undo->width() - textLeftWithoutPreviews,
+                       (height() - m_undo->height()) / 2);
+    m_undo->setGeometry(QStyle::visualRect(layoutDirection(), rect(), {place, m_undo->size()}));
 }
 
 void CaptureNotificationView::enterEvent(QEnterEvent *) {
@@ -124,7 +127,7 @@ void CaptureNotificationView::paintPreviews(QPainter &painter) const {
         const Pose &pose = paths.size() == 1 ? alone : stack.at(static_cast<std::size_t>(i));
         const QImage image = m_images.value(paths[i]);
         painter.save();
-        painter.translate(pose.middle);
+        painter.translate(isRightToLeft() ? width() - pose.middle.x() : pose.middle.x(), pose.middle.y());
         painter.rotate(pose.degrees);
         const QRectF place({-previewSize.width() / 2, -previewSize.height() / 2}, previewSize);
         if (image.isNull()) {
@@ -146,7 +149,7 @@ void CaptureNotificationView::paintOverflow(QPainter &painter) const {
     painter.setFont(typography::font(typography::captionSize, QFont::DemiBold));
     const QString text = QStringLiteral("+%1").arg(m_notification.overflow());
     QRectF pill(0, 0, painter.fontMetrics().horizontalAdvance(text) + 10, 16);
-    pill.moveCenter({124, 64});
+    pill.moveCenter({isRightToLeft() ? width() - 124.0 : 124.0, 64});
     painter.setPen(Qt::NoPen);
     painter.setBrush(palette::accent);
     painter.drawRoundedRect(pill, 8, 8);
@@ -156,20 +159,24 @@ void CaptureNotificationView::paintOverflow(QPainter &painter) const {
 
 void CaptureNotificationView::paintText(QPainter &painter) const {
     const int left = m_notification.previews.isEmpty() ? textLeftWithoutPreviews : textLeft;
-    const int width = (m_undo->isVisible() ? m_undo->x() : this->width() - 20) - left;
+    const int undoRoom = m_undo->width() + textLeftWithoutPreviews;
+    const int width = this->width() - (m_undo->isVisible() ? undoRoom : 20) - left;
+    const auto drawLine = [&](const QRect &line, const QString &text) {
+        painter.drawText(QStyle::visualRect(layoutDirection(), rect(), line),
+                         Qt::AlignLeading | Qt::AlignVCenter,
+                         painter.fontMetrics().elidedText(text, Qt::ElideRight, width));
+    };
     const QString detail = m_notification.detail();
     const bool hasDetail = !detail.isEmpty();
     painter.setFont(typography::font(typography::headlineSize, QFont::DemiBold));
     painter.setPen(palette::text);
     const QRect title = hasDetail ? QRect(left, 24, width, 20) : QRect(left, 0, width, height());
-    painter.drawText(title, Qt::AlignLeft | Qt::AlignVCenter,
-                     painter.fontMetrics().elidedText(m_notification.text, Qt::ElideRight, width));
+    drawLine(title, m_notification.text);
     if (!hasDetail)
         return;
     painter.setFont(typography::font(typography::itemSize));
     painter.setPen(palette::secondaryText);
-    painter.drawText(QRect(left, 44, width, 18), Qt::AlignLeft | Qt::AlignVCenter,
-                     painter.fontMetrics().elidedText(detail, Qt::ElideRight, width));
+    drawLine(QRect(left, 44, width, 18), detail);
 }
 
 } // namespace tembra

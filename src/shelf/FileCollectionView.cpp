@@ -59,7 +59,7 @@ void FileCollectionView::layOut(bool moves) {
     } else {
         sections.push_back({m_state.count(), false});
     }
-    m_layout = FileGridLayout(m_viewport.width(), sections, m_state.showFileNames);
+    m_layout = FileGridLayout(m_viewport.width(), sections, m_state.showFileNames, layoutDirection());
     resize(m_viewport.width(), std::max(m_layout.height(), m_viewport.height()));
     arrange(moves);
 }

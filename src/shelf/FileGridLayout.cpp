@@ -17,8 +17,12 @@ constexpr int headerLeft = 28;
 
 } // namespace
 
-FileGridLayout::FileGridLayout(int width, std::span<const Section> sections, bool showFileNames)
-    : m_width(width), m_columns(Grid::columns(width)), m_itemHeight(Grid::heightOfItem(showFileNames)) {
+FileGridLayout::FileGridLayout(int width, std::span<const Section> sections, bool showFileNames,
+                               Qt::LayoutDirection direction)
+    : m_width(width),
+      m_isMirrored(direction == Qt::RightToLeft),
+      m_columns(Grid::columns(width)),
+      m_itemHeight(Grid::heightOfItem(showFileNames)) {
     int first = 0;
     for (const Section &section : sections) {
         // The inset below the section before is part of a title's room.
@@ -54,7 +58,11 @@ QRect FileGridLayout::itemRect(int index) const {
     const Block &block = blockOf(index);
     const int place = index - block.first;
     const int x = Grid::sectionInset.left() + place % m_columns * (Grid::itemWidth + Grid::interItemSpacing);
-    return {x, block.itemsTop + place / m_columns * pitch(), Grid::itemWidth, m_itemHeight};
+    return mirrored({x, block.itemsTop + place / m_columns * pitch(), Grid::itemWidth, m_itemHeight});
+}
+
+QRect FileGridLayout::mirrored(const QRect &rect) const {
+    return m_isMirrored ? rect.translated(m_width - rect.width() - 2 * rect.x(), 0) : rect;
 }
 
 QRect FileGridLayout::itemRectWithTitle(int index) const {
@@ -71,7 +79,8 @@ QRect FileGridLayout::headerRect(const Block &block) const {
     if (!block.hasHeader)
         return {};
     const int top = block.itemsTop - headerToItems - headerHeight;
-    return {headerLeft, top, std::max(0, m_width - headerLeft - Grid::sectionInset.right()), headerHeight};
+    return mirrored(
+        {headerLeft, top, std::max(0, m_width - headerLeft - Grid::sectionInset.right()), headerHeight});
 }
 
 FileGridLayout::Range FileGridLayout::itemsWithin(int top, int bottom) const {
@@ -107,9 +116,10 @@ int FileGridLayout::neighbour(int index, Direction direction) const {
     const int column = (index - block.first) % m_columns;
     switch (direction) {
     case Direction::left:
-        return std::max(index - 1, 0);
-    case Direction::right:
-        return std::min(index + 1, count() - 1);
+    case Direction::right: {
+        const bool isBack = (direction == Direction::left) != m_isMirrored;
+        return std::clamp(isBack ? index - 1 : index + 1, 0, count() - 1);
+    }
     case Direction::up: {
         if (row > 0)
             return item(block, row - 1, column);

@@ -26,7 +26,9 @@ public:
     enum class Direction { left, right, up, down };
 
     FileGridLayout() = default;
-    FileGridLayout(int width, std::span<const Section> sections, bool showFileNames);
+    // Right to left, the first tile is the rightmost.
+    FileGridLayout(int width, std::span<const Section> sections, bool showFileNames,
+                   Qt::LayoutDirection direction = Qt::LeftToRight);
 
     [[nodiscard]] int height() const { return m_height; }
     [[nodiscard]] int columns() const { return m_columns; }
@@ -52,12 +54,14 @@ private:
 
     [[nodiscard]] const Block &blockOf(int index) const;
     [[nodiscard]] QRect headerRect(const Block &block) const;
+    [[nodiscard]] QRect mirrored(const QRect &rect) const;
     [[nodiscard]] int rows(const Block &block) const { return (block.count + m_columns - 1) / m_columns; }
     [[nodiscard]] int pitch() const;
     // Nearest to the column in the row; negative rows count from the end.
     [[nodiscard]] int item(const Block &block, int row, int column) const;
 
     int m_width = 0;
+    bool m_isMirrored = false;
     int m_columns = 1;
     int m_itemHeight = 0;
     int m_height = 0;

@@ -221,6 +221,8 @@ void FileItemCell::paintName(QPainter &painter) const {
         line.translate(0, nameLineHeight);
     }
     line.moveTop(nameTop);
+    // A name reads as it is written, whatever the language of the program.
+    painter.setLayoutDirection(Qt::LayoutDirectionAuto);
     painter.setPen(m_selected ? palette::onAccent : palette::itemText);
     for (const QString &text : m_nameLines) {
         painter.drawText(line, Qt::AlignCenter, text);

@@ -170,6 +170,7 @@ void PreviewView::paintFooter(QPainter &painter) const {
     QRectF line(0, height() - PreviewGeometry::footer, m_open->x() - PreviewGeometry::spacing,
                 PreviewGeometry::footer);
     line.setLeft(PreviewGeometry::margin);
+    painter.setLayoutDirection(Qt::LayoutDirectionAuto);
     painter.drawText(
         line, Qt::AlignLeft | Qt::AlignVCenter,
         painter.fontMetrics().elidedText(title(), Qt::ElideMiddle, static_cast<int>(line.width())));

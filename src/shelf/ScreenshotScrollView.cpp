@@ -5,6 +5,7 @@
 #include "shelf/ShelfLayout.h"
 
 #include <QScrollBar>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -46,8 +47,8 @@ void ScreenshotScrollView::resizeEvent(QResizeEvent *event) {
     QScrollArea::resizeEvent(event);
     m_fades->setGeometry(rect());
     const QRect room = rect().marginsRemoved(scrollerInsets);
-    m_scroller->setGeometry(room.right() + 1 - scrollerSize.width(), room.top(), scrollerSize.width(),
-                            room.height());
+    m_scroller->setGeometry(QStyle::alignedRect(layoutDirection(), Qt::AlignRight | Qt::AlignTop,
+                                                {scrollerSize.width(), room.height()}, room));
     m_fades->raise();
     m_scroller->raise();
     Q_EMIT viewportResized();

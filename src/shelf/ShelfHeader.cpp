@@ -7,6 +7,7 @@
 #include "shelf/ShelfButton.h"
 
 #include <QPainter>
+#include <QStyle>
 
 namespace tembra {
 
@@ -70,9 +71,20 @@ void ShelfHeader::offerUndo(const std::optional<QString> &actionName) {
 
 void ShelfHeader::placeButtons() {
     m_settings->resize(m_settings->sizeHint());
-    m_settings->move(width() - settingsInset - m_settings->width(), (height - m_settings->height()) / 2);
     m_undo->resize(m_undo->sizeHint());
-    m_undo->move(m_settings->x() - buttonSpacing - m_undo->width(), (height - m_undo->height()) / 2);
+    const int settingsLeft = width() - settingsInset - m_settings->width();
+    place(*m_settings, {settingsLeft, (height - m_settings->height()) / 2});
+    place(*m_undo, {settingsLeft - buttonSpacing - m_undo->width(), (height - m_undo->height()) / 2});
+    QPoint at = groupOrigin + QPoint(groupInset, groupInset);
+    for (ShelfButton *button : m_buttons) {
+        place(*button, at);
+        at.rx() += button->width() + buttonSpacing;
+    }
+}
+
+// From the leading edge.
+void ShelfHeader::place(QWidget &control, QPoint position) const {
+    control.setGeometry(QStyle::visualRect(layoutDirection(), rect(), {position, control.size()}));
 }
 
 void ShelfHeader::resizeEvent(QResizeEvent *) {
@@ -92,12 +104,9 @@ void ShelfHeader::build() {
     for (ShelfButton *button : m_buttons)
         button->deleteLater();
     m_buttons.clear();
-    QPoint at = groupOrigin + QPoint(groupInset, groupInset);
     for (const ShelfTab tab : m_tabs) {
         auto *button = new ShelfButton(iconOf(tab), nameOf(tab), this);
-        button->move(at);
         button->show();
-        at.rx() += button->width() + buttonSpacing;
         connect(button, &ShelfButton::clicked, this, [this, tab] { Q_EMIT tabClicked(tab); });
         connect(button, &ShelfButton::entered, this, [this, tab] { Q_EMIT tabHovered(tab); });
         connect(button, &ShelfButton::left, this, [this, tab] { Q_EMIT tabLeft(tab); });
@@ -111,14 +120,16 @@ void ShelfHeader::build() {
         connect(button, &ShelfButton::dropped, this,
                 [this, tab](const QMimeData *content) { Q_EMIT droppedOn(tab, content); });
     }
+    placeButtons();
     update();
 }
 
 QRect ShelfHeader::group() const {
     const int count = static_cast<int>(m_tabs.size());
     const QSize button = ShelfButton::fieldSize;
-    return {groupOrigin, QSize(count * button.width() + (count - 1) * buttonSpacing + 2 * groupInset,
-                               button.height() + 2 * groupInset)};
+    const QSize size(count * button.width() + (count - 1) * buttonSpacing + 2 * groupInset,
+                     button.height() + 2 * groupInset);
+    return QStyle::visualRect(layoutDirection(), rect(), {groupOrigin, size});
 }
 
 void ShelfHeader::paintEvent(QPaintEvent *) {

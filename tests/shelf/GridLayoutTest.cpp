@@ -166,3 +166,21 @@ TEST(FileGridLayout, arrowsLeadToTheNearestTileAndStopAtTheEnds) {
         EXPECT_EQ(layout.neighbour(row.from, row.direction), row.to)
             << row.from << " direction " << static_cast<int>(row.direction);
 }
+
+TEST(ShelfGrid, isItsOwnMirrorImageFromRightToLeft) {
+    const std::vector<Section> sections{{5, true}, {2, true}};
+    const int width = widthOf(3) + 17;
+    const FileGridLayout plain(width, sections, true);
+    const FileGridLayout mirrored(width, sections, true, Qt::RightToLeft);
+    const auto image = [width](const QRect &rect) {
+        return QRect(width - rect.x() - rect.width(), rect.y(), rect.width(), rect.height());
+    };
+    for (int index = 0; index < plain.count(); ++index) {
+        EXPECT_EQ(mirrored.itemRect(index), image(plain.itemRect(index))) << index;
+        EXPECT_EQ(mirrored.itemAt(mirrored.itemRect(index).center()), index);
+        EXPECT_EQ(mirrored.neighbour(index, left), plain.neighbour(index, right));
+        EXPECT_EQ(mirrored.neighbour(index, right), plain.neighbour(index, left));
+        EXPECT_EQ(mirrored.neighbour(index, down), plain.neighbour(index, down));
+    }
+    EXPECT_EQ(mirrored.headerRect(1), image(plain.headerRect(1)));
+}
