@@ -1,6 +1,8 @@
+#include "shelf/ShelfHeader.h"
 #include "shelf/ShelfTabs.h"
 #include "shelf/TabHover.h"
 #include "support/ManualScheduler.h"
+#include "support/PseudoLocale.h"
 
 #include <gtest/gtest.h>
 
@@ -56,4 +58,15 @@ TEST_F(TabHoverTest, neverActivatesATabThatWasLeftOrMayNotSwitch) {
     hover.hoverTab(ShelfTab::screenshots);
     scheduler.advance(1s);
     EXPECT_EQ(activated.size(), 1U);
+}
+
+TEST(ShelfHeader, isMirroredWhereLanguagesRunFromRightToLeft) {
+    expectMirrorImage([] {
+        auto header = std::make_unique<ShelfHeader>(nullptr);
+        header->resize(744, ShelfHeader::height);
+        header->apply({ShelfTab::fileTray, ShelfTab::screenshots, ShelfTab::imageToText},
+                      ShelfTab::screenshots);
+        header->offerUndo(QStringLiteral("Move to Trash"));
+        return header;
+    });
 }

@@ -46,6 +46,8 @@ EditorNameField::EditorNameField(QWidget *parent) : QWidget(parent), m_edit(new 
     setAttribute(Qt::WA_Hover);
     setCursor(Qt::IBeamCursor);
     setFocusProxy(m_edit);
+    // The extension follows the name in every language.
+    setLayoutDirection(Qt::LeftToRight);
     m_edit->setFont(font());
     m_edit->setFrame(false);
     m_edit->setAccessibleName(tr("File name"));

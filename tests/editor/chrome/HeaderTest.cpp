@@ -4,6 +4,7 @@
 #include "editor/chrome/EditorDragHandle.h"
 #include "editor/chrome/EditorHeader.h"
 #include "editor/chrome/EditorNameField.h"
+#include "support/PseudoLocale.h"
 
 #include <QLineEdit>
 #include <QSignalSpy>
@@ -175,6 +176,15 @@ TEST(Banner, aLongSentenceIsWrapped) {
     EditorBanner banner;
     banner.present({.text = QStringLiteral("A sentence that goes on. ").repeated(12)});
     EXPECT_GT(banner.heightForWidth(500), banner.heightForWidth(4000));
+}
+
+TEST(EditorHeader, isMirroredWhereLanguagesRunFromRightToLeft) {
+    expectMirrorImage([] {
+        auto bar = std::make_unique<EditorHeader>();
+        bar->resize(900, EditorHeader::barHeight);
+        bar->apply({.name = QStringLiteral("Shot"), .extension = QStringLiteral("png"), .canUndo = true});
+        return bar;
+    });
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "controls/TembraButton.h"
 #include "controls/TembraLinkButton.h"
+#include "support/PseudoLocale.h"
 #include "windows/onboarding/OnboardingIllustration.h"
 
 #include <QApplication>
@@ -181,4 +182,14 @@ TEST_F(OnboardingWindowTest, aLongPathKeepsItsEndsAndTheWindowItsSize) {
     show(state);
     EXPECT_EQ(window.size(), OnboardingWindow::contentSize);
     EXPECT_TRUE(shows(state.path.toUtf8().constData())) << "to those who have it read to them";
+}
+
+TEST_F(OnboardingWindowTest, longTextsFitAndTheWindowCanBeMirrored) {
+    for (const OnboardingState &state : {introduction, suggesting, offering, caught}) {
+        expectMirrorImage([&state] {
+            auto mirrored = std::make_unique<OnboardingWindow>();
+            mirrored->apply(state);
+            return mirrored;
+        });
+    }
 }

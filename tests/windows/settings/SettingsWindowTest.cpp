@@ -2,6 +2,7 @@
 
 #include "controls/TembraSettingsRow.h"
 #include "settings/SettingsFixture.h"
+#include "support/PseudoLocale.h"
 #include "windows/settings/FileTraySettingsPage.h"
 #include "windows/settings/ScreenshotsSettingsPage.h"
 
@@ -18,6 +19,12 @@ class SettingsWindows : public SettingsFixture {
 protected:
     void SetUp() override {
         start();
+        m_window = makeWindow();
+        m_window->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(m_window.get()));
+    }
+
+    [[nodiscard]] std::unique_ptr<SettingsWindow> makeWindow() {
         std::vector<SettingsPage *> pages;
         for (const SettingsPageId page : allSettingsPages) {
             if (page == SettingsPageId::screenshots)
@@ -27,9 +34,7 @@ protected:
                 pages.push_back(new FileTraySettingsPage(*m_settings));
         }
         m_pages = pages;
-        m_window = std::make_unique<SettingsWindow>(pages);
-        m_window->show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(m_window.get()));
+        return std::make_unique<SettingsWindow>(pages);
     }
 
     [[nodiscard]] QStringList shownRows() const {
@@ -81,4 +86,12 @@ TEST_F(SettingsWindows, theKeyboardReachesEverything) {
     EXPECT_TRUE(m_window->isVisible());
     QTest::keyClick(search, Qt::Key_Escape);
     EXPECT_FALSE(m_window->isVisible());
+}
+
+TEST_F(SettingsWindows, longTextsFitAndTheWindowCanBeMirrored) {
+    expectMirrorImage([this] {
+        auto window = makeWindow();
+        window->showPage(SettingsPageId::screenshots);
+        return window;
+    });
 }
