@@ -69,6 +69,34 @@ TEST_F(CaptureName, isAcceptedAsTheToolsOfLinuxDesktopsWriteIt) {
              "2026-11-21 10-15-22.mov",
              "Screenshot 2026-11-21 10-15-22.png",
              "Screenshot at 2026-02-28 23-59-59.png",
+             // a second one in the same moment
+             "Screenshot from 2026-11-21 10-15-22 - 1.png",
+             "ksnip_20261121-101522(2).png",
+             "2026-11-21-101522_1280x800_scrot_000.png",
+             "Screenshot_2026-11-21_10-15-22-1.png",
+         })
+        EXPECT_EQ(reason(name), CaptureReason::tool) << name;
+}
+
+// The words are those of the tools' own catalogues.
+TEST_F(CaptureName, isAcceptedInGermanAndRussian) {
+    for (const char *name : {
+             "Bildschirmfoto vom 2026-11-21 10-15-22.png",
+             "Bildschirmfoto vom 2026-11-21 10-15-22 - 1.png",
+             "Bildschirmfoto vom 2026-11-21 10-15-22-1.png",
+             "Снимок экрана от 2026-11-21 10-15-22.png",
+             "Снимок экрана от 2026-11-21 10-15-22 - 12.png",
+             "Bildschirmaufzeichnung vom 2026-11-21, 10-15-22.webm",
+             "Запись экрана от 2026-11-21 10-15-22.webm",
+             "Bildschirmfoto zu 2026-11-21 10-15-22.png",
+             "Bildschirmfoto zu 2026-11-21 10-15-22 - 1.png",
+             "Снимок экрана в 2026-11-21 10-15-22.png",
+             "Снимок экрана в 2026-11-21 10-15-22 — 1.png",
+             "Bildschirmfoto_2026-11-21_10-15-22.png",
+             "Bildschirmfoto_2026-11-21_10-15-22-1.png",
+             "Снимок экрана_2026-11-21_10-15-22.jpg",
+             "Bildschirmfoto_20261121_101522.png",
+             "Снимок экрана_20261121_101522.png",
          })
         EXPECT_EQ(reason(name), CaptureReason::tool) << name;
 }
@@ -98,6 +126,9 @@ TEST_F(CaptureName, ofAnyOtherFileIsNotAccepted) {
              "Screenshot 2024-05-01 at 10.15.22 (2) (3).png",
              "Screenshot 2024-05-01 at quarter past 10.15.png",
              "Screenshot_20261121_101522-.png",
+             "Screenshot_20261121_101522().png",
+             "Screenshot_20261121_1015221).png",
+             "Screenshot_20261121_101522 - .png",
              "Screenshot_20261121_101522_edited.png",
              "Screenshot_20261121_1015220.png",
              "2026-11-21-101522_1280x_scrot.png",
@@ -140,9 +171,12 @@ TEST_F(CaptureName, mayBeginAsTheUserSetItBesideTheUsualWays) {
         {"bild 2024-05-01 at 10.15.22.mov", "Bild", CaptureReason::name},
         {"Bild (neu) 2024-05-01 at 10.15.22.png", "Bild (neu)", CaptureReason::name},
         {"Bildnis 2024-05-01 at 10.15.22.png", "Bild", std::nullopt},
-        {"Bildschirmfoto_20261121_101522.png", "Bildschirmfoto_", CaptureReason::tool},
-        {"Bildschirmfoto vom 2026-11-21 10-15-22.png", "Bildschirmfoto vom ", CaptureReason::tool},
-        {"Bildschirmfoto_Urlaub.png", "Bildschirmfoto_", std::nullopt},
+        {"Foto_20261121_101522.png", "Foto_", CaptureReason::tool},
+        {"Foto_20261121_101522.png", "Foto", CaptureReason::tool},
+        {"Capture d’écran du 2026-11-21 10-15-22.png", "Capture d’écran du", CaptureReason::tool},
+        {"Bild_2026-11-21_10-15_1.png", "Bild", CaptureReason::tool},
+        {"Bild_2026-11-21_10-15.jpg", "Bild", std::nullopt},
+        {"Foto_Urlaub.png", "Foto", std::nullopt},
         {"Screenshot 2024-05-01 at 10.15.22.png", "Bild", CaptureReason::name},
         {"Screenshot_20261121_101522.png", "Bild", CaptureReason::tool},
     };

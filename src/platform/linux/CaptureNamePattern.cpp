@@ -8,6 +8,9 @@ namespace tembra {
 
 namespace {
 
+// What may stand between the words of a name and its moment.
+constexpr QStringView separators = u" _-.,";
+
 bool isDigit(QChar c) {
     return c >= u'0' && c <= u'9';
 }
@@ -57,28 +60,40 @@ std::optional<QStringView> afterMoment(QStringView pattern, QStringView name) {
     return moment.isPossible() ? std::optional(name.sliced(at)) : std::nullopt;
 }
 
+// What tools put around the number of a further capture in the same moment.
+struct Brackets {
+    QStringView before;
+    QStringView after;
+};
+constexpr Brackets counters[]{{u" (", u")"}, {u"(", u")"}, {u" - ", u""},
+                              {u" — ", u""}, {u"-", u""},  {u"_", u""}};
+
 bool isCounter(QStringView text) {
-    if (text.isEmpty())
-        return true;
-    if (text.startsWith(u" (") && text.endsWith(u')'))
-        text = text.sliced(2).chopped(1);
-    else if (text.front() == u'-' || text.front() == u'_')
-        text = text.sliced(1);
-    else
-        return false;
-    return !text.isEmpty() && std::ranges::all_of(text, isDigit);
+    const auto isWithin = [text](const Brackets &brackets) {
+        const qsizetype around = brackets.before.size() + brackets.after.size();
+        return text.size() > around && text.startsWith(brackets.before) && text.endsWith(brackets.after) &&
+               std::ranges::all_of(text.sliced(brackets.before.size(), text.size() - around), isDigit);
+    };
+    return text.isEmpty() || std::ranges::any_of(counters, isWithin);
 }
 
 } // namespace
 
 bool CaptureNamePattern::matches(QStringView name) const {
-    return matchesAfter(prefix, name);
+    return name.startsWith(prefix, Qt::CaseInsensitive) && matchesMoment(name.sliced(prefix.size()));
 }
 
 bool CaptureNamePattern::matchesAfter(QStringView otherPrefix, QStringView name) const {
     if (!name.startsWith(otherPrefix, Qt::CaseInsensitive))
         return false;
-    const auto rest = afterMoment(moment, name.sliced(otherPrefix.size()));
+    QStringView rest = name.sliced(otherPrefix.size());
+    while (!rest.isEmpty() && separators.contains(rest.front()))
+        rest = rest.sliced(1);
+    return matchesMoment(rest);
+}
+
+bool CaptureNamePattern::matchesMoment(QStringView text) const {
+    const auto rest = afterMoment(moment, text);
     return rest && rest->startsWith(suffix, Qt::CaseInsensitive) && isCounter(rest->sliced(suffix.size()));
 }
 

@@ -12,10 +12,15 @@ struct CaptureNamePattern {
     QStringView moment;
     QStringView suffix = {};
 
-    // Whether the name, without extension, is of this form; a counter may follow: "-1", "_2", " (3)".
+    // Whether the name, without extension, is of this form; a counter may follow: "-1", "_2",
+    // " (3)", "(4)", " - 5".
     [[nodiscard]] bool matches(QStringView name) const;
-    // The same with other fixed words in front of the moment.
+    // The same with other fixed words in front of the moment, with or without the separators that follow
+    // them.
     [[nodiscard]] bool matchesAfter(QStringView otherPrefix, QStringView name) const;
+
+private:
+    [[nodiscard]] bool matchesMoment(QStringView text) const;
 };
 
 } // namespace tembra

@@ -84,12 +84,13 @@ bool LinuxCaptureMarkers::nameSaysCapture(QStringView fileName, QStringView cust
     const NameParts name = split(fileName);
     const bool isVideo = name.extension == u"mov" || name.extension == u"mp4" || name.extension == u"m4v" ||
                          isPlatformVideoExtension(name.extension);
-    const auto patterns = isVideo ? linuxVideoNames() : linuxImageNames();
-    return isWordlessCaptureName(name.base, name.extension) ||
-           std::ranges::any_of(patterns, [&](const CaptureNamePattern &pattern) {
-               return pattern.matches(name.base) ||
-                      (!customPrefix.isEmpty() && pattern.matchesAfter(customPrefix, name.base));
-           });
+    const auto isOfForm = [&](const CaptureNamePattern &pattern) {
+        return pattern.matches(name.base) ||
+               (!customPrefix.isEmpty() && pattern.matchesAfter(customPrefix, name.base));
+    };
+    const CaptureNamePattern *wordless = wordlessName(name.extension);
+    return (wordless && isOfForm(*wordless)) ||
+           std::ranges::any_of(isVideo ? linuxVideoNames() : linuxImageNames(), isOfForm);
 }
 
 bool LinuxCaptureMarkers::isPlatformVideoExtension(QStringView extension) const {

@@ -19,6 +19,15 @@ constexpr CaptureNamePattern imageNames[]{
     {u"Screenshot_", underscored},
     // mate-screenshot
     {u"Screenshot at ", spaced},
+    // the same in German and Russian; Spectacle translates its names since version 24
+    {u"Bildschirmfoto vom ", spaced},
+    {u"Снимок экрана от ", spaced},
+    {u"Bildschirmfoto_", compact},
+    {u"Снимок экрана_", compact},
+    {u"Bildschirmfoto_", underscored},
+    {u"Снимок экрана_", underscored},
+    {u"Bildschirmfoto zu ", spaced},
+    {u"Снимок экрана в ", spaced},
     // OBS Studio
     {u"Screenshot ", spaced},
     {u"ksnip_", compactDashed},
@@ -41,6 +50,8 @@ constexpr CaptureNamePattern imageNames[]{
 constexpr CaptureNamePattern videoNames[]{
     // GNOME
     {u"Screencast from ", spaced},
+    {u"Bildschirmaufzeichnung vom ", u"YYYY-MM-DD, HH-II-SS"},
+    {u"Запись экрана от ", spaced},
     // Spectacle
     {u"Screencast_", compact},
     {u"Screencast_", underscored},
@@ -64,12 +75,12 @@ std::span<const CaptureNamePattern> linuxVideoNames() {
     return videoNames;
 }
 
-bool isWordlessCaptureName(QStringView name, QStringView lowerCaseExtension) {
+const CaptureNamePattern *wordlessName(QStringView lowerCaseExtension) {
     if (lowerCaseExtension == u"png")
-        return wordlessImage.matches(name);
+        return &wordlessImage;
     const bool isRecording =
         lowerCaseExtension == u"mkv" || lowerCaseExtension == u"mp4" || lowerCaseExtension == u"mov";
-    return isRecording && wordlessVideo.matches(name);
+    return isRecording ? &wordlessVideo : nullptr;
 }
 
 } // namespace tembra

@@ -10,7 +10,8 @@ namespace tembra {
 // them when nobody changed their settings.
 [[nodiscard]] std::span<const CaptureNamePattern> linuxImageNames();
 [[nodiscard]] std::span<const CaptureNamePattern> linuxVideoNames();
-// Names without any word are captures only with the extension that their tool writes.
-[[nodiscard]] bool isWordlessCaptureName(QStringView name, QStringView lowerCaseExtension);
+// The names without any word, which are captures only with the extension that their tool writes; nothing for
+// other extensions.
+[[nodiscard]] const CaptureNamePattern *wordlessName(QStringView lowerCaseExtension);
 
 } // namespace tembra

@@ -1,5 +1,5 @@
 #define G_SETTINGS_ENABLE_BACKEND
-#include "platform/linux/tools/GnomeScreenshotPreferences.h"
+#include "platform/linux/tools/DesktopDatabasePreferences.h"
 #include "platform/linux/tools/GnomeShellPreferences.h"
 #include "platform/tools/Session.h"
 
@@ -30,10 +30,11 @@ class GnomeScreenshot : public testing::Test {
 protected:
     using Backend = std::unique_ptr<GSettingsBackend, void (*)(void *)>;
 
-    [[nodiscard]] std::unique_ptr<GnomeScreenshotPreferences> preferences() {
+    [[nodiscard]] std::unique_ptr<DesktopDatabasePreferences> preferences() {
         const QByteArray path = QFile::encodeName(session.path(file));
         m_backend = Backend(g_keyfile_settings_backend_new(path.constData(), "/", nullptr), g_object_unref);
-        return std::make_unique<GnomeScreenshotPreferences>(session.folders, untranslated, m_backend.get());
+        return std::make_unique<DesktopDatabasePreferences>(gnomeScreenshotTool, session.folders,
+                                                            untranslated, m_backend.get());
     }
     void store(const QByteArray &value) const {
         session.write(file, "[org/gnome/gnome-screenshot]\nauto-save-directory='" + value + "'\n");
@@ -92,7 +93,7 @@ TEST_F(GnomeScreenshot, livesWithoutItsSchema) {
     const auto withoutSchema = [&] {
         qputenv("XDG_DATA_DIRS", "/nonexistent");
         qputenv("XDG_DATA_HOME", "/nonexistent");
-        GnomeScreenshotPreferences preferences(session.folders, untranslated);
+        DesktopDatabasePreferences preferences(gnomeScreenshotTool, session.folders, untranslated);
         preferences.setLocation(QStringLiteral("/srv/shots"));
         preferences.synchronize();
         std::exit(preferences.location() == session.folders.pictures ? 0 : 1);
@@ -100,13 +101,35 @@ TEST_F(GnomeScreenshot, livesWithoutItsSchema) {
     EXPECT_EXIT(withoutSchema(), testing::ExitedWithCode(0), "");
 }
 
-TEST_F(GnomeScreenshot, namesItsFilesInTheLanguageOfTheSession) {
-    if (!QFileInfo::exists(QStringLiteral("/usr/share/locale/de/LC_MESSAGES/gnome-screenshot.mo")))
-        GTEST_SKIP() << "no German catalogue of gnome-screenshot";
-    EXPECT_EQ(preferences()->name(), std::nullopt);
-    std::setlocale(LC_ALL, "C.UTF-8");
-    qputenv("LANGUAGE", "de");
-    EXPECT_EQ(GnomeScreenshotPreferences(session.folders).name(), QStringLiteral("Bildschirmfoto vom"));
+TEST(DesktopDatabase, toolsNameTheirFilesInTheLanguageOfTheSession) {
+    struct Case {
+        const DesktopDatabaseTool &tool;
+        const char *language;
+        QString name;
+    };
+    const Case cases[]{
+        {gnomeScreenshotTool, "de", QStringLiteral("Bildschirmfoto vom")},
+        {gnomeScreenshotTool, "ru", QStringLiteral("Снимок экрана от")},
+        {mateScreenshotTool, "de", QStringLiteral("Bildschirmfoto zu")},
+        {mateScreenshotTool, "ru", QStringLiteral("Снимок экрана в")},
+    };
+    // Catalogues are looked up anew after the locale was set.
+    const auto setLanguage = [](const char *language) {
+        qputenv("LANGUAGE", language);
+        std::setlocale(LC_ALL, "C");
+        std::setlocale(LC_ALL, "C.UTF-8");
+    };
+    for (const Case &c : cases) {
+        const DesktopDatabasePreferences preferences(c.tool, StandardFolders());
+        setLanguage("");
+        EXPECT_EQ(preferences.name(), std::nullopt) << c.tool.name;
+        const QString catalogue = QStringLiteral("/usr/share/locale/%1/LC_MESSAGES/%2.mo");
+        if (!QFileInfo::exists(
+                catalogue.arg(QLatin1StringView(c.language), QLatin1StringView(c.tool.catalogue))))
+            continue;
+        setLanguage(c.language);
+        EXPECT_EQ(preferences.name(), c.name) << c.tool.name << ' ' << c.language;
+    }
     qunsetenv("LANGUAGE");
 }
 

@@ -21,6 +21,7 @@ ScreenshotToolHints hints(const char *desktops, const QStringList &programs,
 
 const QString gnomeShell = QStringLiteral("gnome-shell");
 const QString gnomeScreenshot = QStringLiteral("gnome-screenshot");
+const QString mateScreenshot = QStringLiteral("mate-screenshot");
 const QString spectacle = QStringLiteral("spectacle");
 const QString xfce = QStringLiteral("xfce4-screenshooter");
 const QString flameshot = QStringLiteral("flameshot");
@@ -41,7 +42,9 @@ TEST(ScreenshotTool, isTheOneOfTheDesktop) {
         {"GNOME-Flashback:GNOME", {gnomeShell, gnomeScreenshot}, Tool::GnomeScreenshot},
         {"Budgie:GNOME", {gnomeShell, gnomeScreenshot}, Tool::GnomeScreenshot},
         {"X-Cinnamon", {gnomeScreenshot}, Tool::GnomeScreenshot},
+        {"MATE", {mateScreenshot, gnomeScreenshot}, Tool::MateScreenshot},
         {"MATE", {gnomeScreenshot, ksnip}, Tool::GnomeScreenshot},
+        {"MATE", {}, Tool::MateScreenshot},
         {"KDE", {spectacle, gnomeScreenshot}, Tool::Spectacle},
         {"XFCE", {xfce, spectacle}, Tool::XfceScreenshooter},
         {"KDE", {flameshot}, Tool::Flameshot},
@@ -110,8 +113,8 @@ TEST(ScreenshotTool, isFoundInTheEnvironment) {
 
 TEST(ScreenshotTool, withoutAThumbnailSaysSo) {
     const Session session;
-    for (const char *name :
-         {"gnome", "gnome-screenshot", "spectacle", "xfce4-screenshooter", "flameshot", "ksnip", "generic"}) {
+    for (const char *name : {"gnome", "gnome-screenshot", "mate-screenshot", "spectacle",
+                             "xfce4-screenshooter", "flameshot", "ksnip", "generic"}) {
         const auto preferences = session.preferences(QString::fromLatin1(name));
         EXPECT_EQ(preferences->showThumbnail(), std::nullopt) << name;
         const Result<void> result = preferences->setShowThumbnail(false);

@@ -199,6 +199,7 @@ TEST(SettingsFiles, tellTheBeginningOfNamesOnlyWhenItWasChanged) {
         {oldSpectacle, "[ImageSave]\nimageFilenameTemplate=<yyyy>/Mein\\sBild - <dd>\n",
          QStringLiteral("Mein Bild")},
         {xfce, "title=Screenshot\n", std::nullopt},
+        {xfce, "title=Bildschirmfoto\n", QStringLiteral("Bildschirmfoto")},
         {xfce, "title=Mein\\sBild\n", QStringLiteral("Mein Bild")},
         {flameshot, "[General]\nfilenamePattern=%F_%H-%M\n", std::nullopt},
         {ksnip, "[Application]\nSaveFilename=ksnip_$Y$M$D-$T\n", std::nullopt},

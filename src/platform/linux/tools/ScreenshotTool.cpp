@@ -1,8 +1,8 @@
 #include "platform/linux/tools/ScreenshotTool.h"
 
+#include "platform/linux/tools/DesktopDatabasePreferences.h"
 #include "platform/linux/tools/FlameshotPreferences.h"
 #include "platform/linux/tools/GenericPreferences.h"
-#include "platform/linux/tools/GnomeScreenshotPreferences.h"
 #include "platform/linux/tools/GnomeShellPreferences.h"
 #include "platform/linux/tools/KsnipPreferences.h"
 #include "platform/linux/tools/SpectaclePreferences.h"
@@ -44,6 +44,11 @@ constexpr Description descriptions[]{
      QLatin1StringView("gnome-screenshot"),
      {},
      true},
+    {Tool::MateScreenshot,
+     QLatin1StringView("mate-screenshot"),
+     QLatin1StringView("mate-screenshot"),
+     {},
+     true},
     {Tool::Generic, QLatin1StringView("generic"), {}, {}, false},
 };
 
@@ -64,14 +69,18 @@ std::optional<Tool> toolOfDesktop(const ScreenshotToolHints &hints) {
         {QStringLiteral("gnome-classic"), Tool::GnomeShell},
         {QStringLiteral("gnome-flashback"), Tool::GnomeScreenshot},
         {QStringLiteral("kde"), Tool::Spectacle},
-        {QStringLiteral("mate"), Tool::GnomeScreenshot},
+        {QStringLiteral("mate"), Tool::MateScreenshot},
         {QStringLiteral("x-cinnamon"), Tool::GnomeScreenshot},
         {QStringLiteral("xfce"), Tool::XfceScreenshooter},
     };
     for (const QString &desktop : hints.desktops) {
         const auto tool = tools.constFind(desktop.toLower());
-        if (tool != tools.cend())
-            return *tool;
+        if (tool == tools.cend())
+            continue;
+        // Some systems give MATE the other one.
+        const bool isReplaced = *tool == Tool::MateScreenshot && !isInstalled(*tool, hints) &&
+                                isInstalled(Tool::GnomeScreenshot, hints);
+        return isReplaced ? Tool::GnomeScreenshot : *tool;
     }
     return std::nullopt;
 }
@@ -146,7 +155,9 @@ makeScreenCapturePreferences(const StandardFolders &folders, const QProcessEnvir
     case Tool::GnomeShell:
         return std::make_unique<GnomeShellPreferences>(folders);
     case Tool::GnomeScreenshot:
-        return std::make_unique<GnomeScreenshotPreferences>(folders);
+        return std::make_unique<DesktopDatabasePreferences>(gnomeScreenshotTool, folders);
+    case Tool::MateScreenshot:
+        return std::make_unique<DesktopDatabasePreferences>(mateScreenshotTool, folders);
     case Tool::Spectacle: {
         const int version = SpectaclePreferences::installedVersion(searchPath(
             environment, QStringLiteral("XDG_DATA_DIRS"), QStringLiteral("/usr/local/share:/usr/share")));

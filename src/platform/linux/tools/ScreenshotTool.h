@@ -15,6 +15,7 @@ namespace tembra {
 enum class ScreenshotTool {
     GnomeShell,
     GnomeScreenshot,
+    MateScreenshot,
     Spectacle,
     XfceScreenshooter,
     Flameshot,

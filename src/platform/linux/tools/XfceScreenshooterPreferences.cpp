@@ -38,10 +38,11 @@ std::optional<QString> XfceScreenshooterPreferences::target() const {
 }
 
 std::optional<QString> XfceScreenshooterPreferences::name() const {
-    const auto title = settings().value("", titleKey);
-    if (!title || title->isEmpty() || *title == "Screenshot")
-        return std::nullopt;
-    return fromKConfig(*title);
+    const auto stored = settings().value("", titleKey);
+    const QString usual = QStringLiteral("Screenshot");
+    const QString title = stored && !stored->isEmpty() ? fromKConfig(*stored)
+                                                       : m_translations("xfce4-screenshooter", "Screenshot");
+    return title == usual ? std::nullopt : std::optional(title);
 }
 
 void XfceScreenshooterPreferences::setLocation(const std::optional<QString> &path) {
