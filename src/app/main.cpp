@@ -1,9 +1,9 @@
 #include "app/AppDelegate.h"
 #include "app/CommandLine.h"
 #include "app/OCRCommand.h"
+#include "app/ProgramVersion.h"
 #include "app/RenderCommand.h"
 #include "app/ScanCommand.h"
-#include "app/Version.h"
 #include "base/FileUri.h"
 #include "base/QtScheduler.h"
 #include "platform/Platform.h"
@@ -42,7 +42,7 @@ QStringList wordsOf(int argc, char **argv) {
 
 void describeProgram() {
     QCoreApplication::setApplicationName(QStringLiteral("Tembra"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(TEMBRA_VERSION));
+    QCoreApplication::setApplicationVersion(programVersion());
 }
 
 void loadWording(QTranslator &wording) {
@@ -114,7 +114,7 @@ int runCommand(const CommandLine &line, int argc, char **argv) {
         print(stdout, CommandLine::usage());
         return done;
     case CommandLine::Verb::version:
-        print(stdout, QStringLiteral("Tembra ") + QStringLiteral(TEMBRA_VERSION));
+        print(stdout, QStringLiteral("Tembra ") + programVersionWithCommit());
         return done;
     case CommandLine::Verb::scan:
         return finish(scanFolder(line.path, line.json));
@@ -126,6 +126,8 @@ int runCommand(const CommandLine &line, int argc, char **argv) {
 // The program itself, until it quits.
 int runShelf(const CommandLine &line, int argc, char **argv) {
     preparePlatformEnvironment();
+    // By it desktops find the name and the icon of the windows.
+    QGuiApplication::setDesktopFileName(QStringLiteral("app.tembra.Tembra"));
     const QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     QTranslator wording;
