@@ -28,6 +28,12 @@ fuzz_packages=(clang-16 libclang-rt-16-dev llvm-16)
 bench_packages=(libgdk-pixbuf2.0-bin ffmpegthumbnailer libopencv-imgproc-dev tesseract-ocr tesseract-ocr-deu
   tesseract-ocr-rus fonts-liberation fonts-cantarell)
 
+# What builds the package for Debian.
+package_packages=(dpkg-dev fakeroot file gzip)
+
+# What looks at what is installed: the metadata, the manual's page, the completions, the package.
+check_packages=(desktop-file-utils appstream man-db zsh fish bash-completion lintian devscripts debootstrap)
+
 # Installs those of the named packages that are missing, with sudo where needed.
 install_missing() {
   local missing=() package

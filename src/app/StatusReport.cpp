@@ -56,6 +56,12 @@ QJsonObject recognitionObject(const ShelfStatus &status) {
             {QStringLiteral("expanded"), status.isRecognitionExpanded}};
 }
 
+QJsonObject textObject(const ShelfStatus &status) {
+    const bool isResult = status.recognitionPhase == u"result";
+    return {{QStringLiteral("phase"), status.recognitionPhase},
+            {QStringLiteral("characters"), isResult ? status.recognitionText.size() : 0}};
+}
+
 QJsonObject shortcutObject(const ShelfStatus &status) {
     return {{QStringLiteral("enabled"), status.isShortcutEnabled},
             {QStringLiteral("title"), status.shortcutTitle},
@@ -129,6 +135,7 @@ QByteArray statusJson(const ProgramStatus &program) {
         {QStringLiteral("editor"), editorObject(program.editor)},
         {QStringLiteral("onboarding"), onboardingObject(program.onboarding)},
         {QStringLiteral("recognition"), recognitionObject(status)},
+        {QStringLiteral("text"), textObject(status)},
         {QStringLiteral("shortcut"), shortcutObject(status)},
         {QStringLiteral("lastCapture"), lastCaptureValue(status)},
         {QStringLiteral("autoClean"), autoCleanObject(status)},

@@ -3,9 +3,9 @@
 #include "app/CommandLine.h"
 #include "app/DoctorCommand.h"
 #include "app/OCRCommand.h"
+#include "app/ProgramVersion.h"
 #include "app/RenderCommand.h"
 #include "app/ScanCommand.h"
-#include "app/Version.h"
 #include "base/FileUri.h"
 #include "base/QtScheduler.h"
 #include "platform/Platform.h"
@@ -44,7 +44,7 @@ QStringList wordsOf(int argc, char **argv) {
 
 void describeProgram() {
     QCoreApplication::setApplicationName(QStringLiteral("Tembra"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(TEMBRA_VERSION));
+    QCoreApplication::setApplicationVersion(programVersion());
 }
 
 // The running program has another current folder, and a message carries nothing but text.
@@ -123,7 +123,7 @@ int runCommand(const CommandLine &line, int argc, char **argv) {
         print(stdout, CommandLine::usage());
         return done;
     case CommandLine::Verb::version:
-        print(stdout, QStringLiteral("Tembra ") + QStringLiteral(TEMBRA_VERSION));
+        print(stdout, QStringLiteral("Tembra ") + programVersionWithCommit());
         return done;
     case CommandLine::Verb::scan:
         return finish(scanFolder(line.path, line.json));
@@ -135,6 +135,8 @@ int runCommand(const CommandLine &line, int argc, char **argv) {
 // The program itself, until it quits.
 int runShelf(const CommandLine &line, int argc, char **argv) {
     preparePlatformEnvironment();
+    // By it desktops find the name and the icon of the windows.
+    QGuiApplication::setDesktopFileName(QStringLiteral("app.tembra.Tembra"));
     const QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     const Catalogues catalogues(QLocale::system().uiLanguages());

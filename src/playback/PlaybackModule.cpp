@@ -12,7 +12,7 @@ namespace {
 // Beside the program where it is built, else where it is installed.
 QString moduleFile() {
     const QDir programs(QCoreApplication::applicationDirPath());
-    for (const QString &folder : {QStringLiteral("."), QStringLiteral("../lib/tembra")}) {
+    for (const QString &folder : {QStringLiteral("."), QStringLiteral("../lib/tembra/plugins")}) {
         const QFileInfo file(programs, folder + QStringLiteral("/tembra-playback.so"));
         if (file.exists())
             return file.absoluteFilePath();

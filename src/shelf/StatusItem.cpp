@@ -21,6 +21,11 @@ public:
     QPixmap pixmap(const QSize &size, QIcon::Mode, QIcon::State) override {
         return iconPixmap(Icon::statusBar, std::min(size.width(), size.height()), 1, palette::text);
     }
+    // By it a desktop that has the icon draws it in the colour of its panel.
+    QString iconName() override {
+        const QString name = QStringLiteral("app.tembra.Tembra-symbolic");
+        return QIcon::hasThemeIcon(name) ? name : QString();
+    }
     QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override {
         return {{16, 16}, {22, 22}, {24, 24}, {32, 32}, {48, 48}};
     }

@@ -1,5 +1,6 @@
 #include "editor/window/ScreenshotEditorWindow.h"
 
+#include "controls/ProgramIcon.h"
 #include "controls/Theme.h"
 #include "editor/canvas/ScreenshotCanvasView.h"
 #include "editor/chrome/EditorBanner.h"
@@ -26,6 +27,7 @@ ScreenshotEditorWindow::ScreenshotEditorWindow(UserDefaults &defaults, Pasteboar
       m_dock(new EditorDock(this)),
       m_zoom(new EditorZoomControl(this)) {
     setWindowTitle(QStringLiteral("Tembra[*]"));
+    setWindowIcon(programIcon());
     Theme::setAppearance(*this, Appearance::desktop);
     setMinimumSize(smallest);
     layOut();

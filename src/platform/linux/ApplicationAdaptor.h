@@ -21,6 +21,8 @@ public Q_SLOTS:
     void ActivateAction(const QString &name, const QVariantList &parameters, const QVariantMap &platformData);
 
 private:
+    void perform(const QString &command, const QStringList &arguments);
+
     SingleInstance::Handler m_handler;
 };
 

@@ -1,5 +1,6 @@
 #include "windows/onboarding/OnboardingWindow.h"
 
+#include "controls/ProgramIcon.h"
 #include "controls/TembraButton.h"
 #include "controls/TembraLinkButton.h"
 #include "controls/Theme.h"
@@ -59,6 +60,7 @@ OnboardingWindow::OnboardingWindow()
       m_note(makeLabel(this, typography::bodySize, QFont::Normal)),
       m_dots(new OnboardingDots(this)) {
     setWindowTitle(QStringLiteral("Tembra"));
+    setWindowIcon(programIcon());
     Theme::setAppearance(*this, Appearance::desktop);
     setFixedSize(contentSize);
     layOut();

@@ -1,5 +1,6 @@
 #include "windows/settings/SettingsWindow.h"
 
+#include "controls/ProgramIcon.h"
 #include "controls/ShelfScroller.h"
 #include "controls/TembraTextField.h"
 #include "controls/Theme.h"
@@ -41,6 +42,7 @@ SettingsWindow::SettingsWindow(std::vector<SettingsPage *> pages, QWidget *paren
       m_scroller(new ShelfScroller(*m_area->verticalScrollBar(), m_area)),
       m_nothingFound(new QLabel(tr("No setting has these words."))) {
     setWindowTitle(tr("Settings"));
+    setWindowIcon(programIcon());
     Theme::setAppearance(*this, Appearance::desktop);
     setMinimumSize(smallestSize);
     resize(usualSize);
