@@ -54,6 +54,8 @@ struct Platform {
     std::unique_ptr<ThumbnailCache> thumbnailCache;
     std::unique_ptr<TextRecognizer> textRecognizer;
     LoginItemService loginItem;
+    // Whether the desktop asks for things to change without moving, as it is now. Main thread.
+    std::function<bool()> isMotionReduced;
     // The services below need a display and are absent in commands that run without one.
     std::unique_ptr<Displays> displays;
     std::unique_ptr<Workspace> workspace;

@@ -63,6 +63,7 @@ Platform makePlatform(Scheduler &scheduler) {
     platform.pasteboard = std::move(desktop.pasteboard);
     platform.filePromises = std::move(desktop.filePromises);
     platform.sounds = std::move(desktop.sounds);
+    platform.isMotionReduced = std::move(desktop.isMotionReduced);
     platform.thumbnails =
         std::make_unique<FreedesktopThumbnails>(scheduler, FreedesktopThumbnails::userLocations());
     return platform;

@@ -12,6 +12,7 @@
 #include "platform/Workspace.h"
 #include "platform/linux/desktop/CameraHousing.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -28,6 +29,7 @@ struct DesktopServices {
     std::unique_ptr<Sounds> sounds;
     std::unique_ptr<Pasteboard> pasteboard;
     std::unique_ptr<FilePromises> filePromises;
+    std::function<bool()> isMotionReduced;
 };
 
 // The services for the windowing system that Qt runs on. The application object and the scheduler must
