@@ -6,6 +6,9 @@
 #include "app/Version.h"
 #include "base/FileUri.h"
 #include "base/QtScheduler.h"
+#include "controls/AccessibleControls.h"
+#include "controls/AccessibleProgram.h"
+#include "controls/Motion.h"
 #include "platform/Platform.h"
 #include "platform/SingleInstance.h"
 
@@ -127,12 +130,15 @@ int runCommand(const CommandLine &line, int argc, char **argv) {
 int runShelf(const CommandLine &line, int argc, char **argv) {
     preparePlatformEnvironment();
     const QApplication application(argc, argv);
+    installAccessibleProgram();
+    installAccessibleControls();
     QApplication::setQuitOnLastWindowClosed(false);
     QTranslator wording;
     loadWording(wording);
 
     QtScheduler scheduler;
     Platform platform = makePlatform(scheduler);
+    motion::askDesktop([&platform] { return platform.isMotionReduced(); });
     AppDelegate delegate(platform, scheduler);
     const auto instance = makeSingleInstance();
     const auto answer = [&](const QString &command, const QStringList &arguments) {
@@ -161,7 +167,9 @@ int runShelf(const CommandLine &line, int argc, char **argv) {
         instance->release();
     });
     delegate.applicationDidFinishLaunching();
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    motion::askDesktop({});
+    return status;
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "shelf/ShelfHeader.h"
 
 #include "controls/Palette.h"
+#include "controls/SpokenNotice.h"
 #include "controls/TembraButton.h"
 #include "controls/TembraToolTip.h"
 #include "recognition/model/OCRInput.h"
@@ -47,8 +48,7 @@ QString nameOf(ShelfTab tab) {
 ShelfHeader::ShelfHeader(QWidget *parent)
     : QWidget(parent),
       m_undo(new TembraButton(TembraButton::Kind::plain, this)),
-      m_settings(new ShelfButton(Icon::gear, tr("Settings"), this)) {
-    m_settings->setCheckable(false);
+      m_settings(new ShelfButton(ShelfButton::Kind::command, Icon::gear, tr("Settings"), this)) {
     connect(m_settings, &ShelfButton::clicked, this, &ShelfHeader::settingsClicked);
     m_settings->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(m_settings, &QWidget::customContextMenuRequested, this, [this] {
@@ -62,6 +62,8 @@ ShelfHeader::ShelfHeader(QWidget *parent)
 }
 
 void ShelfHeader::offerUndo(const std::optional<QString> &actionName) {
+    if (actionName && m_undo->isHidden())
+        SpokenNotice::say(*this, tr("%1. Undo takes it back.").arg(*actionName));
     m_undo->setVisible(actionName.has_value());
     TembraToolTip::set(*m_undo, actionName ? tr("Undo %1").arg(*actionName) : QString());
     m_undo->setAccessibleName(m_undo->toolTip());
@@ -94,7 +96,7 @@ void ShelfHeader::build() {
     m_buttons.clear();
     QPoint at = groupOrigin + QPoint(groupInset, groupInset);
     for (const ShelfTab tab : m_tabs) {
-        auto *button = new ShelfButton(iconOf(tab), nameOf(tab), this);
+        auto *button = new ShelfButton(ShelfButton::Kind::tab, iconOf(tab), nameOf(tab), this);
         button->move(at);
         button->show();
         at.rx() += button->width() + buttonSpacing;
@@ -111,7 +113,19 @@ void ShelfHeader::build() {
         connect(button, &ShelfButton::dropped, this,
                 [this, tab](const QMimeData *content) { Q_EMIT droppedOn(tab, content); });
     }
+    arrangeForKeyboard();
     update();
+}
+
+// For Tab and for assistive programs in the order in which they are read.
+void ShelfHeader::arrangeForKeyboard() {
+    std::vector<QWidget *> order(m_buttons.begin(), m_buttons.end());
+    order.insert(order.end(), {m_undo, m_settings});
+    for (std::size_t i = 0; i < order.size(); ++i) {
+        order[i]->raise();
+        if (i > 0)
+            setTabOrder(order[i - 1], order[i]);
+    }
 }
 
 QRect ShelfHeader::group() const {

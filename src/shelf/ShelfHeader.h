@@ -46,6 +46,7 @@ protected:
 private:
     void build();
     void placeButtons();
+    void arrangeForKeyboard();
     [[nodiscard]] QRect group() const;
 
     std::vector<ShelfTab> m_tabs;
