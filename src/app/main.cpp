@@ -8,6 +8,9 @@
 #include "app/ScanCommand.h"
 #include "base/FileUri.h"
 #include "base/QtScheduler.h"
+#include "controls/AccessibleControls.h"
+#include "controls/AccessibleProgram.h"
+#include "controls/Motion.h"
 #include "platform/Platform.h"
 #include "platform/SingleInstance.h"
 
@@ -138,11 +141,14 @@ int runShelf(const CommandLine &line, int argc, char **argv) {
     // By it desktops find the name and the icon of the windows.
     QGuiApplication::setDesktopFileName(QStringLiteral("app.tembra.Tembra"));
     const QApplication application(argc, argv);
+    installAccessibleProgram();
+    installAccessibleControls();
     QApplication::setQuitOnLastWindowClosed(false);
     const Catalogues catalogues(QLocale::system().uiLanguages());
 
     QtScheduler scheduler;
     Platform platform = makePlatform(scheduler);
+    motion::askDesktop([&platform] { return platform.isMotionReduced(); });
     AppDelegate delegate(platform, scheduler);
     const auto instance = makeSingleInstance();
     const auto answer = [&](const QString &command, const QStringList &arguments) {
@@ -172,7 +178,9 @@ int runShelf(const CommandLine &line, int argc, char **argv) {
         instance->release();
     });
     delegate.applicationDidFinishLaunching();
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    motion::askDesktop({});
+    return status;
 }
 
 } // namespace

@@ -15,6 +15,8 @@ public:
 
     // Opens below the owner, above it where there is no room.
     void popUp();
+    // Tells of the choice and goes.
+    void choose(const QModelIndex &index);
 
 Q_SIGNALS:
     void chosen(int index);
@@ -29,8 +31,6 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
-    void choose(const QModelIndex &index);
-
     QStringListModel m_titles;
     const int m_chosen;
 };

@@ -15,6 +15,10 @@ LoadingIndicator::LoadingIndicator(QWidget *parent) : QWidget(parent) {
     m_turn.setDuration(900);
     m_turn.setLoopCount(-1);
     connect(&m_turn, &QVariantAnimation::valueChanged, this, qOverload<>(&QWidget::update));
+    connect(&m_turn, &QVariantAnimation::currentLoopChanged, this, [this] {
+        if (motion::isReduced(*this))
+            m_turn.stop();
+    });
 }
 
 void LoadingIndicator::paintEvent(QPaintEvent *) {
@@ -23,7 +27,9 @@ void LoadingIndicator::paintEvent(QPaintEvent *) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF ring = QRectF(rect()).adjusted(thickness, thickness, -thickness, -thickness);
-    painter.setPen(QPen(Theme::of(*this).track, thickness));
+    QColor whole = Theme::of(*this).track;
+    whole.setAlphaF(0.45F);
+    painter.setPen(QPen(whole, thickness));
     painter.drawEllipse(ring);
     const double angle = m_turn.currentValue().toDouble();
     painter.setPen(QPen(Theme::of(*this).secondaryText, thickness, Qt::SolidLine, Qt::RoundCap));

@@ -4,9 +4,26 @@
 #include <QVariantAnimation>
 #include <QWidget>
 
+#include <utility>
+
 namespace tembra::motion {
 
+namespace {
+
+std::function<bool()> &desktop() {
+    static std::function<bool()> isReduced;
+    return isReduced;
+}
+
+} // namespace
+
+void askDesktop(std::function<bool()> isReduced) {
+    desktop() = std::move(isReduced);
+}
+
 bool isReduced(const QWidget &widget) {
+    if (desktop() && desktop()())
+        return true;
     return widget.style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, &widget) <= 0;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 
 class QVariantAnimation;
 class QWidget;
@@ -15,7 +16,10 @@ inline constexpr std::chrono::milliseconds fade{160};
 // Something shows itself for a moment.
 inline constexpr std::chrono::milliseconds flash{1100};
 
-// Whether the desktop asks for things to change without moving.
+// Who is asked from now on, besides the widget's style, whether the desktop wants things to change without
+// moving; nobody when not set.
+void askDesktop(std::function<bool()> isReduced);
+// Whether the desktop asks for things to change without moving. What moves without end asks at every turn.
 [[nodiscard]] bool isReduced(const QWidget &widget);
 // Moves the animation's value from where it is to the target, at once where motion is reduced or the widget
 // cannot be seen.

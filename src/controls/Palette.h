@@ -15,11 +15,11 @@ inline constexpr QColor menuBorder{58, 58, 64};
 
 inline constexpr QColor text{242, 242, 244};
 inline constexpr QColor itemText{222, 222, 226};
-inline constexpr QColor secondaryText{142, 142, 150};
+inline constexpr QColor secondaryText{146, 146, 154};
 inline constexpr QColor icon{152, 152, 160};
 inline constexpr QColor iconActive{255, 255, 255};
 
-inline constexpr QColor accent{59, 130, 246};
+inline constexpr QColor accent{43, 110, 236};
 inline constexpr QColor onAccent{255, 255, 255};
 inline constexpr QColor selection{59, 130, 246, 46};
 inline constexpr QColor textSelection{44, 80, 135};

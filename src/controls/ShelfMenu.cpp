@@ -34,6 +34,8 @@ ShelfMenu::ShelfMenu(QWidget *parent) : QMenu(parent) {
     setWindowFlag(Qt::NoDropShadowWindowHint);
     setFont(typography::font(typography::itemSize));
     setStyleSheet(menuStyle(Theme::of(*this)));
+    // What an assistive program chooses leaves it open.
+    connect(this, &QMenu::triggered, this, &QWidget::close);
 }
 
 QAction *ShelfMenu::add(const QString &title, const std::function<void()> &action) {

@@ -50,6 +50,8 @@ void TembraDropdownPopup::setCurrentIndex(int index) {
     update();
     QAccessibleValueChangeEvent event(this, currentText());
     QAccessible::updateAccessibility(&event);
+    QAccessibleEvent described(this, QAccessible::DescriptionChanged);
+    QAccessible::updateAccessibility(&described);
     Q_EMIT currentIndexChanged(index);
 }
 

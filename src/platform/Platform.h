@@ -57,6 +57,8 @@ struct Platform {
     LoginItemService loginItem;
     // Where volumes are mounted on which the user may keep files; any thread.
     std::function<QStringList()> userVolumes;
+    // Whether the desktop asks for things to change without moving, as it is now. Main thread.
+    std::function<bool()> isMotionReduced;
     // The services below need a display and are absent in commands that run without one.
     std::unique_ptr<Displays> displays;
     std::unique_ptr<Workspace> workspace;

@@ -1,31 +1,16 @@
 #include "shelf/AccessibleShelf.h"
 
-#include "shelf/FileCollectionView.h"
-#include "shelf/FileItemCell.h"
+#include "shelf/AccessibleFiles.h"
+#include "shelf/CaptureNotificationView.h"
+#include "shelf/PreviewView.h"
 #include "shelf/ShelfButton.h"
+#include "shelf/ShelfHeader.h"
 
 #include <QAccessibleWidget>
 
 namespace tembra {
 
 namespace {
-
-class AccessibleTile final : public QAccessibleWidget {
-public:
-    explicit AccessibleTile(FileItemCell &cell)
-        : QAccessibleWidget(&cell, QAccessible::ListItem), m_cell(cell) {}
-
-    [[nodiscard]] QAccessible::State state() const override {
-        QAccessible::State state = QAccessibleWidget::state();
-        state.selectable = true;
-        state.multiSelectable = true;
-        state.selected = m_cell.isSelected();
-        return state;
-    }
-
-private:
-    const FileItemCell &m_cell;
-};
 
 class AccessibleTab final : public QAccessibleWidget {
 public:
@@ -55,12 +40,20 @@ private:
 };
 
 QAccessibleInterface *accessibleShelf(const QString &, QObject *object) {
-    if (auto *cell = qobject_cast<FileItemCell *>(object))
-        return new AccessibleTile(*cell);
     if (auto *view = qobject_cast<FileCollectionView *>(object))
-        return new QAccessibleWidget(view, QAccessible::List);
-    auto *button = qobject_cast<ShelfButton *>(object);
-    return button && button->isCheckable() ? new AccessibleTab(*button) : nullptr;
+        return new AccessibleFiles(*view);
+    if (auto *button = qobject_cast<ShelfButton *>(object))
+        return button->kind() == ShelfButton::Kind::tab ? new AccessibleTab(*button) : nullptr;
+    const std::pair<bool, QAccessible::Role> parts[] = {
+        {qobject_cast<ShelfHeader *>(object), QAccessible::PageTabList},
+        {qobject_cast<CaptureNotificationView *>(object), QAccessible::Notification},
+        {qobject_cast<ScreenshotSectionHeader *>(object), QAccessible::Heading},
+        {qobject_cast<PreviewView *>(object), QAccessible::Graphic}};
+    for (const auto &[isMeant, role] : parts) {
+        if (isMeant)
+            return new QAccessibleWidget(static_cast<QWidget *>(object), role);
+    }
+    return nullptr;
 }
 
 } // namespace

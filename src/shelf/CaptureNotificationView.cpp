@@ -1,6 +1,7 @@
 #include "shelf/CaptureNotificationView.h"
 
 #include "controls/Palette.h"
+#include "controls/SpokenNotice.h"
 #include "controls/TembraButton.h"
 #include "controls/Typography.h"
 #include "shelf/FileDrag.h"
@@ -52,6 +53,7 @@ void CaptureNotificationView::apply(const CaptureNotification &notification) {
     m_undo->setVisible(notification.offersUndo);
     setAccessibleName(notification.text);
     setAccessibleDescription(notification.detail());
+    SpokenNotice::readAgain(*this);
     std::erase_if(m_requests,
                   [&](const auto &entry) { return !notification.previews.contains(entry.first); });
     m_images.removeIf([&](const auto &entry) { return !notification.previews.contains(entry.key()); });

@@ -31,7 +31,6 @@ void ClipboardCell::setTile(const FileTile &tile) {
     setOpacity(tile.isAvailable ? 1 : unavailableOpacity);
     const QFileInfo file(tile.path);
     setToolTip(tile.isAvailable ? file.fileName() + u'\n' + file.path() : tr("Original unavailable"));
-    setAccessibleDescription(tile.isAvailable ? QString() : tr("Original unavailable"));
 }
 
 void ClipboardCell::paintKindIcon(QPainter &painter) {

@@ -2,6 +2,7 @@
 
 #include "controls/Palette.h"
 #include "controls/ShelfMenu.h"
+#include "controls/SpokenNotice.h"
 #include "controls/TextLabel.h"
 #include "controls/Typography.h"
 #include "shelf/ClipboardCollectionView.h"
@@ -84,7 +85,10 @@ void ClipboardShelf::refresh() {
 }
 
 void ClipboardShelf::updateHint() {
-    m_hint->setText(m_store.status().value_or(tr("Drag or ⌘C to copy")));
+    const QString hint = m_store.status().value_or(tr("Drag or ⌘C to copy"));
+    if (m_store.status() && hint != m_hint->text())
+        SpokenNotice::say(*this, hint);
+    m_hint->setText(hint);
 }
 
 void ClipboardShelf::captureSelection() {

@@ -1,6 +1,8 @@
 #include "shelf/FileCollectionView.h"
 
+#include "controls/SpokenNotice.h"
 #include "controls/TembraToolTip.h"
+#include "shelf/AccessibleFiles.h"
 #include "shelf/FileItemCell.h"
 #include "shelf/ShelfLayout.h"
 
@@ -37,13 +39,27 @@ FileCollectionView::FileCollectionView(const MakeCell &makeCell)
 void FileCollectionView::apply(FileGridState state) {
     if (m_state == state)
         return;
+    const std::vector<FileTile> before = selectedTiles();
     m_state = std::move(state);
     const bool selectionShrank = m_selection.retain(m_state);
+    tellPins(before);
     m_hovered.reset();
     m_press.reset();
     m_band->end();
     layOut(true);
     changed(selectionShrank);
+    if (auto *told = AccessibleFiles::of(*this))
+        told->filesChanged();
+}
+
+// What became of the selected files.
+void FileCollectionView::tellPins(const std::vector<FileTile> &before) {
+    const std::vector<FileTile> now = selectedTiles();
+    const auto pinned = [](const std::vector<FileTile> &tiles) {
+        return std::ranges::count_if(tiles, [](const FileTile &tile) { return tile.isPinned; });
+    };
+    if (now.size() == before.size() && pinned(now) != pinned(before))
+        SpokenNotice::say(*this, pinned(now) > pinned(before) ? tr("Pinned") : tr("Unpinned"));
 }
 
 void FileCollectionView::fit(QSize viewport) {
@@ -98,7 +114,9 @@ void FileCollectionView::updateAppearance() {
     for (const auto &[index, cell] : m_cells.shown()) {
         const FileTile &tile = m_state.at(index);
         cell->setSelected(m_selection.contains(tile));
-        cell->setCurrent(showsCurrent && m_selection.isCurrent(tile));
+        // The only one that is selected needs no other mark.
+        const bool isMarked = m_selection.contains(tile) && m_selection.ids().size() == 1;
+        cell->setCurrent(showsCurrent && m_selection.isCurrent(tile) && !isMarked);
         cell->setHighlighted(m_hovered == index);
     }
 }
@@ -111,6 +129,7 @@ void FileCollectionView::changed(bool didChange) {
 
 void FileCollectionView::selectAll() {
     changed(m_selection.selectAll(m_state));
+    SpokenNotice::say(*this, tr("%n selected", nullptr, static_cast<int>(m_selection.ids().size())));
 }
 
 void FileCollectionView::clearSelection() {
@@ -123,6 +142,36 @@ void FileCollectionView::select(const QSet<FileTileID> &ids) {
 
 void FileCollectionView::choose(int index, FileSelection::Mode mode) {
     changed(m_selection.choose(m_state, index, mode));
+    tellCurrent();
+}
+
+void FileCollectionView::tellCurrent() {
+    auto *told = AccessibleFiles::of(*this);
+    const auto current = told ? currentIndex() : std::nullopt;
+    if (current)
+        told->tellCurrent(*current);
+}
+
+void FileCollectionView::chooseFile(int index) {
+    setFocus(Qt::OtherFocusReason);
+    moveTo(index, false);
+}
+
+void FileCollectionView::toggleFile(int index) {
+    choose(index, FileSelection::Mode::toggle);
+}
+
+void FileCollectionView::openFile(int index) {
+    chooseFile(index);
+    const FileTile tile = m_state.at(index);
+    Q_EMIT activated(tile);
+}
+
+void FileCollectionView::showMenuOf(int index) {
+    const FileTile tile = m_state.at(index);
+    if (!m_selection.contains(tile))
+        chooseFile(index);
+    Q_EMIT contextMenuRequested(tile, mapToGlobal(m_layout.itemRect(index).center()));
 }
 
 void FileCollectionView::setHovered(std::optional<int> index) {
@@ -229,11 +278,12 @@ void FileCollectionView::contextMenuEvent(QContextMenuEvent *event) {
         Q_EMIT backgroundMenuRequested(event->globalPos());
         return;
     }
+    if (byKeyboard)
+        return showMenuOf(*index);
     const FileTile tile = m_state.at(*index);
     if (!m_selection.contains(tile))
         choose(*index, FileSelection::Mode::replace);
-    const QPoint place = byKeyboard ? mapToGlobal(m_layout.itemRect(*index).center()) : event->globalPos();
-    Q_EMIT contextMenuRequested(tile, place);
+    Q_EMIT contextMenuRequested(tile, event->globalPos());
 }
 
 int FileCollectionView::indexAfterPage(int index, int rows) const {
@@ -293,12 +343,31 @@ void FileCollectionView::moveTo(int index, bool extending) {
     Q_EMIT revealRequested(m_layout.itemRectWithTitle(index));
 }
 
+// With Ctrl the keyboard goes on without selecting, and Space selects one more, or one less.
+bool FileCollectionView::selectApart(const QKeyEvent &event) {
+    const auto current = event.key() == Qt::Key_Space ? currentIndex() : std::nullopt;
+    if (current) {
+        toggleFile(*current);
+        return true;
+    }
+    const auto index = target(event);
+    if (!index)
+        return false;
+    m_selection.visit(m_state, *index);
+    updateAppearance();
+    tellCurrent();
+    Q_EMIT revealRequested(m_layout.itemRectWithTitle(*index));
+    return true;
+}
+
 void FileCollectionView::keyPressEvent(QKeyEvent *event) {
     if (event->matches(QKeySequence::SelectAll)) {
         selectAll();
         return;
     }
     const Qt::KeyboardModifiers modifiers = event->modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier);
+    if (m_layout.count() > 0 && modifiers == Qt::ControlModifier && selectApart(*event))
+        return;
     if (m_layout.count() == 0 || modifiers != Qt::NoModifier) {
         QWidget::keyPressEvent(event);
         return;
@@ -321,6 +390,7 @@ void FileCollectionView::keyPressEvent(QKeyEvent *event) {
 
 void FileCollectionView::focusInEvent(QFocusEvent *) {
     updateAppearance();
+    tellCurrent();
 }
 
 void FileCollectionView::focusOutEvent(QFocusEvent *) {

@@ -38,6 +38,13 @@ public:
     [[nodiscard]] const FileGridState &state() const { return m_state; }
     [[nodiscard]] const FileGridLayout &gridLayout() const { return m_layout; }
     [[nodiscard]] const FileCellPool &cells() const { return m_cells; }
+
+    // What keys and the pointer do with the file at a place, for assistive programs.
+    void chooseFile(int index);
+    void toggleFile(int index);
+    void openFile(int index);
+    void showMenuOf(int index);
+
     // Where the keyboard is, else the first selected file.
     [[nodiscard]] std::optional<int> currentIndex() const;
 
@@ -75,9 +82,14 @@ private:
     void setHovered(std::optional<int> index);
     void choose(int index, FileSelection::Mode mode);
     void changed(bool didChange);
+    // To those who cannot see it.
+    void tellCurrent();
+    void tellPins(const std::vector<FileTile> &before);
     void moveTo(int index, bool extending);
     [[nodiscard]] std::optional<int> target(const QKeyEvent &event) const;
     void stretchBand(QPoint position);
+    // Whether the key, pressed with Ctrl, selects some that do not lie together.
+    bool selectApart(const QKeyEvent &event);
     // Whether the key was a letter of a name.
     bool searchFor(const QKeyEvent &event);
     [[nodiscard]] int indexAfterPage(int index, int rows) const;

@@ -71,7 +71,6 @@ void FileItemCell::configure(QString path, QString revision, QImage fallback) {
     m_fallback = std::move(fallback);
     const QString name = fileName(m_path);
     setToolTip(name);
-    setAccessibleName(name);
     m_nameLines = FileNameLayout::lines(name, QFontMetricsF(nameFont()));
     requestThumbnail();
     update();
@@ -187,9 +186,9 @@ void FileItemCell::paintSelection(QPainter &painter) const {
         painter.setBrush(Qt::NoBrush);
         painter.drawRoundedRect(QRectF(iconFrame).adjusted(-distance, -distance, distance, distance),
                                 selectionBorderRadius, selectionBorderRadius);
-    } else if (m_current) {
-        drawFocusRing(painter, iconFrame, iconSelectionRadius);
     }
+    if (m_current)
+        drawFocusRing(painter, iconFrame, iconSelectionRadius);
 }
 
 void FileItemCell::paintKindIcon(QPainter &painter) {

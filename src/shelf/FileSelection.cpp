@@ -56,6 +56,11 @@ bool FileSelection::choose(const FileGridState &state, int index, Mode mode) {
     return assign(std::move(selected));
 }
 
+void FileSelection::visit(const FileGridState &state, int index) {
+    m_current = state.at(index).id;
+    m_anchor = m_current;
+}
+
 bool FileSelection::selectAll(const FileGridState &state) {
     QSet<FileTileID> selected;
     selected.reserve(state.count());

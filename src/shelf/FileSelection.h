@@ -23,6 +23,8 @@ public:
 
     // Each tells whether the selection changed.
     bool choose(const FileGridState &state, int index, Mode mode);
+    // The keyboard goes there, and nothing is selected or given up.
+    void visit(const FileGridState &state, int index);
     bool selectAll(const FileGridState &state);
     bool select(const QSet<FileTileID> &ids) { return assign(ids); }
     bool clear();

@@ -26,12 +26,6 @@ void NativeScreenshotCell::assign(bool &badge, bool value) {
     if (badge == value)
         return;
     badge = value;
-    QStringList badges;
-    if (m_pinned)
-        badges.append(tr("Pinned"));
-    if (m_edited)
-        badges.append(tr("Edited"));
-    setAccessibleDescription(badges.join(QStringLiteral(", ")));
     update();
 }
 

@@ -4,7 +4,9 @@
 #include "controls/Palette.h"
 #include "controls/TembraToolTip.h"
 
+#include <QAccessible>
 #include <QDragEnterEvent>
+#include <QKeyEvent>
 #include <QPainter>
 
 namespace tembra {
@@ -16,9 +18,13 @@ constexpr qreal cornerRadius = 7;
 
 } // namespace
 
-ShelfButton::ShelfButton(Icon icon, const QString &name, QWidget *parent)
-    : QAbstractButton(parent), m_icon(icon) {
-    setCheckable(true);
+ShelfButton::ShelfButton(Kind kind, Icon icon, const QString &name, QWidget *parent)
+    : QAbstractButton(parent), m_kind(kind), m_icon(icon) {
+    setCheckable(kind == Kind::tab);
+    connect(this, &QAbstractButton::toggled, this, [this] {
+        QAccessibleEvent event(this, QAccessible::Selection);
+        QAccessible::updateAccessibility(&event);
+    });
     setAccessibleName(name);
     TembraToolTip::set(*this, name);
     setFocusPolicy(Qt::TabFocus);
@@ -37,6 +43,13 @@ void ShelfButton::paintEvent(QPaintEvent *) {
     drawIcon(painter, m_icon, rect(), iconSide, isActive ? palette::iconActive : palette::icon);
     if (hasFocus())
         drawFocusRing(painter, QRectF(rect()).adjusted(2, 2, -2, -2), cornerRadius - 1);
+}
+
+void ShelfButton::keyPressEvent(QKeyEvent *event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        QAbstractButton::keyPressEvent(event);
 }
 
 void ShelfButton::enterEvent(QEnterEvent *event) {

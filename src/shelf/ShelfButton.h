@@ -18,11 +18,14 @@ class ShelfButton final : public QAbstractButton {
 public:
     static constexpr QSize fieldSize{38, 26};
 
-    ShelfButton(Icon icon, const QString &name, QWidget *parent);
+    enum class Kind { tab, command };
+
+    ShelfButton(Kind kind, Icon icon, const QString &name, QWidget *parent);
 
     // What may be dropped on it, where it accepts drops; everything when not set.
     std::function<bool(const QMimeData &)> canReceive;
 
+    [[nodiscard]] Kind kind() const { return m_kind; }
     [[nodiscard]] QSize sizeHint() const override { return fieldSize; }
 
 Q_SIGNALS:
@@ -34,6 +37,7 @@ Q_SIGNALS:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void enterEvent(QEnterEvent *event) override;
     void leaveEvent(QEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
@@ -41,6 +45,7 @@ protected:
     void dropEvent(QDropEvent *event) override;
 
 private:
+    const Kind m_kind;
     const Icon m_icon;
 };
 

@@ -34,6 +34,10 @@ std::optional<ShelfCommand> shelfCommand(const QKeyEvent &event) {
         return ShelfCommand::remove;
     if (key == Qt::Key_Space && !(modifiers & Qt::ControlModifier))
         return ShelfCommand::preview;
+    // With Shift, Tab is another key.
+    if ((modifiers & Qt::ControlModifier) && (key == Qt::Key_Tab || key == Qt::Key_Backtab))
+        return key == Qt::Key_Backtab || (modifiers & Qt::ShiftModifier) ? ShelfCommand::previousTab
+                                                                         : ShelfCommand::nextTab;
     if (modifiers == (Qt::ControlModifier | Qt::ShiftModifier) && key == Qt::Key_Z)
         return ShelfCommand::redo;
     // Also Ctrl+Insert and Shift+Insert.

@@ -11,6 +11,7 @@
 #include "shelf/ShelfHeader.h"
 #include "tray/ClipboardStore.h"
 
+#include <QAbstractButton>
 #include <QDragEnterEvent>
 
 #include <algorithm>
@@ -153,6 +154,10 @@ QStringList ShelfContent::selectedPaths() const {
 
 void ShelfContent::takeFocus() {
     restoreTabResponder(m_activeTab);
+}
+
+bool ShelfContent::isButtonFocused() const {
+    return qobject_cast<QAbstractButton *>(window()->focusWidget()) != nullptr;
 }
 
 void ShelfContent::revealSelection() {

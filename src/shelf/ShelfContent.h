@@ -57,6 +57,7 @@ public:
     void revealSelection();
     // Gives the keyboard to the content of the active tab.
     void takeFocus();
+    [[nodiscard]] bool isButtonFocused() const;
     // Drags the selected files out; returns when the drag has ended.
     void dragSelected();
     // Of the screenshots.

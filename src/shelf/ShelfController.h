@@ -192,6 +192,7 @@ private:
     void cancel();
     bool handleShelfKey(const QKeyEvent &event);
     void perform(ShelfCommand command);
+    void stepTab(int steps);
     void dragSelected();
     void pasteIntoTray();
     bool handleRecognitionKey(ShelfCommand command);

@@ -1,5 +1,6 @@
 // What keys and menus do.
 
+#include "controls/SpokenNotice.h"
 #include "session/ShelfSession.h"
 #include "settings/AppSettings.h"
 #include "shelf/ClipboardShelf.h"
@@ -11,6 +12,9 @@
 #include "shelf/StatusMenu.h"
 
 #include <QMenu>
+
+#include <algorithm>
+#include <iterator>
 
 namespace tembra {
 
@@ -24,6 +28,13 @@ constexpr std::chrono::seconds undoOfferDuration{10};
 bool ShelfController::handleShelfKey(const QKeyEvent &event) {
     const auto command = shelfCommand(event);
     if (!command || !m_expanded || !m_content)
+        return false;
+    if (*command == ShelfCommand::nextTab || *command == ShelfCommand::previousTab) {
+        perform(*command);
+        return true;
+    }
+    // A button that has the keyboard is pressed by Space.
+    if (*command == ShelfCommand::preview && m_content->isButtonFocused())
         return false;
     if (m_activeTab == ShelfTab::imageToText)
         return handleRecognitionKey(*command);
@@ -59,7 +70,23 @@ void ShelfController::perform(ShelfCommand command) {
         return isTray ? tray.removeSelected() : m_commands->trashSelected();
     case ShelfCommand::preview:
         return togglePreview();
+    case ShelfCommand::nextTab:
+        return stepTab(1);
+    case ShelfCommand::previousTab:
+        return stepTab(-1);
     }
+}
+
+// Round and round; the keyboard goes along.
+void ShelfController::stepTab(int steps) {
+    const std::vector<ShelfTab> shown = tabs();
+    const auto active = std::ranges::find(shown, m_activeTab);
+    const auto count = std::ssize(shown);
+    if (active == shown.end() || count < 2)
+        return;
+    const auto target = (active - shown.begin() + steps + count) % count;
+    activateTab(shown[static_cast<std::size_t>(target)]);
+    content().takeFocus();
 }
 
 // What is pasted anywhere in the shelf is kept in the tray.
@@ -92,7 +119,10 @@ void ShelfController::trayChanged() {
 void ShelfController::undo() {
     m_undoOffer.cancel();
     m_announcer.dismiss();
+    const QStringList undoable = m_session->screenshotUndoManager.undoNames();
     m_session->undo();
+    if (m_content && !undoable.isEmpty())
+        SpokenNotice::say(*m_content, tr("Undone: %1").arg(undoable.first()));
 }
 
 void ShelfController::offerUndo() {

@@ -1,6 +1,7 @@
 #include "shelf/ShelfHeader.h"
 
 #include "controls/Palette.h"
+#include "controls/SpokenNotice.h"
 #include "controls/TembraButton.h"
 #include "controls/TembraToolTip.h"
 #include "recognition/model/OCRInput.h"
@@ -48,8 +49,7 @@ QString nameOf(ShelfTab tab) {
 ShelfHeader::ShelfHeader(QWidget *parent)
     : QWidget(parent),
       m_undo(new TembraButton(TembraButton::Kind::plain, this)),
-      m_settings(new ShelfButton(Icon::gear, tr("Settings"), this)) {
-    m_settings->setCheckable(false);
+      m_settings(new ShelfButton(ShelfButton::Kind::command, Icon::gear, tr("Settings"), this)) {
     connect(m_settings, &ShelfButton::clicked, this, &ShelfHeader::settingsClicked);
     m_settings->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(m_settings, &QWidget::customContextMenuRequested, this, [this] {
@@ -63,6 +63,8 @@ ShelfHeader::ShelfHeader(QWidget *parent)
 }
 
 void ShelfHeader::offerUndo(const std::optional<QString> &actionName) {
+    if (actionName && m_undo->isHidden())
+        SpokenNotice::say(*this, tr("%1. Undo takes it back.").arg(*actionName));
     m_undo->setVisible(actionName.has_value());
     TembraToolTip::set(*m_undo, actionName ? tr("Undo %1").arg(*actionName) : QString());
     m_undo->setAccessibleName(m_undo->toolTip());
@@ -105,7 +107,7 @@ void ShelfHeader::build() {
         button->deleteLater();
     m_buttons.clear();
     for (const ShelfTab tab : m_tabs) {
-        auto *button = new ShelfButton(iconOf(tab), nameOf(tab), this);
+        auto *button = new ShelfButton(ShelfButton::Kind::tab, iconOf(tab), nameOf(tab), this);
         button->show();
         connect(button, &ShelfButton::clicked, this, [this, tab] { Q_EMIT tabClicked(tab); });
         connect(button, &ShelfButton::entered, this, [this, tab] { Q_EMIT tabHovered(tab); });
@@ -121,7 +123,19 @@ void ShelfHeader::build() {
                 [this, tab](const QMimeData *content) { Q_EMIT droppedOn(tab, content); });
     }
     placeButtons();
+    arrangeForKeyboard();
     update();
+}
+
+// For Tab and for assistive programs in the order in which they are read.
+void ShelfHeader::arrangeForKeyboard() {
+    std::vector<QWidget *> order(m_buttons.begin(), m_buttons.end());
+    order.insert(order.end(), {m_undo, m_settings});
+    for (std::size_t i = 0; i < order.size(); ++i) {
+        order[i]->raise();
+        if (i > 0)
+            setTabOrder(order[i - 1], order[i]);
+    }
 }
 
 QRect ShelfHeader::group() const {

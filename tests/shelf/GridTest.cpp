@@ -103,6 +103,27 @@ TEST_F(GridTest, clicksSelect) {
     EXPECT_EQ(activated, Numbers());
 }
 
+TEST_F(GridTest, ctrlSelectsSomeApartFromEachOther) {
+    open(gridState({9}));
+    struct Row {
+        Qt::Key key;
+        Qt::KeyboardModifiers modifiers;
+        Numbers expected;
+    };
+    const std::vector<Row> table{{Qt::Key_Home, {}, {0}},
+                                 {Qt::Key_Right, Qt::ControlModifier, {0}},
+                                 {Qt::Key_Right, Qt::ControlModifier, {0}},
+                                 {Qt::Key_Space, Qt::ControlModifier, {0, 2}},
+                                 {Qt::Key_Down, Qt::ControlModifier, {0, 2}},
+                                 {Qt::Key_Space, Qt::ControlModifier, {0, 2, 8}},
+                                 {Qt::Key_Space, Qt::ControlModifier, {0, 2}},
+                                 {Qt::Key_Left, Qt::ShiftModifier, {7, 8}}};
+    for (const Row &row : table) {
+        press(row.key, row.modifiers);
+        EXPECT_EQ(selected(), row.expected) << row.key;
+    }
+}
+
 TEST_F(GridTest, aBandSelectsWhatItTouches) {
     open(gridState({9}));
     QWindow *window = grid.windowHandle();

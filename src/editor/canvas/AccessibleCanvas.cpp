@@ -36,7 +36,7 @@ QString nameOf(const ScreenshotAnnotation &annotation) {
 }
 
 // One annotation. It is valid as long as the annotation is in the document.
-class AccessibleAnnotation final : public QAccessibleInterface {
+class AccessibleAnnotation final : public QAccessibleInterface, public QAccessibleActionInterface {
 public:
     AccessibleAnnotation(ScreenshotCanvasView &canvas, QUuid id) : m_canvas(&canvas), m_id(id) {}
 
@@ -67,12 +67,34 @@ public:
     [[nodiscard]] QAccessible::Role role() const override { return QAccessible::ListItem; }
     [[nodiscard]] QAccessible::State state() const override {
         QAccessible::State state;
+        state.focusable = true;
         state.selectable = true;
         state.multiSelectable = true;
         state.invalid = !isValid();
         state.selected = isValid() && m_canvas->document()->selectedIDs().contains(m_id);
+        state.focused =
+            state.selected && m_canvas->hasFocus() && m_canvas->document()->selectedIDs().size() == 1;
         return state;
     }
+    [[nodiscard]] void *interface_cast(QAccessible::InterfaceType type) override {
+        return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface *>(this)
+                                                    : nullptr;
+    }
+
+    // Selecting it alone, to be moved by the keys, and besides the others.
+    [[nodiscard]] QStringList actionNames() const override { return {pressAction(), toggleAction()}; }
+    void doAction(const QString &name) override {
+        if (!isValid())
+            return;
+        QSet<QUuid> selected = m_canvas->document()->selectedIDs();
+        if (name == pressAction())
+            selected = {m_id};
+        else if (name == toggleAction() && !selected.remove(m_id))
+            selected.insert(m_id);
+        m_canvas->setFocus(Qt::OtherFocusReason);
+        m_canvas->document()->setSelectedIDs(selected);
+    }
+    [[nodiscard]] QStringList keyBindingsForAction(const QString &) const override { return {}; }
 
 private:
     [[nodiscard]] const ScreenshotAnnotation *annotation() const {
@@ -92,6 +114,23 @@ public:
     ~AccessibleCanvas() override {
         for (const auto &[id, interface] : m_items)
             QAccessible::deleteAccessibleInterface(interface);
+    }
+
+    [[nodiscard]] QAccessibleInterface *focusChild() const override {
+        const bool isOne = m_canvas.document() && m_canvas.document()->selectedIDs().size() == 1;
+        return isOne && m_canvas.hasFocus() ? item(*m_canvas.document()->selectedIDs().begin())
+                                            : QAccessibleWidget::focusChild();
+    }
+
+    // What Return does: with a tool that draws, it draws in the middle of the view.
+    [[nodiscard]] QStringList actionNames() const override {
+        return QStringList{pressAction()} + QAccessibleWidget::actionNames();
+    }
+    void doAction(const QString &name) override {
+        if (name == pressAction())
+            m_canvas.drawOrType();
+        else
+            QAccessibleWidget::doAction(name);
     }
 
     [[nodiscard]] int childCount() const override { return count() + QAccessibleWidget::childCount(); }

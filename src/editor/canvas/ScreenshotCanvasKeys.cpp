@@ -139,7 +139,7 @@ bool ScreenshotCanvasView::handlePlainKey(const QKeyEvent &event) {
         return true;
     }
     if (isReturn(key)) {
-        enter();
+        drawOrType();
         return true;
     }
     if (key == Qt::Key_Delete || key == Qt::Key_Backspace) {
@@ -188,8 +188,9 @@ void ScreenshotCanvasView::cancelStep() {
         m_document->setSelectedIDs({});
 }
 
-// Types the selected text, or makes what the tool draws.
-void ScreenshotCanvasView::enter() {
+void ScreenshotCanvasView::drawOrType() {
+    if (!m_document || isTyping() || m_cropSession)
+        return;
     const auto selected = m_document->selectedAnnotations();
     if (selected.size() == 1 && selected.front().text)
         typeText(selected.front());

@@ -57,6 +57,9 @@ void ScreenshotCanvasView::setDocument(ScreenshotEditDocument *document,
     m_nextNumber.reset();
     m_viewport.setContent(shownContent());
     m_viewport.fit();
+    const QSizeF pixels = shownContent().size();
+    setAccessibleDescription(m_document ? tr("%1 by %2 pixels").arg(pixels.width()).arg(pixels.height())
+                                        : QString());
     update();
     Q_EMIT changed();
 }
@@ -87,10 +90,28 @@ void ScreenshotCanvasView::tellAssistivePrograms() {
     const std::size_t count = m_document->annotations().size();
     if (!QAccessible::isActive())
         return;
-    QAccessibleEvent event(this,
-                           count == m_toldCount ? QAccessible::SelectionWithin : QAccessible::ObjectReorder);
+    if (count != m_toldCount) {
+        QAccessibleEvent event(this, QAccessible::ObjectReorder);
+        QAccessible::updateAccessibility(&event);
+    }
     m_toldCount = count;
-    QAccessible::updateAccessibility(&event);
+    tellSelected();
+}
+
+// A single one has the keyboard then.
+void ScreenshotCanvasView::tellSelected() {
+    const QSet<QUuid> &selected = m_document->selectedIDs();
+    if (selected == m_toldSelection)
+        return;
+    m_toldSelection = selected;
+    QAccessibleInterface *list = QAccessible::queryAccessibleInterface(this);
+    QAccessibleInterface *one = list && selected.size() == 1 ? list->focusChild() : nullptr;
+    if (!one)
+        return;
+    for (const QAccessible::Event what : {QAccessible::Focus, QAccessible::Selection}) {
+        QAccessibleEvent event(one, what);
+        QAccessible::updateAccessibility(&event);
+    }
 }
 
 void ScreenshotCanvasView::updateContent() {

@@ -87,6 +87,9 @@ public:
 
     // A key that came to another part of the window; whether it meant something.
     bool handleKey(const QKeyEvent &event);
+    // Types the selected text, or draws what the tool draws in the middle of what is seen, to be moved by the
+    // keys.
+    void drawOrType();
     // What is drawn, as a list for assistive programs: the rectangle is in points of the view.
     [[nodiscard]] ScreenshotEditDocument *document() const { return m_document; }
 
@@ -126,6 +129,7 @@ private:
     void updateContent();
     // Of what was drawn or selected.
     void tellAssistivePrograms();
+    void tellSelected();
     [[nodiscard]] QRectF extentOf(const CanvasDraft &draft) const;
     [[nodiscard]] QRectF replacedExtent(const CanvasDraft &draft) const;
     void setDraft(CanvasDraft draft);
@@ -154,7 +158,6 @@ private:
     bool handleCropKey(int key);
     bool handleOrderKey(int key);
     void cancelStep();
-    void enter();
     void placeInMiddle();
 
     // Text, crop and style (ScreenshotCanvasTools.cpp).
@@ -177,6 +180,7 @@ private:
     CanvasLayers m_layers;
     // How many annotations assistive programs know of.
     std::size_t m_toldCount = 0;
+    QSet<QUuid> m_toldSelection;
     // What is shown roughly during a zoom is drawn again when it has ended.
     WorkItem m_refinement;
     // Around the selected ones, before they are moved. Image space.

@@ -19,7 +19,9 @@ QAccessibleInterface *accessibleChrome(const QString &, QObject *object) {
         return new QAccessibleWidget(widget, QAccessible::AlertMessage);
     if (qobject_cast<EditorHeader *>(object) || qobject_cast<EditorDock *>(object))
         return new QAccessibleWidget(widget, QAccessible::ToolBar);
-    if (qobject_cast<EditorNotice *>(object) || qobject_cast<EditorCropSize *>(object))
+    if (qobject_cast<EditorNotice *>(object))
+        return new QAccessibleWidget(widget, QAccessible::Notification);
+    if (qobject_cast<EditorCropSize *>(object))
         return new QAccessibleWidget(widget, QAccessible::StaticText);
     if (qobject_cast<EditorControlRow *>(object))
         return new QAccessibleWidget(widget, QAccessible::Grouping);

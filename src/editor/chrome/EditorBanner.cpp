@@ -1,12 +1,12 @@
 #include "editor/chrome/EditorBanner.h"
 
+#include "controls/SpokenNotice.h"
 #include "controls/TembraButton.h"
 #include "controls/Theme.h"
 #include "controls/Typography.h"
 #include "editor/chrome/AccessibleEditorChrome.h"
 #include "editor/chrome/EditorIconButton.h"
 
-#include <QAccessible>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -52,8 +52,7 @@ void EditorBanner::present(const EditorBannerMessage &message) {
     takeActions(message.actions);
     show();
     update();
-    QAccessibleEvent event(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&event);
+    SpokenNotice::readAgain(*this);
 }
 
 void EditorBanner::takeActions(const std::vector<EditorBannerMessage::Action> &actions) {

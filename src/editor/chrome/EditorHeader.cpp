@@ -45,6 +45,7 @@ EditorHeader::EditorHeader(QWidget *parent)
       m_save(makeButton(TembraButton::Kind::accent, tr("Save"), this)),
       m_saving(new LoadingIndicator(m_save)) {
     installAccessibleEditorChrome();
+    setAccessibleName(tr("Screenshot file"));
     setFixedHeight(barHeight);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_saving->resize(16, 16);

@@ -2,6 +2,7 @@
 
 #include "controls/ControlPainting.h"
 #include "controls/LoadingIndicator.h"
+#include "controls/SpokenNotice.h"
 #include "controls/Theme.h"
 #include "controls/Typography.h"
 
@@ -27,6 +28,8 @@ EditorNotice::EditorNotice(QWidget *parent) : QWidget(parent), m_indicator(new L
 void EditorNotice::setNotice(const QString &text, bool isBusy) {
     m_text = text;
     setAccessibleName(text);
+    if (isVisible())
+        SpokenNotice::readAgain(*this);
     m_indicator->setVisible(isBusy);
     updateGeometry();
     update();

@@ -88,6 +88,13 @@ void EditorSidebar::currentChanged(const QModelIndex &current, const QModelIndex
     Q_EMIT chosen(m_current);
 }
 
+// Assistive programs select.
+void EditorSidebar::selectionChanged(const QItemSelection &selected, const QItemSelection &deselected) {
+    QListView::selectionChanged(selected, deselected);
+    if (!m_isShowingCurrent && !selected.isEmpty())
+        setCurrentIndex(selected.indexes().constFirst());
+}
+
 void EditorSidebar::requestPictures() {
     if (!isVisible())
         return m_items->setRowsInView(0, 0, devicePixelRatioF());

@@ -23,6 +23,7 @@ QString inPixels(double size) {
 EditorSizeControl::EditorSizeControl(QWidget *parent)
     : EditorControlRow(parent),
       m_button(new EditorFlatButton(inPixels(m_size), tr("Size"), EditorFlatButton::Mark::opens, this)) {
+    setAccessibleName(tr("Size"));
     m_button->setLeastWidth(leastWidth);
     connect(m_button, &EditorFlatButton::clicked, this, &EditorSizeControl::open);
     connect(m_button, &EditorFlatButton::stepped, this, &EditorSizeControl::stepped);

@@ -40,6 +40,7 @@ void connectToggle(EditorIconButton &button, const std::function<void(bool)> &on
 } // namespace
 
 EditorStyleRow::EditorStyleRow(QWidget *parent) : EditorControlRow(parent) {
+    setAccessibleName(tr("Style"));
     buildColors();
     buildToggles();
     buildBlur();

@@ -37,6 +37,8 @@ EditorSwatches::EditorSwatches(QWidget *parent)
     });
     m_focus->add(m_custom);
     add(m_custom, gap);
+    // As it is read.
+    m_custom->raise();
 }
 
 void EditorSwatches::setColor(const EditorColor &color) {

@@ -40,7 +40,9 @@ QRect placeOn(const ScreenRect &display, QSize wanted) {
     if (room.isEmpty())
         return {QPoint(), wanted};
     room.adjust(12, 12, -12, -12);
-    QRect place(QPoint(), wanted.boundedTo(room.size()).expandedTo(ScreenshotEditorWindow::smallest));
+    QRect place(
+        QPoint(),
+        wanted.boundedTo(room.size()).expandedTo(ScreenshotEditorWindow::smallest.boundedTo(room.size())));
     place.moveCenter(room.center());
     return place;
 }
@@ -83,7 +85,10 @@ void ScreenshotEditorWindowController::makeWindow(const ScreenRect &display) {
     connectWindow();
     connectCanvas();
     connectDocuments();
-    m_window->setGeometry(placeOn(display, rememberedSize(m_services.defaults)));
+    const QRect place = placeOn(display, rememberedSize(m_services.defaults));
+    // Also where the desktop's large text leaves little room.
+    m_window->setMinimumSize(ScreenshotEditorWindow::smallest.boundedTo(place.size()));
+    m_window->setGeometry(place);
     // The preview is asked for in the size that it will be shown in.
     m_window->ensurePolished();
     m_window->layout()->activate();

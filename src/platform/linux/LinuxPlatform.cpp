@@ -66,6 +66,7 @@ Platform makePlatform(Scheduler &scheduler) {
     platform.filePromises = std::move(desktop.filePromises);
     platform.sounds = std::move(desktop.sounds);
     platform.desktopFindings = std::move(desktop.findings);
+    platform.isMotionReduced = std::move(desktop.isMotionReduced);
     platform.thumbnails =
         std::make_unique<FreedesktopThumbnails>(scheduler, FreedesktopThumbnails::userLocations());
     return platform;

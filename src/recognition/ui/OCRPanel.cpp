@@ -1,6 +1,7 @@
 #include "recognition/ui/OCRPanel.h"
 
 #include "controls/Motion.h"
+#include "controls/SpokenNotice.h"
 #include "recognition/ui/AccessibleRecognition.h"
 #include "recognition/ui/OCRCard.h"
 #include "recognition/ui/OCRDropView.h"
@@ -9,7 +10,6 @@
 #include "recognition/ui/OCRResultTextView.h"
 #include "recognition/ui/PhaseFade.h"
 
-#include <QAccessible>
 #include <QDragEnterEvent>
 
 namespace tembra {
@@ -88,13 +88,12 @@ void OCRPanel::showPhase() {
 }
 
 void OCRPanel::announce() {
-    QWidget *const shown = phaseView();
+    const QWidget *const shown = phaseView();
     const bool isOutcome = std::holds_alternative<OCRState::Text>(m_state.phase) ||
                            std::holds_alternative<OCRState::Error>(m_state.phase);
     if (!isOutcome || !isVisible())
         return;
-    QAccessibleEvent event(shown, QAccessible::Alert);
-    QAccessible::updateAccessibility(&event);
+    SpokenNotice::say(*this, shown->accessibleName());
 }
 
 QString OCRPanel::selection() const {

@@ -129,6 +129,10 @@ OnboardingIllustration::OnboardingIllustration(QWidget *parent) : QWidget(parent
     m_animation.setStartValue(0.0);
     m_animation.setEndValue(1.0);
     connect(&m_animation, &QVariantAnimation::valueChanged, this, &OnboardingIllustration::advance);
+    connect(&m_animation, &QVariantAnimation::currentLoopChanged, this, [this] {
+        if (motion::isReduced(*this))
+            restart();
+    });
     restart();
 }
 

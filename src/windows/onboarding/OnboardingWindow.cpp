@@ -1,8 +1,10 @@
 #include "windows/onboarding/OnboardingWindow.h"
 
 #include "controls/ProgramIcon.h"
+#include "controls/SpokenNotice.h"
 #include "controls/TembraButton.h"
 #include "controls/TembraLinkButton.h"
+#include "controls/TextLabel.h"
 #include "controls/Theme.h"
 #include "controls/Typography.h"
 #include "windows/onboarding/OnboardingDots.h"
@@ -59,11 +61,12 @@ OnboardingWindow::OnboardingWindow()
       m_link(new TembraLinkButton(QString(), this)),
       m_note(makeLabel(this, typography::bodySize, QFont::Normal)),
       m_dots(new OnboardingDots(this)) {
+    makeHeading(*m_heading);
     setWindowTitle(QStringLiteral("Tembra"));
     setWindowIcon(programIcon());
     Theme::setAppearance(*this, Appearance::desktop);
-    setFixedSize(contentSize);
     layOut();
+    fitInto(QGuiApplication::primaryScreen()->availableSize());
     connectControls();
     applyColors();
 }
@@ -82,10 +85,8 @@ void OnboardingWindow::layOut() {
     buttons->addStretch();
 
     auto *rows = new QVBoxLayout(this);
-    rows->setContentsMargins(0, 40, 0, 26);
     rows->setSpacing(0);
     rows->addWidget(m_illustration, 0, Qt::AlignHCenter);
-    rows->addSpacing(33);
     rows->addWidget(m_heading);
     rows->addSpacing(8);
     rows->addWidget(m_text, 0, Qt::AlignHCenter);
@@ -98,6 +99,17 @@ void OnboardingWindow::layOut() {
     rows->addWidget(m_note, 0, Qt::AlignHCenter);
     rows->addStretch();
     rows->addWidget(m_dots, 0, Qt::AlignHCenter);
+}
+
+// With large text little of a display may be left: the picture goes then, not the words.
+void OnboardingWindow::fitInto(QSize room) {
+    constexpr int titleBar = 40;
+    const QSize size = contentSize.boundedTo({room.width(), room.height() - titleBar});
+    const bool hasPicture = size.height() == contentSize.height();
+    m_illustration->setVisible(hasPicture);
+    m_heading->setContentsMargins(0, hasPicture ? 33 : 0, 0, 0);
+    layout()->setContentsMargins(0, hasPicture ? 40 : 10, 0, hasPicture ? 26 : 10);
+    setFixedSize(size);
 }
 
 void OnboardingWindow::connectControls() {
@@ -142,6 +154,8 @@ void OnboardingWindow::apply(const OnboardingState &state) {
     m_dots->show(state.step, m_page.isBusy ? state.step : state.reached);
     m_dots->setEnabled(!m_page.isBusy);
     applyColors();
+    if (m_page.heading != headingBefore && isVisible())
+        SpokenNotice::say(*this, m_page.heading + u'\n' + m_page.text);
     if (m_page.heading != headingBefore || m_page.isBusy != wasBusy)
         focusDefault();
 }
@@ -178,6 +192,7 @@ void OnboardingWindow::present() {
     if (!isVisible()) {
         const QScreen *screen = QGuiApplication::screenAt(QCursor::pos());
         const QRect room = (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
+        fitInto(room.size());
         move(room.center() - rect().center());
     }
     setWindowState(windowState() & ~Qt::WindowMinimized);

@@ -44,6 +44,8 @@ protected:
 
 private:
     void layOut();
+    // As large as there is room, in points.
+    void fitInto(QSize room);
     void connectControls();
     void addShortcut(const QKeySequence &key, int steps);
     void applyColors();

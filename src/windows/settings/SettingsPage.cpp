@@ -4,6 +4,7 @@
 #include "controls/TembraSettingsRow.h"
 #include "controls/TembraSettingsSection.h"
 #include "controls/TembraToggle.h"
+#include "controls/TextLabel.h"
 #include "controls/Typography.h"
 
 #include <QLabel>
@@ -31,7 +32,9 @@ SettingsPage::SettingsPage(const QString &heading, AppSettings &settings, QWidge
     setAccessibleName(heading);
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->setSpacing(sectionGap);
-    auto *label = new QLabel(heading, this);
+    auto *label = new QLabel(this);
+    makeHeading(*label);
+    label->setText(heading);
     label->setFont(typography::font(typography::windowTitleSize, QFont::DemiBold));
     label->setContentsMargins(0, 0, 0, headingGap - sectionGap + 4);
     m_layout->addWidget(label);

@@ -20,6 +20,11 @@ SettingsSidebar::SettingsSidebar(QWidget *parent) : QListWidget(parent) {
         addItem(title(page));
     setCurrentRow(0);
     connect(this, &QListWidget::currentRowChanged, this, [this] { Q_EMIT chosen(currentPage()); });
+    // Assistive programs select.
+    connect(this, &QListWidget::itemSelectionChanged, this, [this] {
+        if (!selectedItems().isEmpty())
+            setCurrentItem(selectedItems().constFirst());
+    });
     // Also the one that is current already: a search is left so.
     connect(this, &QListWidget::clicked, this, [this] { Q_EMIT chosen(currentPage()); });
 }

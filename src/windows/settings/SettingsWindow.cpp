@@ -13,6 +13,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
+#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QShortcut>
@@ -23,7 +24,9 @@ namespace tembra {
 namespace {
 
 constexpr QSize usualSize{700, 680};
-constexpr QSize smallestSize{560, 420};
+constexpr QSize smallestSize{480, 300};
+// For the title bar and the frame.
+constexpr QSize aroundWindow{8, 40};
 constexpr int sidebarWidth = 180;
 constexpr int pageMargin = 28;
 constexpr int pageTop = 24;
@@ -45,7 +48,7 @@ SettingsWindow::SettingsWindow(std::vector<SettingsPage *> pages, QWidget *paren
     setWindowIcon(programIcon());
     Theme::setAppearance(*this, Appearance::desktop);
     setMinimumSize(smallestSize);
-    resize(usualSize);
+    resize(usualSize.boundedTo(screen()->availableSize() - aroundWindow));
     layOut();
     addPages();
     addShortcuts();

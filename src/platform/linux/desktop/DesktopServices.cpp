@@ -4,6 +4,7 @@
 #include "platform/linux/desktop/DesktopFilePromises.h"
 #include "platform/linux/desktop/DesktopPaths.h"
 #include "platform/linux/desktop/LinuxWorkspace.h"
+#include "platform/linux/desktop/MotionSetting.h"
 #include "platform/linux/desktop/PortalHotKeys.h"
 #include "platform/linux/desktop/QtDisplays.h"
 #include "platform/linux/desktop/QtHotZones.h"
@@ -72,6 +73,9 @@ DesktopServices makeDesktopServices(Scheduler &scheduler, std::optional<CameraHo
     services.sounds = std::make_unique<CanberraSounds>(EventSoundSetting::ofDesktop(connection));
     services.pasteboard = makePasteboard(scheduler, connection);
     services.hotKeys = makeHotKeys(connection);
+    services.isMotionReduced = [setting = MotionSetting::ofDesktop(connection)] {
+        return setting.isReduced();
+    };
     services.filePromises = std::make_unique<DesktopFilePromises>(connection);
     services.findings = [connection, hotKeys = services.hotKeys.get(),
                          pasteboard = services.pasteboard.get()] {

@@ -32,6 +32,7 @@ struct DesktopServices {
     std::unique_ptr<FilePromises> filePromises;
     // By which of its ways these work.
     std::function<DesktopFindings()> findings;
+    std::function<bool()> isMotionReduced;
 };
 
 // The services for the windowing system that Qt runs on. The application object and the scheduler must
