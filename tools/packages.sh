@@ -18,7 +18,7 @@ run_packages=(qt6-image-formats-plugins qt6-qpa-plugins qt6-translations-l10n fo
 desktop_packages=(
   xvfb xserver-xorg-core xserver-xorg-video-dummy openbox picom at-spi2-core dbus dbus-daemon
   xdotool x11-utils x11-xserver-utils sway wl-clipboard xclip xsettingsd faketime hsetroot
-  scrot imagemagick gnome-screenshot pcmanfm-qt libglib2.0-bin procps fontconfig
+  scrot imagemagick gnome-screenshot mate-utils xfce4-screenshooter flameshot ksnip grim pcmanfm-qt libglib2.0-bin procps fontconfig
 )
 
 # What the fuzzers are built with.

@@ -5,11 +5,12 @@
 
 namespace tembra {
 
-const DesktopDatabaseTool gnomeScreenshotTool{"GNOME Screenshot", "org.gnome.gnome-screenshot",
-                                              "auto-save-directory", "gnome-screenshot",
-                                              "Screenshot from %s.%s"};
-const DesktopDatabaseTool mateScreenshotTool{"MATE Screenshot", "org.mate.screenshot", "last-save-directory",
-                                             "mate-utils", "Screenshot at %s.png"};
+const DesktopDatabaseTool gnomeScreenshotTool{"GNOME Screenshot",    "org.gnome.gnome-screenshot",
+                                              "auto-save-directory", &StandardFolders::pictures,
+                                              "gnome-screenshot",    "Screenshot from %s.%s"};
+const DesktopDatabaseTool mateScreenshotTool{"MATE Screenshot",     "org.mate.screenshot",
+                                             "last-save-directory", &StandardFolders::desktop,
+                                             "mate-utils",          "Screenshot at %s.png"};
 
 struct DesktopDatabasePreferences::Settings {
     GSettingsObject object;
@@ -31,11 +32,12 @@ DesktopDatabasePreferences::DesktopDatabasePreferences(const DesktopDatabaseTool
 DesktopDatabasePreferences::~DesktopDatabasePreferences() = default;
 
 std::optional<QString> DesktopDatabasePreferences::location() const {
+    const QString usual = folders().*m_tool.usualFolder;
     if (!m_settings)
-        return folders().pictures;
+        return usual;
     const std::unique_ptr<char, void (*)(void *)> stored(
         g_settings_get_string(m_settings->object.get(), m_tool.locationKey), g_free);
-    return folderPath(QString::fromUtf8(stored.get())).value_or(folders().pictures);
+    return folderPath(QString::fromUtf8(stored.get())).value_or(usual);
 }
 
 std::optional<QString> DesktopDatabasePreferences::name() const {

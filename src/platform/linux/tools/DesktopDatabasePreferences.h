@@ -15,6 +15,8 @@ struct DesktopDatabaseTool {
     const char *name;
     const char *schema;
     const char *locationKey;
+    // Where it saves when that is empty.
+    QString StandardFolders::*usualFolder;
     // The names of its files, in its own catalogue.
     const char *catalogue;
     const char *nameTemplate;
