@@ -12,7 +12,7 @@ build_packages=(
 )
 
 # What the program uses when it runs: image formats, its typeface, gsettings' storage, the language it reads in pictures.
-run_packages=(qt6-image-formats-plugins qt6-qpa-plugins qt6-translations-l10n fonts-inter dconf-gsettings-backend tesseract-ocr-eng)
+run_packages=(qt6-image-formats-plugins qt6-translations-l10n fonts-inter dconf-gsettings-backend tesseract-ocr-eng)
 
 # A private desktop to run on, and real tools to take captures with and to drive it.
 desktop_packages=(
@@ -31,8 +31,8 @@ bench_packages=(libgdk-pixbuf2.0-bin ffmpegthumbnailer libopencv-imgproc-dev tes
 # What builds the package for Debian.
 package_packages=(dpkg-dev fakeroot file gzip)
 
-# What looks at what is installed: the metadata, the manual's page, the completions, the package.
-check_packages=(desktop-file-utils appstream man-db zsh fish bash-completion lintian devscripts debootstrap)
+# What an installation is looked at with: its metadata, its page of the manual, its completions.
+check_packages=(desktop-file-utils appstream man-db zsh fish bash-completion)
 
 # Installs those of the named packages that are missing, with sudo where needed.
 install_missing() {
