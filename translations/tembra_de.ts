@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en_US">
 <context>
+    <name>AccessibleFile</name>
+    <message>
+        <source>Pinned</source>
+        <translation>Angepinnt</translation>
+    </message>
+    <message>
+        <source>Edited</source>
+        <translation>Bearbeitet</translation>
+    </message>
+    <message>
+        <source>Original unavailable</source>
+        <translation>Original nicht verfügbar</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+</context>
+<context>
     <name>ActivationShortcut</name>
     <message>
         <source>Enter</source>
@@ -2245,6 +2268,10 @@ Bildschirmfotos: %4
         <source>Move to Trash</source>
         <translation>In den Papierkorb</translation>
     </message>
+    <message>
+        <source>Screenshot file</source>
+        <translation>Bildschirmfoto-Datei</translation>
+    </message>
 </context>
 <context>
     <name>tembra::EditorNameField</name>
@@ -2366,6 +2393,10 @@ Bildschirmfotos: %4
         <source>Straighten</source>
         <translation>Begradigen</translation>
     </message>
+    <message>
+        <source>Style</source>
+        <translation>Stil</translation>
+    </message>
 </context>
 <context>
     <name>tembra::EditorSwatches</name>
@@ -2422,6 +2453,24 @@ Bildschirmfotos: %4
     <message>
         <source>Fit in window</source>
         <translation>In Fenster einpassen</translation>
+    </message>
+</context>
+<context>
+    <name>tembra::FileCollectionView</name>
+    <message>
+        <source>Pinned</source>
+        <translation>Angepinnt</translation>
+    </message>
+    <message>
+        <source>Unpinned</source>
+        <translation>Gelöst</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n selected</source>
+        <translation>
+            <numerusform>%n ausgewählt</numerusform>
+            <numerusform>%n ausgewählt</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2534,17 +2583,6 @@ Bildschirmfotos: %4
     <message>
         <source>Loading</source>
         <translation>Wird geladen</translation>
-    </message>
-</context>
-<context>
-    <name>tembra::NativeScreenshotCell</name>
-    <message>
-        <source>Pinned</source>
-        <translation>Angepinnt</translation>
-    </message>
-    <message>
-        <source>Edited</source>
-        <translation>Bearbeitet</translation>
     </message>
 </context>
 <context>
@@ -2800,6 +2838,10 @@ Bildschirmfotos: %4
         <source>Screenshot</source>
         <translation>Bildschirmfoto</translation>
     </message>
+    <message>
+        <source>%1 by %2 pixels</source>
+        <translation>%1 mal %2 Pixel</translation>
+    </message>
 </context>
 <context>
     <name>tembra::ScreenshotCollectionView</name>
@@ -3006,6 +3048,10 @@ Bildschirmfotos: %4
         <source>Couldn’t Open Link</source>
         <translation>Link konnte nicht geöffnet werden</translation>
     </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Rückgängig gemacht: %1</translation>
+    </message>
 </context>
 <context>
     <name>tembra::ShelfHeader</name>
@@ -3032,6 +3078,10 @@ Bildschirmfotos: %4
     <message>
         <source>Undo %1</source>
         <translation>Rückgängig: %1</translation>
+    </message>
+    <message>
+        <source>%1. Undo takes it back.</source>
+        <translation>%1. „Rückgängig“ nimmt es zurück.</translation>
     </message>
 </context>
 <context>

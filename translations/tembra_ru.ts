@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru" sourcelanguage="en_US">
 <context>
+    <name>AccessibleFile</name>
+    <message>
+        <source>Pinned</source>
+        <translation>Закреплено</translation>
+    </message>
+    <message>
+        <source>Edited</source>
+        <translation>Изменено</translation>
+    </message>
+    <message>
+        <source>Original unavailable</source>
+        <translation>Оригинал недоступен</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Папка</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Открыть</translation>
+    </message>
+</context>
+<context>
     <name>ActivationShortcut</name>
     <message>
         <source>Enter</source>
@@ -2257,6 +2280,10 @@ Screenshots: %4
         <source>Move to Trash</source>
         <translation>Переместить в корзину</translation>
     </message>
+    <message>
+        <source>Screenshot file</source>
+        <translation>Файл снимка</translation>
+    </message>
 </context>
 <context>
     <name>tembra::EditorNameField</name>
@@ -2378,6 +2405,10 @@ Screenshots: %4
         <source>Straighten</source>
         <translation>Выпрямить</translation>
     </message>
+    <message>
+        <source>Style</source>
+        <translation>Стиль</translation>
+    </message>
 </context>
 <context>
     <name>tembra::EditorSwatches</name>
@@ -2434,6 +2465,25 @@ Screenshots: %4
     <message>
         <source>Fit in window</source>
         <translation>Вписать в окно</translation>
+    </message>
+</context>
+<context>
+    <name>tembra::FileCollectionView</name>
+    <message>
+        <source>Pinned</source>
+        <translation>Закреплено</translation>
+    </message>
+    <message>
+        <source>Unpinned</source>
+        <translation>Откреплено</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n selected</source>
+        <translation>
+            <numerusform>Выделен %n</numerusform>
+            <numerusform>Выделено %n</numerusform>
+            <numerusform>Выделено %n</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2546,17 +2596,6 @@ Screenshots: %4
     <message>
         <source>Loading</source>
         <translation>Загрузка</translation>
-    </message>
-</context>
-<context>
-    <name>tembra::NativeScreenshotCell</name>
-    <message>
-        <source>Pinned</source>
-        <translation>Закреплён</translation>
-    </message>
-    <message>
-        <source>Edited</source>
-        <translation>Изменён</translation>
     </message>
 </context>
 <context>
@@ -2816,6 +2855,10 @@ Screenshots: %4
         <source>Screenshot</source>
         <translation>Снимок экрана</translation>
     </message>
+    <message>
+        <source>%1 by %2 pixels</source>
+        <translation>%1 на %2 пикселей</translation>
+    </message>
 </context>
 <context>
     <name>tembra::ScreenshotCollectionView</name>
@@ -3022,6 +3065,10 @@ Screenshots: %4
         <source>Couldn’t Open Link</source>
         <translation>Не удалось открыть ссылку</translation>
     </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Отменено: %1</translation>
+    </message>
 </context>
 <context>
     <name>tembra::ShelfHeader</name>
@@ -3048,6 +3095,10 @@ Screenshots: %4
     <message>
         <source>Undo %1</source>
         <translation>Отменить %1</translation>
+    </message>
+    <message>
+        <source>%1. Undo takes it back.</source>
+        <translation>%1. Это можно отменить.</translation>
     </message>
 </context>
 <context>
