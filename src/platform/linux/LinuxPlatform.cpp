@@ -16,6 +16,7 @@
 #include "platform/linux/LinuxTrash.h"
 #include "platform/linux/ThumbnailCacheFolder.h"
 #include "platform/linux/desktop/DesktopServices.h"
+#include "platform/linux/desktop/WindowingChoice.h"
 #include "platform/linux/recognition/TesseractOCRRecognizer.h"
 #include "platform/linux/tools/ScreenshotTool.h"
 
@@ -72,11 +73,15 @@ std::unique_ptr<SingleInstance> makeSingleInstance() {
     return std::make_unique<DBusSingleInstance>();
 }
 
-// A panel at the edge of the screen needs more than plain Wayland windows can do; X11's are to be had there
-// as well.
 void preparePlatformEnvironment() {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && !qEnvironmentVariableIsEmpty("DISPLAY"))
-        qputenv("QT_QPA_PLATFORM", "xcb");
+    const WindowingChoice choice = WindowingChoice::of(WindowingChoice::ofSession());
+    if (!choice.platform.isEmpty())
+        qputenv("QT_QPA_PLATFORM", choice.platform);
+    // The windows that we place ourselves are left to us, and stay where we put them.
+    qputenv("QT_WAYLAND_USE_BYPASSWINDOWMANAGERHINT", "1");
+    qputenv("QT_WAYLAND_DISABLE_FIXED_POSITIONS", "1");
+    if (!choice.note.isEmpty())
+        qInfo("%s", choice.note.constData());
 }
 
 // Packages lay a marker beside the program.

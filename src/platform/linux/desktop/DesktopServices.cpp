@@ -10,6 +10,8 @@
 #include "platform/linux/desktop/QtPanelWindows.h"
 #include "platform/linux/desktop/QtPasteboard.h"
 #include "platform/linux/desktop/WaylandDataControlPasteboard.h"
+#include "platform/linux/desktop/WaylandInputMonitor.h"
+#include "platform/linux/desktop/WaylandPanelWindows.h"
 #include "platform/linux/desktop/X11HotKeys.h"
 #include "platform/linux/desktop/X11HotZones.h"
 #include "platform/linux/desktop/X11InputMonitor.h"
@@ -45,6 +47,13 @@ DesktopServices makeDesktopServices(Scheduler &scheduler, std::optional<CameraHo
     services.pasteboard = makePasteboard(scheduler, connection);
     services.hotKeys = makeHotKeys(connection);
     services.filePromises = std::make_unique<DesktopFilePromises>(connection);
+    if (const auto display = WaylandDisplay::ofApplication()) {
+        services.inputMonitor = std::make_unique<WaylandInputMonitor>(scheduler);
+        services.panelWindows =
+            std::make_unique<WaylandPanelWindows>(std::make_shared<WaylandLayers>(display));
+        services.hotZones = std::make_unique<QtHotZones>();
+        return services;
+    }
     if (!connection) {
         services.inputMonitor = std::make_unique<QtInputMonitor>();
         services.panelWindows = std::make_unique<QtPanelWindows>();

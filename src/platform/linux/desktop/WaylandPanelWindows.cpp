@@ -1,0 +1,31 @@
+#include "platform/linux/desktop/WaylandPanelWindows.h"
+
+#include "platform/linux/desktop/QtPanelWindows.h"
+
+#include <QGuiApplication>
+#include <QWidget>
+#include <QWindow>
+
+namespace tembra {
+
+WaylandPanelWindows::WaylandPanelWindows(std::shared_ptr<WaylandLayers> layers)
+    : m_layers(std::move(layers)) {}
+
+void WaylandPanelWindows::prepare(QWidget &panel) {
+    QtPanelWindows::applyPanelFlags(panel);
+    panel.winId();
+}
+
+void WaylandPanelWindows::setInputRegion(QWidget &panel, const QRegion &region) {
+    m_layers->setInputRegion(*panel.windowHandle(), region);
+}
+
+void WaylandPanelWindows::takeKeyboardFocus(QWidget &panel) {
+    m_layers->setKeyboard(*panel.windowHandle(), layer_shell::Keyboard::exclusive);
+}
+
+void WaylandPanelWindows::returnKeyboardFocus(QWidget &panel) {
+    m_layers->setKeyboard(*panel.windowHandle(), layer_shell::Keyboard::none);
+}
+
+} // namespace tembra
