@@ -77,9 +77,11 @@ void preparePlatformEnvironment() {
     const WindowingChoice choice = WindowingChoice::of(WindowingChoice::ofSession());
     if (!choice.platform.isEmpty())
         qputenv("QT_QPA_PLATFORM", choice.platform);
-    // The windows that we place ourselves are left to us, and stay where we put them.
-    qputenv("QT_WAYLAND_USE_BYPASSWINDOWMANAGERHINT", "1");
-    qputenv("QT_WAYLAND_DISABLE_FIXED_POSITIONS", "1");
+    if (choice.placesWindows) {
+        // Qt leaves to us the windows that we place ourselves, and they stay where we put them.
+        qputenv("QT_WAYLAND_USE_BYPASSWINDOWMANAGERHINT", "1");
+        qputenv("QT_WAYLAND_DISABLE_FIXED_POSITIONS", "1");
+    }
     if (!choice.note.isEmpty())
         qInfo("%s", choice.note.constData());
 }

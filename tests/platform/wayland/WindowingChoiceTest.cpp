@@ -30,6 +30,7 @@ TEST(WindowingChoice, takesWaylandWhereThePanelCanBePlacedAndSaysWhatIsMissingEl
     for (const Case &c : cases) {
         const WindowingChoice choice = WindowingChoice::of(c.facts);
         EXPECT_EQ(choice.platform, c.platform) << c.name;
+        EXPECT_EQ(choice.placesWindows, c.facts.hasLayerShell) << c.name;
         if (c.noteHas)
             EXPECT_TRUE(choice.note.contains(c.noteHas)) << c.name;
         else

@@ -17,6 +17,8 @@
 #include "platform/linux/desktop/X11InputMonitor.h"
 #include "platform/linux/desktop/X11PanelWindows.h"
 
+#include <QGuiApplication>
+
 namespace tembra {
 
 namespace {
@@ -34,6 +36,23 @@ std::unique_ptr<HotKeys> makeHotKeys(const std::shared_ptr<X11Connection> &conne
     if (connection && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
         return std::make_unique<X11HotKeys>(connection);
     return std::make_unique<PortalHotKeys>();
+}
+
+// Where a hot zone would be an ordinary window.
+class NoHotZones final : public HotZones {
+public:
+    [[nodiscard]] std::unique_ptr<Zone> add(const ScreenRect &, Callbacks) override {
+        class NoZone final : public Zone {
+            void setRect(const ScreenRect &) override {}
+        };
+        return std::make_unique<NoZone>();
+    }
+};
+
+std::unique_ptr<HotZones> makeHotZonesOfQt() {
+    if (QGuiApplication::platformName().startsWith(QStringLiteral("wayland")))
+        return std::make_unique<NoHotZones>();
+    return std::make_unique<QtHotZones>();
 }
 
 } // namespace
@@ -57,7 +76,7 @@ DesktopServices makeDesktopServices(Scheduler &scheduler, std::optional<CameraHo
     if (!connection) {
         services.inputMonitor = std::make_unique<QtInputMonitor>();
         services.panelWindows = std::make_unique<QtPanelWindows>();
-        services.hotZones = std::make_unique<QtHotZones>();
+        services.hotZones = makeHotZonesOfQt();
         return services;
     }
     const auto stacking = std::make_shared<X11Stacking>(connection);

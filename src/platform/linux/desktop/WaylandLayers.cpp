@@ -51,9 +51,11 @@ WaylandLayers::Layer &WaylandLayers::layer(QWindow &window) {
 
 void WaylandLayers::setInputRegion(QWindow &window, const QRegion &region) {
     Layer &it = layer(window);
+    if (it.inputRegion == region)
+        return;
     it.inputRegion = region;
     if (it.role)
-        applyInputRegion(it);
+        shareInput();
 }
 
 void WaylandLayers::setKeyboard(QWindow &window, layer_shell::Keyboard keyboard) {
@@ -141,8 +143,7 @@ void WaylandLayers::makeRole(QWindow &window, Layer &it) {
                                 place.translated(-screen->geometry().topLeft()), it.keyboard);
     }
     it.role->onClosed = [this, &window] { roleClosed(window); };
-    if (it.inputRegion)
-        applyInputRegion(it);
+    shareInput();
     it.platformWindow = dynamic_cast<QObject *>(window.handle());
     if (it.platformWindow) {
         connect(it.platformWindow, vanishingSignal(*it.platformWindow), this, SLOT(surfaceVanishes()),
@@ -157,6 +158,7 @@ void WaylandLayers::moved(QWindow &window) {
     const QRect place = window.geometry();
     if (const QScreen *const screen = QGuiApplication::screenAt(place.center()))
         found->second.role->place(place.translated(-screen->geometry().topLeft()));
+    shareInput();
 }
 
 // Menus go before what they belong to.
@@ -170,6 +172,8 @@ void WaylandLayers::dropRole(QWindow &window) {
         return;
     found->second.role.reset();
     found->second.surface = nullptr;
+    if (found->second.inputRegion)
+        shareInput();
 }
 
 void WaylandLayers::surfaceVanishes() {
@@ -190,9 +194,27 @@ void WaylandLayers::roleClosed(QWindow &window) {
     QMetaObject::invokeMethod(this, close, Qt::QueuedConnection);
 }
 
-void WaylandLayers::applyInputRegion(const Layer &it) const {
+void WaylandLayers::shareInput() {
+    for (const auto &[window, it] : m_layers) {
+        if (it.role && !it.parent)
+            applyInputRegion(it, inputRegionOf(*window, it));
+    }
+}
+
+QRegion WaylandLayers::inputRegionOf(const QWindow &window, const Layer &it) const {
+    if (it.inputRegion)
+        return *it.inputRegion;
+    QRegion left(QRect(QPoint(), window.size()));
+    for (const auto &[other, its] : m_layers) {
+        if (its.role && its.inputRegion)
+            left -= its.inputRegion->translated(other->position() - window.position());
+    }
+    return left;
+}
+
+void WaylandLayers::applyInputRegion(const Layer &it, const QRegion &input) const {
     wl_region *const region = wl_compositor_create_region(m_display->compositor());
-    for (const QRect &rect : *it.inputRegion)
+    for (const QRect &rect : input)
         wl_region_add(region, rect.x(), rect.y(), rect.width(), rect.height());
     wl_surface_set_input_region(it.surface, region);
     wl_surface_commit(it.surface);

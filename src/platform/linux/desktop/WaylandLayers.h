@@ -28,7 +28,8 @@ public:
     explicit WaylandLayers(std::shared_ptr<WaylandDisplay> display);
     ~WaylandLayers() override;
 
-    // The part of the window, in its own points, that takes the pointer; all of it until told.
+    // The part of the window, in its own points, that takes the pointer. Windows that were never told let
+    // those have it that were, in whatever order the compositor stacks them.
     void setInputRegion(QWindow &window, const QRegion &region);
     void setKeyboard(QWindow &window, layer_shell::Keyboard keyboard);
     // Whether the window is one of these, or a menu of one: where it lies is known then.
@@ -59,7 +60,9 @@ private:
     void makeRole(QWindow &window, Layer &layer);
     void dropRole(QWindow &window);
     void roleClosed(QWindow &window);
-    void applyInputRegion(const Layer &layer) const;
+    void shareInput();
+    [[nodiscard]] QRegion inputRegionOf(const QWindow &window, const Layer &layer) const;
+    void applyInputRegion(const Layer &layer, const QRegion &input) const;
 
     const std::shared_ptr<WaylandDisplay> m_display;
     std::map<QWindow *, Layer> m_layers;

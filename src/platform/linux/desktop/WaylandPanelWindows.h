@@ -4,6 +4,7 @@
 #include "platform/linux/desktop/WaylandLayers.h"
 
 #include <QObject>
+#include <QPointer>
 
 namespace tembra {
 
@@ -19,6 +20,8 @@ public:
 
 private:
     const std::shared_ptr<WaylandLayers> m_layers;
+    // The panel that asked for the keyboard last.
+    QPointer<QWindow> m_taker;
     QObject m_context;
 };
 

@@ -20,22 +20,23 @@ WindowingChoice::Facts WindowingChoice::ofSession() {
 }
 
 WindowingChoice WindowingChoice::of(const Facts &facts) {
+    if (facts.hasCompositor && facts.hasLayerShell)
+        return {.platform = facts.isChosenByUser ? "" : "wayland", .placesWindows = true};
     if (facts.isChosenByUser)
         return {};
-    if (facts.hasCompositor && facts.hasLayerShell)
-        return {"wayland", {}};
     if (facts.hasXServer && facts.hasCompositor) {
-        return {"xcb", "This Wayland compositor lets programs put nothing at the edge of the screen "
-                       "(no wlr-layer-shell), so Tembra runs through XWayland: files dragged from Wayland "
-                       "windows may not open the shelf, and the shortcut needs the desktop's portal."};
+        return {.platform = "xcb",
+                .note = "This Wayland compositor lets programs put nothing at the edge of the screen "
+                        "(no wlr-layer-shell), so Tembra runs through XWayland: files dragged from Wayland "
+                        "windows may not open the shelf, and the shortcut needs the desktop's portal."};
     }
     if (facts.hasXServer)
-        return {"xcb", {}};
+        return {.platform = "xcb"};
     if (facts.hasCompositor) {
-        return {"wayland",
-                "This Wayland compositor lets programs put nothing at the edge of the screen "
-                "(no wlr-layer-shell) and runs no X server: the shelf is an ordinary window, which "
-                "“tembra toggle” opens and closes."};
+        return {.platform = "wayland",
+                .note = "This Wayland compositor lets programs put nothing at the edge of the screen "
+                        "(no wlr-layer-shell) and runs no X server: the shelf is an ordinary window, which "
+                        "“tembra toggle” opens and closes."};
     }
     return {};
 }

@@ -17,6 +17,8 @@ struct WindowingChoice {
 
     // The name of Qt's platform; nothing leaves it to Qt.
     QByteArray platform;
+    // Should it be Wayland, windows can be put where they belong.
+    bool placesWindows = false;
     // What will not work, for the log, in English.
     QByteArray note;
 
