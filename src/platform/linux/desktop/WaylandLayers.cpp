@@ -38,7 +38,8 @@ WaylandLayers::~WaylandLayers() {
 }
 
 bool WaylandLayers::isPlaced(const QWindow &window) {
-    return window.flags().testFlag(Qt::BypassWindowManagerHint);
+    // What hangs at the pointer while it drags is the compositor's to place.
+    return window.flags().testFlag(Qt::BypassWindowManagerHint) && !window.inherits("QShapedPixmapWindow");
 }
 
 WaylandLayers::Layer &WaylandLayers::layer(QWindow &window) {
