@@ -2,6 +2,7 @@
 #include "support/WaylandCompositor.h"
 #include "support/WaylandHands.h"
 
+#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QPoint>
@@ -150,4 +151,55 @@ TEST_F(ShelfOnWayland, followsOutputsThatChangeAndCome) {
     hands.setLayout({1280 + 1000 + 1280, 800});
     EXPECT_TRUE(opensBelow({2280, 0, 1280, 800})) << said();
     EXPECT_TRUE(closesWhenThePointerLeaves()) << said();
+}
+
+TEST_F(ShelfOnWayland, filesAreDraggedIntoTheTrayAndOutOfIt) {
+    const QString file = tembra->home() + QStringLiteral("/kept.txt");
+    QFile kept(file);
+    ASSERT_TRUE(kept.open(QIODevice::WriteOnly));
+    kept.close();
+    QProcess partner;
+    partner.setProcessEnvironment(tembra->environment());
+    partner.start(QStringLiteral(DRAG_PARTNER),
+                  {file, QStringLiteral("-platform"), QStringLiteral("wayland")});
+    const auto says = [&partner](const QByteArray &words) {
+        while (partner.waitForReadyRead(10'000)) {
+            if (partner.readAllStandardOutput().contains(words))
+                return true;
+        }
+        return false;
+    };
+    ASSERT_TRUE(says("ready")) << partner.readAllStandardError().toStdString();
+    const QPoint source(200, 500);
+    const QPoint target(1000, 500);
+
+    // Until the windows stand, a press goes nowhere.
+    EXPECT_TRUE(waitFor([&](const QJsonObject &status) {
+        if (isOpen(status) && status[u"shelf"][u"tab"].toString() == QStringLiteral("tray"))
+            return true;
+        hands.setButton(BTN_LEFT, false);
+        hands.moveTo(source);
+        hands.setButton(BTN_LEFT, true);
+        for (const QPoint &point : {source + QPoint(30, -30), notch(left), notch(left) + QPoint(1, 0)})
+            hands.moveTo(point);
+        return false;
+    })) << said();
+    hands.moveTo({640, 60});
+    hands.moveTo({640, 130});
+    // Who lets go at once lets go before it is known whether the file may be put there.
+    EXPECT_TRUE(isOpen(tembra->status()));
+    hands.setButton(BTN_LEFT, false);
+    EXPECT_TRUE(waitFor([](const QJsonObject &status) { return status[u"tray"][u"count"].toInt() == 1; }))
+        << said();
+
+    hands.moveTo(firstTile);
+    hands.setButton(BTN_LEFT, true);
+    for (const QPoint &point : {firstTile + QPoint(20, 20), QPoint(900, 400), target, target + QPoint(1, 0)})
+        hands.moveTo(point);
+    EXPECT_TRUE(isOpen(tembra->status())) << "a drag keeps the shelf open";
+    hands.setButton(BTN_LEFT, false);
+    EXPECT_TRUE(says("dropped " + QFile::encodeName(file)));
+    partner.kill();
+    partner.waitForFinished();
+    EXPECT_TRUE(waitFor([](const QJsonObject &status) { return !isOpen(status); })) << said();
 }
