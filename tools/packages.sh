@@ -2,7 +2,7 @@
 
 build_packages=(
   g++ cmake ninja-build ccache pkg-config
-  qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
+  qt6-base-dev qt6-base-private-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
   libexpected-dev libglib2.0-dev
   libxcb1-dev libxcb-xfixes0-dev libxcb-xinput-dev libxcb-shape0-dev libxcb-xtest0-dev
   libwayland-dev
@@ -12,13 +12,13 @@ build_packages=(
 )
 
 # What the program uses when it runs: image formats, its typeface, gsettings' storage, the language it reads in pictures.
-run_packages=(qt6-image-formats-plugins qt6-translations-l10n fonts-inter dconf-gsettings-backend tesseract-ocr-eng)
+run_packages=(qt6-image-formats-plugins qt6-translations-l10n qt6-wayland fonts-inter dconf-gsettings-backend tesseract-ocr-eng)
 
 # A private desktop to run on, and real tools to take captures with and to drive it.
 desktop_packages=(
   xvfb xserver-xorg-core xserver-xorg-video-dummy openbox picom at-spi2-core dbus dbus-daemon
-  xdotool x11-utils x11-xserver-utils sway wl-clipboard xclip xsettingsd faketime hsetroot
-  scrot imagemagick gnome-screenshot mate-utils xfce4-screenshooter flameshot ksnip grim pcmanfm-qt libglib2.0-bin procps fontconfig
+  xdotool x11-utils x11-xserver-utils sway wl-clipboard grim xclip xsettingsd faketime hsetroot
+  scrot imagemagick gnome-screenshot mate-utils xfce4-screenshooter flameshot ksnip pcmanfm-qt libglib2.0-bin procps fontconfig
 )
 
 # What the fuzzers are built with.

@@ -12,7 +12,8 @@ namespace tembra {
 // events arrive.
 class InputMonitor {
 public:
-    enum class Kind { leftDown, leftUp, rightDown, leftDragged };
+    // `moved`: it may have left a window that could not tell.
+    enum class Kind { leftDown, leftUp, rightDown, leftDragged, moved };
 
     struct Event {
         Kind kind;

@@ -181,6 +181,7 @@ void HoverController::receiveMouseEvent(const InputMonitor::Event &event) {
             return;
         break;
     case InputMonitor::Kind::rightDown:
+    case InputMonitor::Kind::moved:
         break;
     }
     updateHover(event.point);

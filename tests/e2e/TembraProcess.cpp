@@ -28,7 +28,6 @@ TembraProcess::TembraProcess() : m_environment(QProcessEnvironment::systemEnviro
     m_environment.remove(QStringLiteral("XDG_CURRENT_DESKTOP"));
     QDir().mkpath(screenshots());
     setSettings({});
-    m_process.setProcessEnvironment(m_environment);
     m_process.setProcessChannelMode(QProcess::MergedChannels);
 }
 
@@ -83,11 +82,11 @@ void TembraProcess::startInDays(int days) {
     const QString asanOptions = m_environment.value(QStringLiteral("ASAN_OPTIONS"));
     m_environment.insert(QStringLiteral("ASAN_OPTIONS"),
                          asanOptions + QStringLiteral(":verify_asan_link_order=0"));
-    m_process.setProcessEnvironment(m_environment);
     start(QStringLiteral("faketime"), {QStringLiteral("-f"), QStringLiteral("+%1d").arg(days), program});
 }
 
 void TembraProcess::start(const QString &name, const QStringList &arguments) {
+    m_process.setProcessEnvironment(m_environment);
     m_process.start(name, arguments);
     m_process.waitForStarted();
     if (!waitFor([](const QJsonObject &status) { return !status.isEmpty(); }))

@@ -33,6 +33,8 @@ public:
     void setSettings(const QJsonObject &settings) const;
     // As on the first start of all.
     void forgetSettings() const;
+    // Instead of X11, which the tests have it run on.
+    void choosePlatformItself() { m_environment.remove(QStringLiteral("QT_QPA_PLATFORM")); }
     // With the same home, for other programs.
     [[nodiscard]] const QProcessEnvironment &environment() const { return m_environment; }
 

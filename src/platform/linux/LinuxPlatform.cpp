@@ -17,6 +17,7 @@
 #include "platform/linux/ThumbnailCacheFolder.h"
 #include "platform/linux/UserVolumes.h"
 #include "platform/linux/desktop/DesktopServices.h"
+#include "platform/linux/desktop/WindowingChoice.h"
 #include "platform/linux/recognition/TesseractOCRRecognizer.h"
 #include "platform/linux/tools/ScreenshotTool.h"
 
@@ -76,11 +77,17 @@ std::unique_ptr<SingleInstance> makeSingleInstance() {
     return std::make_unique<DBusSingleInstance>();
 }
 
-// A panel at the edge of the screen needs more than plain Wayland windows can do; X11's are to be had there
-// as well.
 void preparePlatformEnvironment() {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && !qEnvironmentVariableIsEmpty("DISPLAY"))
-        qputenv("QT_QPA_PLATFORM", "xcb");
+    const WindowingChoice choice = WindowingChoice::of(WindowingChoice::ofSession());
+    if (!choice.platform.isEmpty())
+        qputenv("QT_QPA_PLATFORM", choice.platform);
+    if (choice.placesWindows) {
+        // Qt leaves to us the windows that we place ourselves, and they stay where we put them.
+        qputenv("QT_WAYLAND_USE_BYPASSWINDOWMANAGERHINT", "1");
+        qputenv("QT_WAYLAND_DISABLE_FIXED_POSITIONS", "1");
+    }
+    if (!choice.note.isEmpty())
+        qInfo("%s", choice.note.constData());
 }
 
 // Packages lay a marker beside the program.

@@ -1,10 +1,10 @@
 #include "platform/linux/desktop/WaylandDataControlPasteboard.h"
 
-#include "WaylandCompositor.h"
 #include "base/QtScheduler.h"
 #include "platform/linux/Descriptor.h"
 #include "support/EventLoop.h"
 #include "support/Pictures.h"
+#include "support/WaylandCompositor.h"
 
 #include <QProcess>
 

@@ -12,11 +12,14 @@
 #include "platform/linux/desktop/QtPanelWindows.h"
 #include "platform/linux/desktop/QtPasteboard.h"
 #include "platform/linux/desktop/WaylandDataControlPasteboard.h"
+#include "platform/linux/desktop/WaylandInputMonitor.h"
+#include "platform/linux/desktop/WaylandPanelWindows.h"
 #include "platform/linux/desktop/X11HotKeys.h"
 #include "platform/linux/desktop/X11HotZones.h"
 #include "platform/linux/desktop/X11InputMonitor.h"
 #include "platform/linux/desktop/X11PanelWindows.h"
 
+#include <QGuiApplication>
 #include <QSystemTrayIcon>
 
 namespace tembra {
@@ -38,7 +41,9 @@ std::unique_ptr<HotKeys> makeHotKeys(const std::shared_ptr<X11Connection> &conne
     return std::make_unique<PortalHotKeys>();
 }
 
-DesktopPaths::Windows windowsPath(const X11Connection *connection) {
+DesktopPaths::Windows windowsPath(const X11Connection *connection, bool hasLayers) {
+    if (hasLayers)
+        return DesktopPaths::Windows::layerShell;
     if (!connection)
         return DesktopPaths::Windows::plainWayland;
     if (!qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
@@ -63,6 +68,23 @@ DesktopPaths::Clipboard clipboardPath(const Pasteboard &pasteboard) {
                                                           : DesktopPaths::Clipboard::focusedOnly;
 }
 
+// Where a hot zone would be an ordinary window.
+class NoHotZones final : public HotZones {
+public:
+    [[nodiscard]] std::unique_ptr<Zone> add(const ScreenRect &, Callbacks) override {
+        class NoZone final : public Zone {
+            void setRect(const ScreenRect &) override {}
+        };
+        return std::make_unique<NoZone>();
+    }
+};
+
+std::unique_ptr<HotZones> makeHotZonesOfQt() {
+    if (QGuiApplication::platformName().startsWith(QStringLiteral("wayland")))
+        return std::make_unique<NoHotZones>();
+    return std::make_unique<QtHotZones>();
+}
+
 } // namespace
 
 DesktopServices makeDesktopServices(Scheduler &scheduler, std::optional<CameraHousing> camera) {
@@ -77,18 +99,26 @@ DesktopServices makeDesktopServices(Scheduler &scheduler, std::optional<CameraHo
         return setting.isReduced();
     };
     services.filePromises = std::make_unique<DesktopFilePromises>(connection);
-    services.findings = [connection, hotKeys = services.hotKeys.get(),
+    const auto display = WaylandDisplay::ofApplication();
+    services.findings = [connection, hasLayers = display != nullptr, hotKeys = services.hotKeys.get(),
                          pasteboard = services.pasteboard.get()] {
-        return DesktopPaths{.windows = windowsPath(connection.get()),
+        return DesktopPaths{.windows = windowsPath(connection.get(), hasLayers),
                             .clipboard = clipboardPath(*pasteboard),
                             .shortcut = shortcutPath(*hotKeys),
                             .hasStatusItems = QSystemTrayIcon::isSystemTrayAvailable()}
             .findings();
     };
+    if (display) {
+        services.inputMonitor = std::make_unique<WaylandInputMonitor>(scheduler);
+        services.panelWindows =
+            std::make_unique<WaylandPanelWindows>(std::make_shared<WaylandLayers>(display));
+        services.hotZones = std::make_unique<QtHotZones>();
+        return services;
+    }
     if (!connection) {
         services.inputMonitor = std::make_unique<QtInputMonitor>();
         services.panelWindows = std::make_unique<QtPanelWindows>();
-        services.hotZones = std::make_unique<QtHotZones>();
+        services.hotZones = makeHotZonesOfQt();
         return services;
     }
     const auto stacking = std::make_shared<X11Stacking>(connection);

@@ -1,4 +1,4 @@
-#include "WaylandCompositor.h"
+#include "support/WaylandCompositor.h"
 
 #include "support/Files.h"
 
@@ -13,15 +13,16 @@ constexpr uid_t nobody = 65534;
 
 } // namespace
 
-WaylandCompositor::WaylandCompositor() {
+WaylandCompositor::WaylandCompositor(int outputs, const QByteArray &configuration) {
     const QByteArray folder = QFile::encodeName(m_runtimeFolder.path());
     // It says where it listens as soon as it does.
-    const QByteArray configuration =
-        QFile::encodeName(writeFile(m_runtimeFolder.filePath(QStringLiteral("config")),
-                                    "xwayland disable\nexec echo \"$WAYLAND_DISPLAY\"\n"));
-    ::chmod(configuration.constData(), 0644);
+    const QByteArray file = QFile::encodeName(
+        writeFile(m_runtimeFolder.filePath(QStringLiteral("config")),
+                  "xwayland disable\n" + configuration + "\nexec echo \"$WAYLAND_DISPLAY\" \"$SWAYSOCK\"\n"));
+    ::chmod(file.constData(), 0644);
     qputenv("XDG_RUNTIME_DIR", folder);
     qputenv("WLR_BACKENDS", "headless");
+    qputenv("WLR_HEADLESS_OUTPUTS", QByteArray::number(outputs));
     qputenv("WLR_RENDERER", "pixman");
     qputenv("WLR_LIBINPUT_NO_DEVICES", "1");
     qunsetenv("WAYLAND_DISPLAY");
@@ -29,17 +30,19 @@ WaylandCompositor::WaylandCompositor() {
     // It does not run as root.
     if (::geteuid() == 0 && ::chown(folder.constData(), nobody, nobody) == 0) {
         m_program.emplace({"setpriv", "--reuid=65534", "--regid=65534", "--clear-groups", "--pdeathsig=TERM",
-                           "sway", "--config", configuration.constData()});
+                           "sway", "--config", file.constData()});
     } else {
-        m_program.emplace({"sway", "--config", configuration.constData()});
+        m_program.emplace({"sway", "--config", file.constData()});
     }
-    const QByteArray display = m_program->readLine();
-    m_isRunning = !display.isEmpty();
-    qputenv("WAYLAND_DISPLAY", display);
+    const QByteArrayList places = m_program->readLine().split(' ');
+    m_isRunning = places.size() == 2;
+    qputenv("WAYLAND_DISPLAY", places.first());
+    qputenv("SWAYSOCK", places.last());
 }
 
 WaylandCompositor::~WaylandCompositor() {
     qunsetenv("WAYLAND_DISPLAY");
+    qunsetenv("SWAYSOCK");
 }
 
 } // namespace tembra

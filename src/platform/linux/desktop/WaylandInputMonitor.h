@@ -1,0 +1,53 @@
+#pragma once
+
+#include "base/Scheduler.h"
+#include "platform/InputMonitor.h"
+#include "platform/linux/desktop/Observers.h"
+
+#include <QObject>
+#include <QPointF>
+#include <QPointer>
+
+QT_BEGIN_NAMESPACE
+class QDropEvent;
+class QMouseEvent;
+class QWindow;
+QT_END_NAMESPACE
+
+namespace tembra {
+
+// A compositor tells a program only what happens over its own windows, and where only those lie that it has
+// placed itself. A pointer that is anywhere else counts as being in a corner that no panel reaches.
+class WaylandInputMonitor final : public QObject, public InputMonitor {
+public:
+    explicit WaylandInputMonitor(Scheduler &scheduler);
+
+    [[nodiscard]] std::unique_ptr<Observation> observe(std::function<void(const Event &)> onEvent) override;
+    [[nodiscard]] bool isForeignDragOffered() const override { return m_isDragOffered; }
+    [[nodiscard]] ScreenPoint pointer() const override;
+
+    bool eventFilter(QObject *receiver, QEvent *event) override;
+
+private:
+    void receive(QWindow &window, QEvent &event);
+    void receiveMouse(QWindow &window, const QMouseEvent &event);
+    void receiveDrag(QWindow &window, const QDropEvent &event);
+    void endDrag();
+    void entered(QWindow &window, QPointF point);
+    void left(const QWindow &window);
+    void vanished(const QWindow &window);
+    void report(Kind kind, bool isLocal);
+    [[nodiscard]] ScreenPoint away() const;
+
+    Scheduler &m_scheduler;
+    // The one of our placed windows that the pointer is in.
+    QPointer<QWindow> m_window;
+    // Where it was last seen, in screen points.
+    QPointF m_point;
+    bool m_isDragOffered = false;
+    WorkItem m_dragEnd;
+    WorkItem m_loss;
+    Observers<Observation, const Event &> m_observers;
+};
+
+} // namespace tembra
