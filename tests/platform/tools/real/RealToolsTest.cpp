@@ -1,5 +1,6 @@
 #include "ToolHome.h"
 #include "platform/linux/LinuxCaptureMarkers.h"
+#include "screenshots/ScreenshotSaveLocation.h"
 #include "support/Files.h"
 
 #include <QDateTime>
@@ -113,10 +114,15 @@ protected:
         QFile file(settingsPath());
         return file.open(QIODevice::ReadOnly) ? file.readAll().split('\n') : QByteArrayList();
     }
-    // Tells the tool where to save as "Choose Folder" does; nothing means where it likes.
-    void choose(const std::optional<QString> &folder) const {
+    // Tells the tool where to save as "Choose Folder" does.
+    void choose(const QString &folder) const {
         const auto preferences = home().preferences(tool.wanted());
-        preferences->setLocation(folder);
+        const auto chosen = ScreenshotSaveLocation::setFolder(folder, *preferences);
+        EXPECT_TRUE(chosen) << (chosen ? std::string() : chosen.error().message.toStdString());
+    }
+    void letTheToolChoose() const {
+        const auto preferences = home().preferences(tool.wanted());
+        preferences->setLocation(std::nullopt);
         preferences->synchronize();
     }
     void takeCaptureIn(const QString &folder) const {
@@ -134,7 +140,7 @@ class ToolsWithAFolder : public RealTools {};
 } // namespace
 
 TEST_P(ToolsWithAFolder, saveWhereTembraReads) {
-    choose(std::nullopt);
+    letTheToolChoose();
     const auto preferences = home().preferences(tool.wanted());
     const QString folder = QDir::cleanPath(home().path(tool.usualFolder));
     EXPECT_EQ(preferences->location(), folder);
