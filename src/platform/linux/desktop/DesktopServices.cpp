@@ -67,7 +67,7 @@ DesktopServices makeDesktopServices(Scheduler &scheduler, std::optional<CameraHo
     services.hotKeys = makeHotKeys(connection);
     services.filePromises = std::make_unique<DesktopFilePromises>(connection);
     if (const auto display = WaylandDisplay::ofApplication()) {
-        services.inputMonitor = std::make_unique<WaylandInputMonitor>(scheduler);
+        services.inputMonitor = std::make_unique<WaylandInputMonitor>(scheduler, display);
         services.panelWindows =
             std::make_unique<WaylandPanelWindows>(std::make_shared<WaylandLayers>(display));
         services.hotZones = std::make_unique<QtHotZones>();
