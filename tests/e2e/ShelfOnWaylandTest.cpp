@@ -184,8 +184,11 @@ TEST_F(ShelfOnWayland, filesAreDraggedIntoTheTrayAndOutOfIt) {
             hands.moveTo(point);
         return false;
     })) << said();
-    hands.moveTo({640, 60});
-    hands.moveTo({640, 130});
+    // Where the panel is not yet, nothing can be dropped.
+    EXPECT_TRUE(waitFor(
+        [](const QJsonObject &status) { return status[u"shelf"][u"frame"].toArray()[3].toInt() == 256; }));
+    for (const QPoint point : {QPoint(640, 60), QPoint(640, 130), QPoint(641, 131)})
+        hands.moveTo(point);
     // Who lets go at once lets go before it is known whether the file may be put there.
     EXPECT_TRUE(isOpen(tembra->status()));
     hands.setButton(BTN_LEFT, false);

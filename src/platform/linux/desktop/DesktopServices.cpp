@@ -109,7 +109,7 @@ DesktopServices makeDesktopServices(Scheduler &scheduler, std::optional<CameraHo
             .findings();
     };
     if (display) {
-        services.inputMonitor = std::make_unique<WaylandInputMonitor>(scheduler);
+        services.inputMonitor = std::make_unique<WaylandInputMonitor>(scheduler, display);
         services.panelWindows =
             std::make_unique<WaylandPanelWindows>(std::make_shared<WaylandLayers>(display));
         services.hotZones = std::make_unique<QtHotZones>();

@@ -126,8 +126,10 @@ void WaylandDisplay::seatChanged(std::uint32_t capabilities) {
 
 void WaylandDisplay::listenToPointer() {
     static const wl_pointer_listener listener{
-        .enter = ignore<wl_pointer *, std::uint32_t, wl_surface *, wl_fixed_t, wl_fixed_t>,
-        .leave = ignore<wl_pointer *, std::uint32_t, wl_surface *>,
+        .enter = [](void *self, wl_pointer *, std::uint32_t, wl_surface *, wl_fixed_t,
+                    wl_fixed_t) { static_cast<WaylandDisplay *>(self)->m_hasPointer = true; },
+        .leave = [](void *self, wl_pointer *, std::uint32_t,
+                    wl_surface *) { static_cast<WaylandDisplay *>(self)->m_hasPointer = false; },
         .motion = ignore<wl_pointer *, std::uint32_t, wl_fixed_t, wl_fixed_t>,
         .button =
             [](void *self, wl_pointer *, std::uint32_t serial, std::uint32_t, std::uint32_t,

@@ -40,6 +40,9 @@ public:
     // Of the last button or key that was pressed over one of our windows; 0 before the first.
     [[nodiscard]] std::uint32_t pressSerial() const { return m_pressSerial; }
 
+    // Whether the pointer is over one of our windows; Qt does not tell while a menu is open.
+    [[nodiscard]] bool hasPointer() const { return m_hasPointer; }
+
     // Null while the window has none, and for a screen that is none of the compositor's.
     [[nodiscard]] static wl_surface *surface(QWindow &window);
     [[nodiscard]] static wl_output *output(QScreen &screen);
@@ -61,6 +64,7 @@ private:
     wl_pointer *m_pointer = nullptr;
     wl_keyboard *m_keyboard = nullptr;
     std::uint32_t m_pressSerial = 0;
+    bool m_hasPointer = false;
 };
 
 } // namespace tembra

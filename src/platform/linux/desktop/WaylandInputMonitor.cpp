@@ -19,7 +19,8 @@ constexpr auto handover = 100ms;
 
 } // namespace
 
-WaylandInputMonitor::WaylandInputMonitor(Scheduler &scheduler) : m_scheduler(scheduler) {
+WaylandInputMonitor::WaylandInputMonitor(Scheduler &scheduler, std::shared_ptr<WaylandDisplay> display)
+    : m_scheduler(scheduler), m_display(std::move(display)) {
     qGuiApp->installEventFilter(this);
 }
 
@@ -29,7 +30,8 @@ WaylandInputMonitor::observe(std::function<void(const Event &)> onEvent) {
 }
 
 ScreenPoint WaylandInputMonitor::pointer() const {
-    return m_window ? ScreenPoint{m_point.x(), m_point.y()} : away();
+    const bool isHere = m_window && (m_isDragging || m_display->hasPointer() || m_loss.isPending());
+    return isHere ? ScreenPoint{m_point.x(), m_point.y()} : away();
 }
 
 // Of the screen where the pointer was last seen.
@@ -74,23 +76,27 @@ void WaylandInputMonitor::receive(QWindow &window, QEvent &event) {
 
 void WaylandInputMonitor::entered(QWindow &window, QPointF point) {
     m_loss.cancel();
+    m_isDragging = false;
     m_window = WaylandLayers::isPlaced(window) ? &window : nullptr;
     if (m_window)
         m_point = point;
 }
 
 void WaylandInputMonitor::left(const QWindow &window) {
-    if (m_window == &window)
-        m_window.clear();
+    if (m_window != &window)
+        return;
+    m_window.clear();
+    expectLoss();
 }
 
 // Nobody says whose the pointer is then, unless it is ours.
 void WaylandInputMonitor::vanished(const QWindow &window) {
-    if (m_window != &window)
-        return;
-    m_loss = m_scheduler.schedule(handover, [this, lost = m_window] {
-        if (m_window && m_window != lost)
-            return;
+    if (m_window == &window)
+        expectLoss();
+}
+
+void WaylandInputMonitor::expectLoss() {
+    m_loss = m_scheduler.schedule(handover, [this] {
         m_window.clear();
         report(Kind::moved, false);
     });
@@ -119,6 +125,7 @@ void WaylandInputMonitor::receiveDrag(QWindow &window, const QDropEvent &event) 
         report(Kind::leftDown, false);
     }
     entered(window, window.mapToGlobal(event.position()));
+    m_isDragging = true;
     if (!isForeign)
         return;
     m_isDragOffered = true;

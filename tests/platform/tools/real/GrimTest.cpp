@@ -1,5 +1,5 @@
 #include "ToolHome.h"
-#include "platform/wayland/WaylandCompositor.h"
+#include "support/WaylandCompositor.h"
 
 #include <QDir>
 #include <QStandardPaths>
