@@ -1146,6 +1146,13 @@
     </message>
 </context>
 <context>
+    <name>Platform</name>
+    <message>
+        <source>Tembra needs a desktop: neither DISPLAY nor WAYLAND_DISPLAY leads to one.</source>
+        <translation>Tembra braucht einen Desktop: Weder DISPLAY noch WAYLAND_DISPLAY führt zu einem.</translation>
+    </message>
+</context>
+<context>
     <name>RcFile</name>
     <message>
         <source>“%1” is not a settings file.</source>

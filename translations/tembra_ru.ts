@@ -1154,6 +1154,13 @@
     </message>
 </context>
 <context>
+    <name>Platform</name>
+    <message>
+        <source>Tembra needs a desktop: neither DISPLAY nor WAYLAND_DISPLAY leads to one.</source>
+        <translation>Tembra нужен рабочий стол: ни DISPLAY, ни WAYLAND_DISPLAY к нему не ведут.</translation>
+    </message>
+</context>
+<context>
     <name>RcFile</name>
     <message>
         <source>“%1” is not a settings file.</source>

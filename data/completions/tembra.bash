@@ -19,7 +19,7 @@ _tembra() {
     ;;
   settings)
     [ "$cword" -eq 2 ] &&
-      COMPREPLY=($(compgen -W 'general screenshots editor tray text shortcut about' -- "$cur"))
+      COMPREPLY=($(compgen -W 'general screenshots editor tray text shortcut doctor about' -- "$cur"))
     ;;
   status | doctor) COMPREPLY=($(compgen -W '--json' -- "$cur")) ;;
   scan)

@@ -22,7 +22,7 @@ complete -c tembra -n "$none" -s h -l help -d 'Print how it is used'
 
 complete -c tembra -n '__fish_seen_subcommand_from open' -l tab -x -a 'tray screenshots text' -d 'Show this tab'
 complete -c tembra -n '__fish_seen_subcommand_from settings' \
-  -a 'general screenshots editor tray text shortcut about'
+  -a 'general screenshots editor tray text shortcut doctor about'
 complete -c tembra -n '__fish_seen_subcommand_from status scan ocr doctor' -l json -d 'Print JSON'
 complete -c tembra -n '__fish_seen_subcommand_from scan' -a '(__fish_complete_directories)'
 complete -c tembra -n '__fish_seen_subcommand_from add edit render ocr' -F

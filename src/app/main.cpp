@@ -104,8 +104,10 @@ int runPictureCommand(const CommandLine &line, int argc, char **argv) {
 
 // On the display of the desktop, as the program itself.
 int runDoctor(const CommandLine &line, int argc, char **argv) {
-    preparePlatformEnvironment();
+    if (const auto display = preparePlatformEnvironment(); !display)
+        return finish(failure(display.error()));
     const QApplication application(argc, argv);
+    restorePlatformEnvironment();
     const Catalogues catalogues(QLocale::system().uiLanguages());
     QtScheduler scheduler;
     const DoctorReport report = examineDesktop(scheduler);
@@ -137,10 +139,12 @@ int runCommand(const CommandLine &line, int argc, char **argv) {
 
 // The program itself, until it quits.
 int runShelf(const CommandLine &line, int argc, char **argv) {
-    preparePlatformEnvironment();
+    if (const auto display = preparePlatformEnvironment(); !display)
+        return finish(failure(display.error()));
     // By it desktops find the name and the icon of the windows.
     QGuiApplication::setDesktopFileName(QStringLiteral("app.tembra.Tembra"));
     const QApplication application(argc, argv);
+    restorePlatformEnvironment();
     installAccessibleProgram();
     installAccessibleControls();
     QApplication::setQuitOnLastWindowClosed(false);

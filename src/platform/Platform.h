@@ -82,8 +82,11 @@ struct Platform {
 
 // Needs an application object, not the rest of the platform.
 [[nodiscard]] std::unique_ptr<SingleInstance> makeSingleInstance();
-// Before the application object is made: what its windows need of the environment.
-void preparePlatformEnvironment();
+// Before the application object is made: what its windows need of the environment. Error: there is no
+// display, in the user's words.
+[[nodiscard]] Result<void> preparePlatformEnvironment();
+// When it has been made: programs that are started get the environment of before.
+void restorePlatformEnvironment();
 // Whether the system's packages installed the program, and so update it. Needs an application object.
 [[nodiscard]] bool isPackageManaged();
 // The name of the translation catalogue that rewords, in that language ("en"), texts which name things of

@@ -25,7 +25,23 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <xcb/xcb.h>
+
 namespace tembra {
+
+namespace {
+
+constexpr const char *platformVariable = "QT_QPA_PLATFORM";
+// By us and not by the user.
+bool isPlatformChosen = false;
+
+bool canReachXServer() {
+    const std::unique_ptr<xcb_connection_t, void (*)(xcb_connection_t *)> connection(
+        xcb_connect(nullptr, nullptr), xcb_disconnect);
+    return xcb_connection_has_error(connection.get()) == 0;
+}
+
+} // namespace
 
 Platform makeHeadlessPlatform(Scheduler &scheduler) {
     Platform platform;
@@ -77,10 +93,20 @@ std::unique_ptr<SingleInstance> makeSingleInstance() {
     return std::make_unique<DBusSingleInstance>();
 }
 
-void preparePlatformEnvironment() {
-    const WindowingChoice choice = WindowingChoice::of(WindowingChoice::ofSession());
-    if (!choice.platform.isEmpty())
-        qputenv("QT_QPA_PLATFORM", choice.platform);
+Result<void> preparePlatformEnvironment() {
+    const WindowingChoice::Facts session = WindowingChoice::ofSession();
+    if (!session.isChosenByUser && !session.hasCompositor && !canReachXServer())
+        return failure(
+            {QStringLiteral("Tembra.Platform"),
+             1,
+             QCoreApplication::translate(
+                 "Platform", "Tembra needs a desktop: neither DISPLAY nor WAYLAND_DISPLAY leads to one."),
+             {}});
+    const WindowingChoice choice = WindowingChoice::of(session);
+    if (!choice.platform.isEmpty()) {
+        qputenv(platformVariable, choice.platform);
+        isPlatformChosen = true;
+    }
     if (choice.placesWindows) {
         // Qt leaves to us the windows that we place ourselves, and they stay where we put them.
         qputenv("QT_WAYLAND_USE_BYPASSWINDOWMANAGERHINT", "1");
@@ -88,6 +114,12 @@ void preparePlatformEnvironment() {
     }
     if (!choice.note.isEmpty())
         qInfo("%s", choice.note.constData());
+    return {};
+}
+
+void restorePlatformEnvironment() {
+    if (std::exchange(isPlatformChosen, false))
+        qunsetenv(platformVariable);
 }
 
 // Packages lay a marker beside the program.

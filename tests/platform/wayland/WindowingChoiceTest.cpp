@@ -16,7 +16,7 @@ TEST(WindowingChoice, takesWaylandWhereThePanelCanBePlacedAndSaysWhatIsMissingEl
     const Case cases[]{
         {"layer shell",
          {.hasXServer = true, .hasCompositor = true, .hasLayerShell = true},
-         "wayland",
+         "wayland;xcb",
          nullptr},
         {"no XWayland", {.hasCompositor = true, .hasLayerShell = true}, "wayland", nullptr},
         {"no layer shell", {.hasXServer = true, .hasCompositor = true}, "xcb", "XWayland"},

@@ -21,7 +21,10 @@ WindowingChoice::Facts WindowingChoice::ofSession() {
 
 WindowingChoice WindowingChoice::of(const Facts &facts) {
     if (facts.hasCompositor && facts.hasLayerShell)
-        return {.platform = facts.isChosenByUser ? "" : "wayland", .placesWindows = true};
+        return {.platform = facts.isChosenByUser ? ""
+                            : facts.hasXServer   ? "wayland;xcb"
+                                                 : "wayland",
+                .placesWindows = true};
     if (facts.isChosenByUser)
         return {};
     if (facts.hasXServer && facts.hasCompositor) {

@@ -15,7 +15,8 @@ struct WindowingChoice {
         bool hasLayerShell = false;
     };
 
-    // The name of Qt's platform; nothing leaves it to Qt.
+    // The name of Qt's platform, with that of the next best after a semicolon: the plugin may not be
+    // installed. Nothing leaves it to Qt.
     QByteArray platform;
     // Should it be Wayland, windows can be put where they belong.
     bool placesWindows = false;
