@@ -160,7 +160,7 @@
     </message>
     <message>
         <source>“%1”, which is to be run for new screenshots, could not be started.</source>
-        <translation>„%1“, das für neue Bildschirmfotos gestartet werden soll, ließ sich nicht starten.</translation>
+        <translation>Der Befehl „%1“ für neue Bildschirmfotos ließ sich nicht starten.</translation>
     </message>
 </context>
 <context>
@@ -388,11 +388,11 @@
     </message>
     <message>
         <source>Through the desktop’s data control, also in the background.</source>
-        <translation>Über die Datensteuerung der Arbeitsumgebung, auch im Hintergrund.</translation>
+        <translation>Über das Data-Control-Protokoll der Arbeitsumgebung, auch im Hintergrund.</translation>
     </message>
     <message>
         <source>This desktop lets only the program with the keyboard use the clipboard. New screenshots may not be copied by themselves.</source>
-        <translation>Diese Arbeitsumgebung lässt nur das Programm mit der Tastatur an die Zwischenablage. Neue Bildschirmfotos werden womöglich nicht von selbst kopiert.</translation>
+        <translation>Diese Arbeitsumgebung lässt nur das Programm, das gerade die Tastatureingaben erhält, an die Zwischenablage. Neue Bildschirmfotos werden womöglich nicht von selbst kopiert.</translation>
     </message>
     <message>
         <source>Select the screenshot in the shelf and press Ctrl+C.</source>
@@ -411,16 +411,12 @@
         <translation>Diese Arbeitsumgebung gibt Programmen keine eigenen Tasten.</translation>
     </message>
     <message>
-        <source>Tembra is among the desktop’s status items.</source>
-        <translation>Tembra steht bei den Statussymbolen der Arbeitsumgebung.</translation>
-    </message>
-    <message>
         <source>This desktop shows no status items.</source>
-        <translation>Diese Arbeitsumgebung zeigt keine Statussymbole.</translation>
+        <translation>Diese Arbeitsumgebung zeigt keine Programmsymbole im Infobereich.</translation>
     </message>
     <message>
         <source>Start Tembra once more to open the shelf, or use “tembra toggle”. Under GNOME the extension AppIndicator shows status items.</source>
-        <translation>Starten Sie Tembra noch einmal, um die Leiste zu öffnen, oder verwenden Sie „tembra toggle“. Unter GNOME zeigt die Erweiterung AppIndicator Statussymbole.</translation>
+        <translation>Starten Sie Tembra noch einmal, um die Leiste zu öffnen, oder verwenden Sie „tembra toggle“. Unter GNOME zeigt die Erweiterung AppIndicator solche Symbole.</translation>
     </message>
     <message>
         <source>A new file in the folder was not noticed.</source>
@@ -437,6 +433,18 @@
     <message>
         <source>Install the language’s data: sudo apt install tesseract-ocr-%1</source>
         <translation>Installieren Sie die Daten der Sprache: sudo apt install tesseract-ocr-%1</translation>
+    </message>
+    <message>
+        <source>Wayland, through its X server, although this desktop could do without.</source>
+        <translation>Wayland, über dessen X-Server, obwohl diese Arbeitsumgebung ihn nicht braucht.</translation>
+    </message>
+    <message>
+        <source>Install Qt’s Wayland platform (sudo apt install qt6-wayland) and start Tembra without QT_QPA_PLATFORM.</source>
+        <translation>Installieren Sie Qts Wayland-Plattform (sudo apt install qt6-wayland) und starten Sie Tembra ohne QT_QPA_PLATFORM.</translation>
+    </message>
+    <message>
+        <source>This desktop shows status items.</source>
+        <translation>Diese Arbeitsumgebung zeigt Programmsymbole im Infobereich.</translation>
     </message>
 </context>
 <context>
@@ -458,7 +466,7 @@
     <name>Doctor</name>
     <message>
         <source>A window stands at the top edge of the screen.</source>
-        <translation>Ein Fenster steht am oberen Bildschirmrand.</translation>
+        <translation>Ein Fenster lässt sich an den oberen Bildschirmrand setzen.</translation>
     </message>
     <message>
         <source>A window that was put at the top edge of the screen is not there.</source>
@@ -474,7 +482,7 @@
     </message>
     <message>
         <source>The folder is on another machine, which does not tell what changes there: new captures are looked for now and then.</source>
-        <translation>Der Ordner liegt auf einem anderen Rechner, der Änderungen nicht meldet: Nach neuen Aufnahmen wird von Zeit zu Zeit gesehen.</translation>
+        <translation>Der Ordner liegt auf einem anderen Rechner, der Änderungen nicht meldet: Nach neuen Aufnahmen wird von Zeit zu Zeit gesucht.</translation>
     </message>
     <message>
         <source>A new file in the folder was noticed.</source>
@@ -510,7 +518,7 @@
     </message>
     <message>
         <source>Status item</source>
-        <translation>Statussymbol</translation>
+        <translation>Symbol im Infobereich</translation>
     </message>
     <message>
         <source>Languages of Image to Text</source>
@@ -554,19 +562,19 @@
     </message>
     <message>
         <source>%1 puts captures on the clipboard and saves none.</source>
-        <translation>%1 legt Aufnahmen in die Zwischenablage und sichert keine.</translation>
+        <translation>%1 legt Aufnahmen in die Zwischenablage und speichert keine.</translation>
     </message>
     <message>
         <source>%1 does not save captures to a folder.</source>
-        <translation>%1 sichert Aufnahmen nicht in einen Ordner.</translation>
+        <translation>%1 speichert Aufnahmen in keinem Ordner.</translation>
     </message>
     <message>
         <source>%1 saves into “%2”, but captures are looked for in “%3”.</source>
-        <translation>%1 sichert nach „%2“, gesucht werden Aufnahmen aber in „%3“.</translation>
+        <translation>%1 speichert in „%2“, gesucht werden Aufnahmen aber in „%3“.</translation>
     </message>
     <message>
         <source>%1 saves into “%2”.</source>
-        <translation>%1 sichert nach „%2“.</translation>
+        <translation>%1 speichert in „%2“.</translation>
     </message>
     <message>
         <source>No shortcut is switched on.</source>
@@ -607,6 +615,18 @@
     <message>
         <source>Remove files there with the file manager.</source>
         <translation>Entfernen Sie Dateien dort mit dem Dateimanager.</translation>
+    </message>
+    <message>
+        <source>Where this desktop’s screenshot tool saves is not known.</source>
+        <translation>Wohin das Bildschirmfoto-Programm dieser Arbeitsumgebung speichert, ist nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>Let it save into “%1”.</source>
+        <translation>Lassen Sie es in „%1“ speichern.</translation>
+    </message>
+    <message>
+        <source>It was not tried, because Tembra does not run.</source>
+        <translation>Es wurde nicht versucht, weil Tembra nicht läuft.</translation>
     </message>
 </context>
 <context>
@@ -2130,7 +2150,7 @@ Bildschirmfotos: %4
     </message>
     <message>
         <source>Check Again</source>
-        <translation>Neu prüfen</translation>
+        <translation>Erneut prüfen</translation>
     </message>
     <message>
         <source>What works on this desktop</source>
@@ -2470,7 +2490,7 @@ Bildschirmfotos: %4
     </message>
     <message>
         <source>Unpinned</source>
-        <translation>Gelöst</translation>
+        <translation>Nicht mehr angepinnt</translation>
     </message>
     <message numerus="yes">
         <source>%n selected</source>

@@ -35,18 +35,18 @@
     <name>ScreenshotMenu</name>
     <message>
         <source>Show in Finder</source>
-        <translation>In Dateien anzeigen</translation>
+        <translation>Im Dateimanager anzeigen</translation>
     </message>
     <message>
         <source>Open Folder in Finder</source>
-        <translation>Ordner in Dateien öffnen</translation>
+        <translation>Ordner im Dateimanager öffnen</translation>
     </message>
 </context>
 <context>
     <name>FileOpening</name>
     <message>
         <source>Couldn’t Show in Finder</source>
-        <translation>Anzeige in Dateien nicht möglich</translation>
+        <translation>Anzeige im Dateimanager nicht möglich</translation>
     </message>
 </context>
 <context>
@@ -64,14 +64,14 @@
     </message>
     <message>
         <source>Show in Finder</source>
-        <translation>In Dateien anzeigen</translation>
+        <translation>Im Dateimanager anzeigen</translation>
     </message>
 </context>
 <context>
     <name>tembra::EditorHeader</name>
     <message>
         <source>Show in Finder</source>
-        <translation>In Dateien anzeigen</translation>
+        <translation>Im Dateimanager anzeigen</translation>
     </message>
 </context>
 </TS>

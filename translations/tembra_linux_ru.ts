@@ -35,7 +35,7 @@
     <name>ScreenshotMenu</name>
     <message>
         <source>Show in Finder</source>
-        <translation>Показать в файлах</translation>
+        <translation>Показать в папке</translation>
     </message>
     <message>
         <source>Open Folder in Finder</source>
@@ -46,7 +46,7 @@
     <name>FileOpening</name>
     <message>
         <source>Couldn’t Show in Finder</source>
-        <translation>Не удалось показать в файлах</translation>
+        <translation>Не удалось показать в папке</translation>
     </message>
 </context>
 <context>
@@ -64,14 +64,14 @@
     </message>
     <message>
         <source>Show in Finder</source>
-        <translation>Показать в файлах</translation>
+        <translation>Показать в папке</translation>
     </message>
 </context>
 <context>
     <name>tembra::EditorHeader</name>
     <message>
         <source>Show in Finder</source>
-        <translation>Показать в файлах</translation>
+        <translation>Показать в папке</translation>
     </message>
 </context>
 </TS>

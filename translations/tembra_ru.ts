@@ -5,15 +5,15 @@
     <name>AccessibleFile</name>
     <message>
         <source>Pinned</source>
-        <translation>Закреплено</translation>
+        <translation>Закреплён</translation>
     </message>
     <message>
         <source>Edited</source>
-        <translation>Изменено</translation>
+        <translation>Изменён</translation>
     </message>
     <message>
         <source>Original unavailable</source>
-        <translation>Оригинал недоступен</translation>
+        <translation>Исходный файл недоступен</translation>
     </message>
     <message>
         <source>Folder</source>
@@ -162,7 +162,7 @@
     </message>
     <message>
         <source>“%1”, which is to be run for new screenshots, could not be started.</source>
-        <translation>Не удалось запустить «%1», которую нужно выполнять для новых снимков.</translation>
+        <translation>Не удалось запустить команду «%1», заданную для новых снимков.</translation>
     </message>
 </context>
 <context>
@@ -393,11 +393,11 @@
     </message>
     <message>
         <source>Through the desktop’s data control, also in the background.</source>
-        <translation>Через управление данными рабочей среды, в том числе в фоне.</translation>
+        <translation>Через протокол data-control рабочей среды, в том числе в фоне.</translation>
     </message>
     <message>
         <source>This desktop lets only the program with the keyboard use the clipboard. New screenshots may not be copied by themselves.</source>
-        <translation>Эта рабочая среда допускает к буферу обмена только программу с клавиатурой. Новые снимки могут не копироваться сами.</translation>
+        <translation>Эта рабочая среда допускает к буферу обмена только программу, в которую сейчас идёт ввод с клавиатуры. Новые снимки могут не копироваться сами.</translation>
     </message>
     <message>
         <source>Select the screenshot in the shelf and press Ctrl+C.</source>
@@ -414,10 +414,6 @@
     <message>
         <source>This desktop lets programs have no keys of their own.</source>
         <translation>Эта рабочая среда не даёт программам своих клавиш.</translation>
-    </message>
-    <message>
-        <source>Tembra is among the desktop’s status items.</source>
-        <translation>Значок Tembra есть на панели рабочей среды.</translation>
     </message>
     <message>
         <source>This desktop shows no status items.</source>
@@ -442,6 +438,18 @@
     <message>
         <source>Install the language’s data: sudo apt install tesseract-ocr-%1</source>
         <translation>Установите данные языка: sudo apt install tesseract-ocr-%1</translation>
+    </message>
+    <message>
+        <source>Wayland, through its X server, although this desktop could do without.</source>
+        <translation>Wayland через его X-сервер, хотя эта рабочая среда обходится без него.</translation>
+    </message>
+    <message>
+        <source>Install Qt’s Wayland platform (sudo apt install qt6-wayland) and start Tembra without QT_QPA_PLATFORM.</source>
+        <translation>Установите платформу Wayland для Qt (sudo apt install qt6-wayland) и запускайте Tembra без QT_QPA_PLATFORM.</translation>
+    </message>
+    <message>
+        <source>This desktop shows status items.</source>
+        <translation>Эта рабочая среда показывает значки программ.</translation>
     </message>
 </context>
 <context>
@@ -479,7 +487,7 @@
     </message>
     <message>
         <source>The folder is on another machine, which does not tell what changes there: new captures are looked for now and then.</source>
-        <translation>Папка находится на другом компьютере, который не сообщает об изменениях: новые файлы ищутся время от времени.</translation>
+        <translation>Папка находится на другом компьютере, который не сообщает об изменениях: новые снимки ищутся время от времени.</translation>
     </message>
     <message>
         <source>A new file in the folder was noticed.</source>
@@ -523,7 +531,7 @@
     </message>
     <message>
         <source>Command for new captures</source>
-        <translation>Команда для новых файлов</translation>
+        <translation>Команда для новых снимков</translation>
     </message>
     <message>
         <source>Trash for “%1”</source>
@@ -551,7 +559,7 @@
     </message>
     <message>
         <source>“%1” may be read but not changed: captures cannot be renamed or removed.</source>
-        <translation>«%1» можно читать, но не изменять: файлы нельзя переименовать или убрать.</translation>
+        <translation>«%1» можно читать, но не изменять: снимки нельзя переименовать или убрать.</translation>
     </message>
     <message>
         <source>Choose the folder once more in the settings: the tool is then told of it.</source>
@@ -567,7 +575,7 @@
     </message>
     <message>
         <source>%1 saves into “%2”, but captures are looked for in “%3”.</source>
-        <translation>%1 сохраняет в «%2», а новые файлы ищутся в «%3».</translation>
+        <translation>%1 сохраняет в «%2», а новые снимки ищутся в «%3».</translation>
     </message>
     <message>
         <source>%1 saves into “%2”.</source>
@@ -587,7 +595,7 @@
     </message>
     <message>
         <source>No command is run for new captures.</source>
-        <translation>Для новых файлов команда не запускается.</translation>
+        <translation>Для новых снимков команда не запускается.</translation>
     </message>
     <message>
         <source>There is no program “%1”.</source>
@@ -599,7 +607,7 @@
     </message>
     <message>
         <source>“%1” is run for new captures.</source>
-        <translation>Для новых файлов запускается «%1».</translation>
+        <translation>Для новых снимков запускается «%1».</translation>
     </message>
     <message>
         <source>Nothing may be written there.</source>
@@ -611,7 +619,19 @@
     </message>
     <message>
         <source>Remove files there with the file manager.</source>
-        <translation>Удаляйте файлы оттуда в диспетчере файлов.</translation>
+        <translation>Удаляйте файлы оттуда в файловом менеджере.</translation>
+    </message>
+    <message>
+        <source>Where this desktop’s screenshot tool saves is not known.</source>
+        <translation>Неизвестно, куда сохраняет программа для снимков этой рабочей среды.</translation>
+    </message>
+    <message>
+        <source>Let it save into “%1”.</source>
+        <translation>Пусть она сохраняет в «%1».</translation>
+    </message>
+    <message>
+        <source>It was not tried, because Tembra does not run.</source>
+        <translation>Не проверялась: Tembra не запущена.</translation>
     </message>
 </context>
 <context>
@@ -2140,7 +2160,7 @@ Screenshots: %4
     </message>
     <message>
         <source>Check Again</source>
-        <translation>Проверить</translation>
+        <translation>Проверить снова</translation>
     </message>
     <message>
         <source>What works on this desktop</source>
@@ -2165,9 +2185,9 @@ Screenshots: %4
     <message numerus="yes">
         <source>Everything works, %n things in part.</source>
         <translation>
-            <numerusform>Всё работает, %n частично.</numerusform>
-            <numerusform>Всё работает, %n частично.</numerusform>
-            <numerusform>Всё работает, %n частично.</numerusform>
+            <numerusform>Всё работает; частично: %n.</numerusform>
+            <numerusform>Всё работает; частично: %n.</numerusform>
+            <numerusform>Всё работает; частично: %n.</numerusform>
         </translation>
     </message>
     <message>
@@ -2753,7 +2773,7 @@ Screenshots: %4
     </message>
     <message>
         <source>Open With</source>
-        <translation>Открыть в…</translation>
+        <translation>Открыть с помощью</translation>
     </message>
     <message>
         <source>Open</source>
@@ -3017,7 +3037,7 @@ Screenshots: %4
     </message>
     <message>
         <source>A program with its arguments. {} stands for the file, which else comes last.</source>
-        <translation>Программа с аргументами. {} — место файла; иначе он идёт последним.</translation>
+        <translation>Программа с аргументами. Вместо {} подставляется файл; без {} он добавляется в конец.</translation>
     </message>
 </context>
 <context>
@@ -3074,7 +3094,7 @@ Screenshots: %4
     </message>
     <message>
         <source>Undone: %1</source>
-        <translation>Отменено: %1</translation>
+        <translation>Вы отменили %1</translation>
     </message>
 </context>
 <context>
@@ -3105,7 +3125,7 @@ Screenshots: %4
     </message>
     <message>
         <source>%1. Undo takes it back.</source>
-        <translation>%1. Это можно отменить.</translation>
+        <translation>Можно отменить %1.</translation>
     </message>
 </context>
 <context>

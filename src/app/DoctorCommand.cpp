@@ -25,25 +25,28 @@ std::optional<QString> storedFolder(const Platform &platform) {
 }
 
 // Only the running program knows whether its shortcut was granted.
-std::optional<QString> shortcutErrorOfRunning() {
+void askForShortcut(DoctorSubject &subject) {
     const auto status =
         makeSingleInstance()->send(QStringLiteral("status"), {QStringLiteral("--json")}, false);
+    subject.isShortcutTried = status.has_value();
     if (!status)
-        return std::nullopt;
+        return;
     const QJsonObject shortcut =
         QJsonDocument::fromJson(status->toUtf8()).object().value(QStringLiteral("shortcut")).toObject();
     const QString error = shortcut.value(QStringLiteral("error")).toString();
-    return error.isEmpty() ? std::nullopt : std::optional(error);
+    if (!error.isEmpty())
+        subject.shortcutError = error;
 }
 
 DoctorSubject storedSubject(const Platform &platform) {
     const AppSettingsState settings = loadSettings(*platform.defaults);
-    return {.folder = storedFolder(platform),
-            .isShortcutOn = settings.shortcutEnabled,
-            .shortcutTitle = platformTitle(settings.activationShortcut),
-            .shortcutError = shortcutErrorOfRunning(),
-            .languages = settings.textRecognitionLanguages,
-            .newCaptureCommand = settings.newCaptureCommand};
+    DoctorSubject subject{.folder = storedFolder(platform),
+                          .isShortcutOn = settings.shortcutEnabled,
+                          .shortcutTitle = platformTitle(settings.activationShortcut),
+                          .languages = settings.textRecognitionLanguages,
+                          .newCaptureCommand = settings.newCaptureCommand};
+    askForShortcut(subject);
+    return subject;
 }
 
 } // namespace

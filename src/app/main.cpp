@@ -102,10 +102,17 @@ int runPictureCommand(const CommandLine &line, int argc, char **argv) {
                                                       : renderImage(line.path, line.edits, line.output));
 }
 
+// In the user's language, for which there has to be an application.
+int tellOfNoDisplay(int argc, char **argv) {
+    const QCoreApplication application(argc, argv);
+    const Catalogues catalogues(QLocale::system().uiLanguages());
+    return finish(preparePlatformEnvironment().map([] { return QString(); }));
+}
+
 // On the display of the desktop, as the program itself.
 int runDoctor(const CommandLine &line, int argc, char **argv) {
-    if (const auto display = preparePlatformEnvironment(); !display)
-        return finish(failure(display.error()));
+    if (!preparePlatformEnvironment())
+        return tellOfNoDisplay(argc, argv);
     const QApplication application(argc, argv);
     restorePlatformEnvironment();
     const Catalogues catalogues(QLocale::system().uiLanguages());
@@ -139,8 +146,8 @@ int runCommand(const CommandLine &line, int argc, char **argv) {
 
 // The program itself, until it quits.
 int runShelf(const CommandLine &line, int argc, char **argv) {
-    if (const auto display = preparePlatformEnvironment(); !display)
-        return finish(failure(display.error()));
+    if (!preparePlatformEnvironment())
+        return tellOfNoDisplay(argc, argv);
     // By it desktops find the name and the icon of the windows.
     QGuiApplication::setDesktopFileName(QStringLiteral("app.tembra.Tembra"));
     const QApplication application(argc, argv);

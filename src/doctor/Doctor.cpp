@@ -6,7 +6,6 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFileInfo>
 
 namespace tembra {
 
@@ -53,6 +52,8 @@ Doctor::Doctor(Services services)
 
 void Doctor::examine(const DoctorSubject &subject, std::function<void(Checks)> told) {
     m_examinations.advance();
+    m_folderProbe.cancel();
+    m_panelProbe.cancel();
     m_subject = subject;
     m_told = std::move(told);
     m_desktop = m_services.desktop();
@@ -64,28 +65,29 @@ void Doctor::examine(const DoctorSubject &subject, std::function<void(Checks)> t
 }
 
 std::function<Doctor::Background()> Doctor::backgroundWork() const {
-    return [services = &m_services, subject = m_subject, missing = m_desktop.missingLanguages,
-            volumes = m_services.userVolumes()] {
+    // The work may outlive the doctor, but nothing of the platform.
+    return [subject = m_subject, missing = m_desktop.missingLanguages, mounted = m_services.userVolumes(),
+            makePreferences = m_services.preferences, own = m_services.folders,
+            &recognizer = m_services.recognizer, &trash = m_services.trash, &volumes = m_services.volumes] {
         Background found;
-        const auto preferences = services->preferences();
+        found.folder = folderFinding(subject);
+        const auto preferences = makePreferences();
         found.tool =
-            toolFinding(preferences->toolName(), ScreenshotDestination::read(*preferences, services->folders),
-                        subject.folder);
-        TextRecognizer &recognizer = services->recognizer;
+            toolFinding(*preferences, ScreenshotDestination::read(*preferences, own), subject.folder);
         const QStringList wanted =
             subject.languages.isEmpty() ? recognizer.usualLanguages() : subject.languages;
         found.languages = languagesFinding(recognizer.installedLanguages(), wanted, missing);
         QStringList folders = subject.folder ? QStringList{*subject.folder} : QStringList();
-        folders += services->folders.home;
-        folders += volumes;
-        for (const QString &folder : onePerVolume(folders, services->volumes))
-            found.trash.emplace_back(folder, trashFinding(services->trash, folder));
+        folders += own.home;
+        folders += mounted;
+        for (const QString &folder : onePerVolume(folders, volumes))
+            found.trash.emplace_back(folder, trashFinding(trash, folder, own.trash));
         return found;
     };
 }
 
 void Doctor::probeFolder() {
-    if (!m_subject.folder || !QFileInfo(*m_subject.folder).isWritable())
+    if (!m_subject.folder || m_background.folder.state != State::ok)
         return probePanel(
             {State::limited, translated(QT_TRANSLATE_NOOP("Doctor", "No folder was tried.")), {}});
     m_folderProbe.start(*m_subject.folder,
@@ -114,7 +116,7 @@ void Doctor::tell(const Finding &events, const Finding &panel) {
         return DoctorCheck{QString::fromLatin1(id), translated(title), finding};
     };
     Checks checks{
-        check("folder", QT_TRANSLATE_NOOP("Doctor", "Screenshots folder"), folderFinding(m_subject)),
+        check("folder", QT_TRANSLATE_NOOP("Doctor", "Screenshots folder"), m_background.folder),
         check("events", QT_TRANSLATE_NOOP("Doctor", "Changes in the folder"), events),
         check("tool", QT_TRANSLATE_NOOP("Doctor", "Screenshot tool"), m_background.tool),
         check("windows", QT_TRANSLATE_NOOP("Doctor", "Windows"), m_desktop.windows),

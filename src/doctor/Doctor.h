@@ -47,6 +47,7 @@ public:
 
 private:
     struct Background {
+        Finding folder;
         Finding tool;
         Finding languages;
         // By the folder that was tried, each on another volume.

@@ -29,6 +29,15 @@ QString chooseFolder() {
         QT_TRANSLATE_NOOP("Doctor", "Choose a folder in the settings: tembra settings screenshots"));
 }
 
+// Of a Trash that the trial made, nothing is to be left.
+void removeEmptyTrash(const QString &trashedFile, const QStringList &lasting) {
+    const QString trash = QDir::cleanPath(QFileInfo(trashedFile).path() + QStringLiteral("/.."));
+    if (lasting.contains(trash))
+        return;
+    for (const char *part : {"/files", "/info", ""})
+        QDir().rmdir(trash + QString::fromLatin1(part));
+}
+
 } // namespace
 
 Finding folderFinding(const DoctorSubject &subject) {
@@ -54,8 +63,9 @@ Finding folderFinding(const DoctorSubject &subject) {
     return {State::ok, name, {}};
 }
 
-Finding toolFinding(const QString &tool, const ScreenshotDestination &destination,
+Finding toolFinding(const ScreenCapturePreferences &preferences, const ScreenshotDestination &destination,
                     const std::optional<QString> &folder) {
+    const QString tool = preferences.toolName();
     const QString change = translated(QT_TRANSLATE_NOOP(
         "Doctor", "Choose the folder once more in the settings: the tool is then told of it."));
     switch (destination.kind) {
@@ -72,7 +82,13 @@ Finding toolFinding(const QString &tool, const ScreenshotDestination &destinatio
         break;
     }
     const QString name = shortPath(destination.folder);
-    if (folder && *folder != destination.folder)
+    if (!preferences.isToolKnown())
+        return {State::limited,
+                translated(
+                    QT_TRANSLATE_NOOP("Doctor", "Where this desktop’s screenshot tool saves is not known.")),
+                translated(QT_TRANSLATE_NOOP("Doctor", "Let it save into “%1”."))
+                    .arg(folder ? shortPath(*folder) : name)};
+    if (folder && !isSameFolder(*folder, destination.folder))
         return {State::limited,
                 translated(
                     QT_TRANSLATE_NOOP("Doctor", "%1 saves into “%2”, but captures are looked for in “%3”."))
@@ -91,6 +107,11 @@ Finding shortcutFinding(const DoctorSubject &subject, const Finding &desktop) {
                 desktop.remedy.isEmpty()
                     ? translated(QT_TRANSLATE_NOOP("Doctor", "Choose another one: tembra settings shortcut"))
                     : desktop.remedy};
+    if (!subject.isShortcutTried)
+        return {State::limited,
+                subject.shortcutTitle + QStringLiteral(". ") +
+                    translated(QT_TRANSLATE_NOOP("Doctor", "It was not tried, because Tembra does not run.")),
+                {}};
     return {desktop.state, subject.shortcutTitle + QStringLiteral(". ") + desktop.text, desktop.remedy};
 }
 
@@ -108,8 +129,11 @@ Finding languagesFinding(const Result<std::vector<TextRecognizer::Language>> &in
         return {State::ok,
                 translated(QT_TRANSLATE_NOOP("Doctor", "Text is read in: %1.")).arg(names.join(u", ")),
                 {}};
+    if (names.isEmpty())
+        missing.state = State::broken;
     missing.text = missing.text.arg(names.join(u", "), absent.join(u", "));
-    missing.remedy = missing.remedy.arg(absent.constFirst());
+    // Packages have no underscores in their names.
+    missing.remedy = missing.remedy.arg(QString(absent.constFirst()).replace(u'_', u'-'));
     return missing;
 }
 
@@ -128,7 +152,7 @@ Finding commandFinding(const QStringList &command) {
             {}};
 }
 
-Finding trashFinding(Trash &trash, const QString &folder) {
+Finding trashFinding(Trash &trash, const QString &folder, const QStringList &lasting) {
     const auto file = makeProbeFile(folder);
     if (!file)
         return {State::limited, translated(QT_TRANSLATE_NOOP("Doctor", "Nothing may be written there.")), {}};
@@ -136,6 +160,8 @@ Finding trashFinding(Trash &trash, const QString &folder) {
     const auto restored =
         trashed ? trash.restore(*trashed, *file, {}) : Result<void>(failure(trashed.error()));
     QFile::remove(*file);
+    if (trashed)
+        removeEmptyTrash(*trashed, lasting);
     if (restored)
         return {State::ok, translated(QT_TRANSLATE_NOOP("Doctor", "Files move to the Trash and back.")), {}};
     return {State::broken, restored.error().message,

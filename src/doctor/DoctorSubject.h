@@ -13,6 +13,8 @@ struct DoctorSubject {
     std::optional<QString> folder;
     bool isShortcutOn = false;
     QString shortcutTitle;
+    // The program runs that would take it.
+    bool isShortcutTried = true;
     // Why it does not work.
     std::optional<QString> shortcutError;
     // By their codes; none means the usual ones.

@@ -13,7 +13,7 @@ constexpr std::chrono::seconds patience{3};
 } // namespace
 
 void FolderProbe::start(const QString &folder, std::function<void(bool)> told) {
-    end();
+    cancel();
     m_told = std::move(told);
     auto watch = m_events.watchDirectory(folder, [this](std::uint32_t events) {
         if (events & FolderEvents::write)
@@ -28,11 +28,11 @@ void FolderProbe::start(const QString &folder, std::function<void(bool)> told) {
 
 void FolderProbe::tell(bool wasNoticed) {
     const auto told = std::exchange(m_told, {});
-    end();
+    cancel();
     told(wasNoticed);
 }
 
-void FolderProbe::end() {
+void FolderProbe::cancel() {
     m_watch.reset();
     m_answer.cancel();
     if (!m_file.isEmpty())

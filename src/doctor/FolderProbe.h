@@ -15,15 +15,17 @@ namespace tembra {
 class FolderProbe {
 public:
     FolderProbe(FolderEvents &events, Scheduler &scheduler) : m_events(events), m_scheduler(scheduler) {}
-    ~FolderProbe() { end(); }
+    ~FolderProbe() { cancel(); }
     FolderProbe(const FolderProbe &) = delete;
     FolderProbe &operator=(const FolderProbe &) = delete;
 
     // Tells whether it was noticed within three seconds, at the latest then. One at a time.
     void start(const QString &folder, std::function<void(bool wasNoticed)> told);
 
+    // Nobody is told any more.
+    void cancel();
+
 private:
-    void end();
     void tell(bool wasNoticed);
 
     FolderEvents &m_events;

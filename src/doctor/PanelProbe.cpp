@@ -1,7 +1,6 @@
 #include "doctor/PanelProbe.h"
 
 #include <QWidget>
-#include <QWindow>
 
 namespace tembra {
 
@@ -17,6 +16,11 @@ PanelProbe::PanelProbe(PanelWindows &panels, const Displays &displays, Scheduler
 
 PanelProbe::~PanelProbe() = default;
 
+void PanelProbe::cancel() {
+    m_answer.cancel();
+    m_panel.reset();
+}
+
 void PanelProbe::start(std::function<void(bool)> told) {
     const std::vector<DisplayFacts> displays = m_displays.connected();
     if (displays.empty()) {
@@ -31,8 +35,7 @@ void PanelProbe::start(std::function<void(bool)> told) {
     m_panels.setInputRegion(*m_panel, QRegion());
     m_panel->show();
     m_answer = m_scheduler.schedule(timeToAppear, [this, place, told = std::move(told)] {
-        const QWindow *window = m_panel->windowHandle();
-        const bool isInPlace = window && window->isExposed() && m_panel->geometry().topLeft() == place;
+        const bool isInPlace = m_panels.isShown(*m_panel) && m_panel->geometry().topLeft() == place;
         m_panel.reset();
         told(isInPlace);
     });

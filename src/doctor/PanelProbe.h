@@ -23,6 +23,9 @@ public:
     // Tells whether it stands where it was put. One at a time.
     void start(std::function<void(bool isInPlace)> told);
 
+    // Nobody is told any more.
+    void cancel();
+
 private:
     PanelWindows &m_panels;
     const Displays &m_displays;

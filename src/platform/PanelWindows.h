@@ -16,6 +16,8 @@ public:
     virtual ~PanelWindows() = default;
     // Before the widget is shown for the first time; afterwards its window exists, unmapped.
     virtual void prepare(QWidget &panel) = 0;
+    // Whether the desktop really shows it, somewhere.
+    [[nodiscard]] virtual bool isShown(const QWidget &panel) const = 0;
     // The part of the panel, in its own points, that takes the pointer; elsewhere clicks reach what lies
     // below it.
     virtual void setInputRegion(QWidget &panel, const QRegion &region) = 0;

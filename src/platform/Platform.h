@@ -30,6 +30,8 @@
 #include "platform/Volumes.h"
 #include "platform/Workspace.h"
 
+#include <QProcessEnvironment>
+
 #include <functional>
 #include <memory>
 
@@ -87,6 +89,8 @@ struct Platform {
 [[nodiscard]] Result<void> preparePlatformEnvironment();
 // When it has been made: programs that are started get the environment of before.
 void restorePlatformEnvironment();
+// For programs that are started, without what only this one needs.
+[[nodiscard]] QProcessEnvironment environmentForPrograms();
 // Whether the system's packages installed the program, and so update it. Needs an application object.
 [[nodiscard]] bool isPackageManaged();
 // The name of the translation catalogue that rewords, in that language ("en"), texts which name things of

@@ -38,6 +38,8 @@ public:
     // Brings what was written to the tool's storage, and what others wrote there to us.
     virtual void synchronize() = 0;
 
+    // Whether it is known which tool takes the screenshots, and where it keeps its settings.
+    [[nodiscard]] virtual bool isToolKnown() const { return true; }
     // The tool's name as its users know it, for messages and the log.
     [[nodiscard]] virtual QString toolName() const = 0;
 };

@@ -21,21 +21,30 @@ AccessibleFiles *AccessibleFiles::of(FileCollectionView &view) {
 }
 
 void AccessibleFiles::filesChanged() {
+    QSet<FileTileID> shown;
+    for (int index = 0; index < fileCount(); ++index)
+        shown.insert(m_view.state().at(index).id);
+    const QSet<FileTileID> before = std::exchange(m_told, shown);
     // Nobody has asked for any of them.
     if (m_files.isEmpty())
         return;
-    QSet<FileTileID> shown;
-    for (int index = 0; index < fileCount(); ++index) {
-        const FileTileID &id = m_view.state().at(index).id;
-        shown.insert(id);
-        if (m_files.contains(id))
-            continue;
-        QAccessibleEvent created(file(id), QAccessible::ObjectCreated);
-        QAccessible::updateAccessibility(&created);
+    const QSet<FileTileID> added = shown - before;
+    constexpr int mostAtOnce = 20;
+    if (added.size() > mostAtOnce) {
+        QAccessibleEvent reordered(&m_view, QAccessible::ObjectReorder);
+        QAccessible::updateAccessibility(&reordered);
+    } else {
+        for (const FileTileID &id : added) {
+            QAccessibleEvent created(file(id), QAccessible::ObjectCreated);
+            QAccessible::updateAccessibility(&created);
+        }
     }
     m_files.removeIf([&shown](const auto &known) {
         if (shown.contains(known.key()))
             return false;
+        QAccessibleEvent destroyed(QAccessible::accessibleInterface(known.value()),
+                                   QAccessible::ObjectDestroyed);
+        QAccessible::updateAccessibility(&destroyed);
         QAccessible::deleteAccessibleInterface(known.value());
         return true;
     });

@@ -35,6 +35,8 @@ private:
 
     FileCollectionView &m_view;
     mutable QHash<FileTileID, QAccessible::Id> m_files;
+    // That were there when it was last told of changes.
+    QSet<FileTileID> m_told;
 };
 
 } // namespace tembra

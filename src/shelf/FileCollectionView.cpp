@@ -272,7 +272,8 @@ void FileCollectionView::leaveEvent(QEvent *) {
 
 void FileCollectionView::contextMenuEvent(QContextMenuEvent *event) {
     const bool byKeyboard = event->reason() == QContextMenuEvent::Keyboard;
-    const auto index = byKeyboard ? currentIndex() : m_layout.itemAt(event->pos());
+    const auto chosen = m_selection.isEmpty() ? std::nullopt : currentIndex();
+    const auto index = byKeyboard ? chosen : m_layout.itemAt(event->pos());
     event->accept();
     if (!index) {
         Q_EMIT backgroundMenuRequested(event->globalPos());
@@ -390,7 +391,9 @@ void FileCollectionView::keyPressEvent(QKeyEvent *event) {
 
 void FileCollectionView::focusInEvent(QFocusEvent *) {
     updateAppearance();
-    tellCurrent();
+    // The list itself is told of first.
+    QMetaObject::invokeMethod(
+        this, [this] { tellCurrent(); }, Qt::QueuedConnection);
 }
 
 void FileCollectionView::focusOutEvent(QFocusEvent *) {

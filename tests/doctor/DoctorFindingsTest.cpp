@@ -1,5 +1,7 @@
 #include "doctor/DoctorFindings.h"
 
+#include "support/FakeScreenCapturePreferences.h"
+
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -18,10 +20,11 @@ TEST(DoctorFindings, theToolHasToSaveWhereCapturesAreLookedFor) {
                           Case{ScreenshotDestination::toFolder(u"/other"_s), u"/shots"_s, State::limited},
                           Case{ScreenshotDestination::toClipboard(), u"/shots"_s, State::limited},
                           Case{ScreenshotDestination::toOther(u"mail"_s), u"/shots"_s, State::limited}}) {
-        const Finding found = toolFinding(u"Spectacle"_s, c.destination, c.folder);
+        const FakeScreenCapturePreferences tool;
+        const Finding found = toolFinding(tool, c.destination, c.folder);
         EXPECT_EQ(found.state, c.state) << found.text.toStdString();
         EXPECT_EQ(found.remedy.isEmpty(), c.state == State::ok);
-        EXPECT_TRUE(found.text.startsWith(u"Spectacle"_s));
+        EXPECT_TRUE(found.text.startsWith(tool.toolName()));
     }
 }
 
@@ -35,6 +38,9 @@ TEST(DoctorFindings, aRefusedShortcutIsBrokenWhateverTheDesktopOffers) {
     EXPECT_EQ(refused.text, u"It is taken."_s);
     EXPECT_FALSE(refused.remedy.isEmpty());
     subject.shortcutError.reset();
+    subject.isShortcutTried = false;
+    EXPECT_EQ(shortcutFinding(subject, desktop).state, State::limited) << "nobody has tried it";
+    subject.isShortcutTried = true;
     EXPECT_EQ(shortcutFinding(subject, desktop).text, u"Super+W. Keys are to be had."_s);
 }
 
@@ -45,6 +51,9 @@ TEST(DoctorFindings, languagesThatAreMissingAreNamedWithTheirRemedy) {
     EXPECT_EQ(languagesFinding(installed, {u"eng"_s}, missing).state, State::ok);
     EXPECT_EQ(languagesFinding(installed, {u"deu"_s, u"eng"_s, u"rus"_s}, missing),
               (Finding{State::limited, u"English, not deu, rus"_s, u"install deu"_s}));
+    EXPECT_EQ(languagesFinding(installed, {u"chi_sim"_s}, missing),
+              (Finding{State::broken, u", not chi_sim"_s, u"install chi-sim"_s}))
+        << "nothing is read, and the package is named as it is";
     const Error none{TextRecognizer::errorDomain, TextRecognizer::noLanguage, u"None is installed."_s, {}};
     EXPECT_EQ(languagesFinding(tl::unexpected(none), {u"eng"_s}, missing).state, State::broken);
 }

@@ -115,5 +115,17 @@ TEST_F(DoctorTest, onlyTheLastOneWhoAsksIsTold) {
     scheduler.advance(1s);
     EXPECT_TRUE(told);
     EXPECT_FALSE(wasFirstTold);
+
+    // Also while a file is waited for.
+    examine();
+    doctor.examine({.folder = folder.path()}, [&](const Doctor::Checks &) { wasFirstTold = true; });
+    scheduler.advance(10s);
+    EXPECT_FALSE(told);
+    EXPECT_FALSE(wasFirstTold);
+    queue.runAll();
+    scheduler.advance(10s);
+    scheduler.advance(1s);
+    EXPECT_FALSE(told);
+    EXPECT_TRUE(wasFirstTold);
     EXPECT_TRUE(leftovers().isEmpty());
 }

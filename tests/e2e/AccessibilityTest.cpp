@@ -116,6 +116,8 @@ TEST_F(Accessibility, filesAreKeptInTheTrayAndTakenOut) {
 
 TEST_F(Accessibility, aCaptureAndTheTextInItAreRead) {
     tembra.start();
+    ASSERT_TRUE(tembra.waitFor(
+        [](const QJsonObject &status) { return status[u"folder"][u"state"].toString() == u"ready"; }));
     ASSERT_EQ(tembra
                   .tool(text("convert"),
                         {text("-size"), text("900x200"), text("xc:white"), text("-pointsize"), text("40"),

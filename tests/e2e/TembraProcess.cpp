@@ -25,6 +25,8 @@ TembraProcess::TembraProcess() : m_environment(QProcessEnvironment::systemEnviro
     m_environment.insert(QStringLiteral("XDG_CACHE_HOME"), home() + QStringLiteral("/.cache"));
     m_environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
     m_environment.insert(QStringLiteral("QT_LINUX_ACCESSIBILITY_ALWAYS_ON"), QStringLiteral("1"));
+    m_environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+    m_environment.remove(QStringLiteral("LANGUAGE"));
     m_environment.remove(QStringLiteral("XDG_CURRENT_DESKTOP"));
     QDir().mkpath(screenshots());
     setSettings({});

@@ -47,7 +47,6 @@ TEST_F(FileItemCellTest, showsAnIconAtOnceAndThePictureWhenItIsMade) {
     EXPECT_NE(icon, empty);
     EXPECT_TRUE(cell.image().isNull());
     EXPECT_EQ(cell.toolTip(), u"one.png"_s);
-    EXPECT_EQ(cell.toolTip(), u"one.png"_s);
     ASSERT_TRUE(thumbnails.answer(one, Qt::green));
     EXPECT_TRUE(cell.isShowingThumbnail());
     EXPECT_EQ(colorOf(cell), QColor(Qt::green));

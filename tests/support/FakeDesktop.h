@@ -35,6 +35,7 @@ private:
 class FakePanelWindows final : public PanelWindows {
 public:
     void prepare(QWidget &panel) override { panel.winId(); }
+    [[nodiscard]] bool isShown(const QWidget &panel) const override { return panel.isVisible(); }
     void setInputRegion(QWidget &, const QRegion &) override {}
     void takeKeyboardFocus(QWidget &) override {}
     void returnKeyboardFocus(QWidget &) override {}

@@ -7,6 +7,7 @@ int main(int argc, char **argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("LC_ALL", "C.UTF-8");
+    qunsetenv("LANGUAGE");
     qputenv("TZ", "UTC");
     const QApplication application(argc, argv);
     return RUN_ALL_TESTS();

@@ -26,6 +26,8 @@ EditorNotice::EditorNotice(QWidget *parent) : QWidget(parent), m_indicator(new L
 }
 
 void EditorNotice::setNotice(const QString &text, bool isBusy) {
+    if (text == m_text && isBusy == !m_indicator->isHidden())
+        return;
     m_text = text;
     setAccessibleName(text);
     if (isVisible())

@@ -91,8 +91,14 @@ void EditorSidebar::currentChanged(const QModelIndex &current, const QModelIndex
 // Assistive programs select.
 void EditorSidebar::selectionChanged(const QItemSelection &selected, const QItemSelection &deselected) {
     QListView::selectionChanged(selected, deselected);
-    if (!m_isShowingCurrent && !selected.isEmpty())
-        setCurrentIndex(selected.indexes().constFirst());
+    if (m_isShowingCurrent || selected.isEmpty())
+        return;
+    // By anybody else it becomes current by itself, a moment later.
+    const auto follow = [this, index = QPersistentModelIndex(selected.indexes().constFirst())] {
+        if (index.isValid() && index != currentIndex())
+            setCurrentIndex(index);
+    };
+    QMetaObject::invokeMethod(this, follow, Qt::QueuedConnection);
 }
 
 void EditorSidebar::requestPictures() {

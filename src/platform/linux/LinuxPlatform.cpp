@@ -32,6 +32,8 @@ namespace tembra {
 namespace {
 
 constexpr const char *platformVariable = "QT_QPA_PLATFORM";
+constexpr const char *placingVariables[]{"QT_WAYLAND_USE_BYPASSWINDOWMANAGERHINT",
+                                         "QT_WAYLAND_DISABLE_FIXED_POSITIONS"};
 // By us and not by the user.
 bool isPlatformChosen = false;
 
@@ -107,10 +109,10 @@ Result<void> preparePlatformEnvironment() {
         qputenv(platformVariable, choice.platform);
         isPlatformChosen = true;
     }
-    if (choice.placesWindows) {
-        // Qt leaves to us the windows that we place ourselves, and they stay where we put them.
-        qputenv("QT_WAYLAND_USE_BYPASSWINDOWMANAGERHINT", "1");
-        qputenv("QT_WAYLAND_DISABLE_FIXED_POSITIONS", "1");
+    // Qt leaves to us the windows that we place ourselves, and they stay where we put them.
+    for (const char *variable : placingVariables) {
+        if (choice.placesWindows)
+            qputenv(variable, "1");
     }
     if (!choice.note.isEmpty())
         qInfo("%s", choice.note.constData());
@@ -120,6 +122,14 @@ Result<void> preparePlatformEnvironment() {
 void restorePlatformEnvironment() {
     if (std::exchange(isPlatformChosen, false))
         qunsetenv(platformVariable);
+}
+
+// Qt asks for these whenever it makes a window, so they stay in our own.
+QProcessEnvironment environmentForPrograms() {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char *variable : placingVariables)
+        environment.remove(QString::fromLatin1(variable));
+    return environment;
 }
 
 // Packages lay a marker beside the program.

@@ -24,7 +24,8 @@ TembraButton *rowButton(const QString &title) {
 QString commandText(const QStringList &command) {
     QStringList words;
     for (QString word : command) {
-        const bool needsQuotes = word.isEmpty() || word.contains(u' ') || word.contains(u'"');
+        const bool hasSpace = std::any_of(word.cbegin(), word.cend(), [](QChar c) { return c.isSpace(); });
+        const bool needsQuotes = word.isEmpty() || hasSpace || word.contains(u'"');
         word.replace(u'"', QStringLiteral("\"\"\""));
         words += needsQuotes ? u'"' + word + u'"' : word;
     }
@@ -92,8 +93,11 @@ void ScreenshotsSettingsPage::addCommand() {
     command->setPlaceholderText(tr("None"));
     addRow(tr("Run a command"), command,
            tr("A program with its arguments. {} stands for the file, which else comes last."));
-    connect(command, &QLineEdit::editingFinished, this,
-            [this, command] { settings().setNewCaptureCommand(QProcess::splitCommand(command->text())); });
+    connect(command, &QLineEdit::editingFinished, this, [this, command] {
+        if (command->isModified())
+            settings().setNewCaptureCommand(QProcess::splitCommand(command->text()));
+        command->setModified(false);
+    });
     onRefresh([this, command] {
         // What is being typed is not written over.
         if (!command->hasFocus() || !command->isModified())

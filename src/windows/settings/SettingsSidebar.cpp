@@ -20,11 +20,12 @@ SettingsSidebar::SettingsSidebar(QWidget *parent) : QListWidget(parent) {
         addItem(title(page));
     setCurrentRow(0);
     connect(this, &QListWidget::currentRowChanged, this, [this] { Q_EMIT chosen(currentPage()); });
-    // Assistive programs select.
-    connect(this, &QListWidget::itemSelectionChanged, this, [this] {
-        if (!selectedItems().isEmpty())
+    // Assistive programs select; else what is selected becomes current by itself, a moment later.
+    const auto follow = [this] {
+        if (!selectedItems().isEmpty() && selectedItems().constFirst() != currentItem())
             setCurrentItem(selectedItems().constFirst());
-    });
+    };
+    connect(this, &QListWidget::itemSelectionChanged, this, follow, Qt::QueuedConnection);
     // Also the one that is current already: a search is left so.
     connect(this, &QListWidget::clicked, this, [this] { Q_EMIT chosen(currentPage()); });
 }

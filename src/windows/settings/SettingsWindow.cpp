@@ -24,7 +24,7 @@ namespace tembra {
 namespace {
 
 constexpr QSize usualSize{700, 680};
-constexpr QSize smallestSize{480, 300};
+constexpr QSize smallestSize{560, 300};
 // For the title bar and the frame.
 constexpr QSize aroundWindow{8, 40};
 constexpr int sidebarWidth = 180;

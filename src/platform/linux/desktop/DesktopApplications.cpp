@@ -1,6 +1,7 @@
 #include "platform/linux/desktop/DesktopApplications.h"
 
 #include "base/FilePath.h"
+#include "platform/Platform.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -28,6 +29,7 @@ struct FreeInfos {
 struct FreeError {
     void operator()(GError *error) const { g_error_free(error); }
 };
+using Context = std::unique_ptr<GAppLaunchContext, Unref>;
 using File = std::unique_ptr<GFile, Unref>;
 using Info = std::unique_ptr<GAppInfo, Unref>;
 using Infos = std::unique_ptr<GList, FreeInfos>;
@@ -84,6 +86,17 @@ tl::unexpected<Error> failed(const QString &message) {
     return failure({QStringLiteral("Tembra.Workspace"), 1, message, QString()});
 }
 
+// What only this program needs of its environment is not handed on.
+Context launchContext() {
+    Context context(g_app_launch_context_new());
+    const QStringList others = environmentForPrograms().keys();
+    for (const QString &variable : QProcessEnvironment::systemEnvironment().keys()) {
+        if (!others.contains(variable))
+            g_app_launch_context_unsetenv(context.get(), variable.toLocal8Bit().constData());
+    }
+    return context;
+}
+
 } // namespace
 
 std::vector<Workspace::Application> DesktopApplications::applicationsFor(const QStringList &paths) {
@@ -121,7 +134,7 @@ Result<void> DesktopApplications::open(const QStringList &paths, const QString &
     for (const QString &path : paths)
         files = g_list_append(files, fileAt(path).release());
     GError *problem = nullptr;
-    const bool launched = g_app_info_launch(application.get(), files, nullptr, &problem);
+    const bool launched = g_app_info_launch(application.get(), files, launchContext().get(), &problem);
     g_list_free_full(files, g_object_unref);
     if (launched)
         return {};
@@ -133,7 +146,7 @@ Result<void> DesktopApplications::open(const QStringList &paths, const QString &
 
 Result<void> DesktopApplications::openLink(const QUrl &url) {
     GError *problem = nullptr;
-    if (g_app_info_launch_default_for_uri(url.toEncoded().constData(), nullptr, &problem))
+    if (g_app_info_launch_default_for_uri(url.toEncoded().constData(), launchContext().get(), &problem))
         return {};
     const std::unique_ptr<GError, FreeError> error(problem);
     return failed(QCoreApplication::translate("Workspace", "“%1” could not be opened: %2")

@@ -41,6 +41,14 @@ Finding findingOf(DesktopPaths::Windows windows) {
         return finding(
             State::ok,
             QT_TRANSLATE_NOOP("DesktopPaths", "Wayland, as a layer of the desktop. Nothing is missing."));
+    case Windows::unusedLayerShell:
+        return finding(
+            State::limited,
+            QT_TRANSLATE_NOOP("DesktopPaths",
+                              "Wayland, through its X server, although this desktop could do without."),
+            QT_TRANSLATE_NOOP("DesktopPaths",
+                              "Install Qt’s Wayland platform (sudo apt install qt6-wayland) and start Tembra "
+                              "without QT_QPA_PLATFORM."));
     case Windows::plainWayland:
         break;
     }
@@ -92,8 +100,7 @@ Finding findingOf(DesktopPaths::Shortcut shortcut) {
 
 Finding statusItemFinding(bool isShown) {
     if (isShown)
-        return finding(State::ok,
-                       QT_TRANSLATE_NOOP("DesktopPaths", "Tembra is among the desktop’s status items."));
+        return finding(State::ok, QT_TRANSLATE_NOOP("DesktopPaths", "This desktop shows status items."));
     return finding(
         State::limited, QT_TRANSLATE_NOOP("DesktopPaths", "This desktop shows no status items."),
         QT_TRANSLATE_NOOP("DesktopPaths",

@@ -6,7 +6,7 @@ namespace tembra {
 
 // By which ways the desktop's services are reached in this session.
 struct DesktopPaths {
-    enum class Windows { x11, x11Uncomposited, xwayland, layerShell, plainWayland };
+    enum class Windows { x11, x11Uncomposited, xwayland, layerShell, unusedLayerShell, plainWayland };
     enum class Clipboard { x11, dataControl, focusedOnly };
     enum class Shortcut { grab, portal, none };
 

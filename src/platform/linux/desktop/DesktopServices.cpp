@@ -14,6 +14,7 @@
 #include "platform/linux/desktop/WaylandDataControlPasteboard.h"
 #include "platform/linux/desktop/WaylandInputMonitor.h"
 #include "platform/linux/desktop/WaylandPanelWindows.h"
+#include "platform/linux/desktop/WindowingChoice.h"
 #include "platform/linux/desktop/X11HotKeys.h"
 #include "platform/linux/desktop/X11HotZones.h"
 #include "platform/linux/desktop/X11InputMonitor.h"
@@ -47,7 +48,8 @@ DesktopPaths::Windows windowsPath(const X11Connection *connection, bool hasLayer
     if (!connection)
         return DesktopPaths::Windows::plainWayland;
     if (!qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
-        return DesktopPaths::Windows::xwayland;
+        return WindowingChoice::ofSession().hasLayerShell ? DesktopPaths::Windows::unusedLayerShell
+                                                          : DesktopPaths::Windows::xwayland;
     const QByteArray compositor = "_NET_WM_CM_S" + QByteArray::number(connection->screenNumber());
     return connection->selectionOwner(connection->atom(compositor)) == XCB_WINDOW_NONE
                ? DesktopPaths::Windows::x11Uncomposited

@@ -1,6 +1,7 @@
 #include "platform/linux/desktop/QtPanelWindows.h"
 
 #include <QWidget>
+#include <QWindow>
 
 namespace tembra {
 
@@ -16,6 +17,10 @@ void QtPanelWindows::applyPanelFlags(QWidget &panel) {
 void QtPanelWindows::prepare(QWidget &panel) {
     applyPanelFlags(panel);
     panel.winId();
+}
+
+bool QtPanelWindows::isShown(const QWidget &panel) const {
+    return panel.windowHandle() && panel.windowHandle()->isExposed();
 }
 
 void QtPanelWindows::setInputRegion(QWidget &, const QRegion &) {}

@@ -10,6 +10,7 @@ public:
     static void applyPanelFlags(QWidget &panel);
 
     void prepare(QWidget &panel) override;
+    [[nodiscard]] bool isShown(const QWidget &panel) const override;
     void setInputRegion(QWidget &panel, const QRegion &region) override;
     void takeKeyboardFocus(QWidget &panel) override;
     void returnKeyboardFocus(QWidget &panel) override;

@@ -113,9 +113,10 @@ void WaylandDisplay::listenToSeat() {
 
 void WaylandDisplay::seatChanged(std::uint32_t capabilities) {
     const bool hasPointer = capabilities & WL_SEAT_CAPABILITY_POINTER;
-    if (!hasPointer && m_pointer)
+    if (!hasPointer && m_pointer) {
         wl_pointer_destroy(std::exchange(m_pointer, nullptr));
-    else if (hasPointer && !m_pointer)
+        m_hasPointer = false;
+    } else if (hasPointer && !m_pointer)
         listenToPointer();
     const bool hasKeyboard = capabilities & WL_SEAT_CAPABILITY_KEYBOARD;
     if (!hasKeyboard && m_keyboard)

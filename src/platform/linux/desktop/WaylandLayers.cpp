@@ -59,6 +59,11 @@ void WaylandLayers::setInputRegion(QWindow &window, const QRegion &region) {
         shareInput();
 }
 
+bool WaylandLayers::isReady(QWindow &window) const {
+    const auto found = m_layers.find(&window);
+    return found != m_layers.end() && found->second.role && found->second.role->isReady();
+}
+
 void WaylandLayers::setKeyboard(QWindow &window, layer_shell::Keyboard keyboard) {
     Layer &it = layer(window);
     if (it.keyboard == keyboard)
@@ -122,8 +127,34 @@ void WaylandLayers::exposed(QWindow &window) {
     wl_surface *const surface = WaylandDisplay::surface(window);
     if (it.role || !surface)
         return;
+    followSurface(window, it);
+    if (surface == it.spentSurface) {
+        if (!it.parent && QGuiApplication::screenAt(window.geometry().center()))
+            renewSurface(window);
+        return;
+    }
     it.surface = surface;
+    it.spentSurface = surface;
     makeRole(window, it);
+}
+
+// Not at once: the window is being shown or moved just now.
+void WaylandLayers::renewSurface(QWindow &window) {
+    const auto renew = [shown = QPointer<QWindow>(&window)] {
+        if (!shown || !shown->handle() || !shown->isVisible())
+            return;
+        shown->handle()->setVisible(false);
+        shown->handle()->setVisible(true);
+    };
+    QMetaObject::invokeMethod(this, renew, Qt::QueuedConnection);
+}
+
+void WaylandLayers::followSurface(QWindow &window, Layer &it) {
+    it.platformWindow = dynamic_cast<QObject *>(window.handle());
+    if (it.platformWindow) {
+        connect(it.platformWindow, vanishingSignal(*it.platformWindow), this, SLOT(surfaceVanishes()),
+                Qt::UniqueConnection);
+    }
 }
 
 void WaylandLayers::makeRole(QWindow &window, Layer &it) {
@@ -137,19 +168,14 @@ void WaylandLayers::makeRole(QWindow &window, Layer &it) {
             makePopupRole(*m_display, it.surface, *parent->second.role, relative, window.type() == Qt::Popup);
     } else {
         QScreen *const screen = QGuiApplication::screenAt(place.center());
-        wl_output *const output = screen ? WaylandDisplay::output(*screen) : nullptr;
-        if (!output)
+        it.output = screen ? WaylandDisplay::output(*screen) : nullptr;
+        if (!it.output)
             return;
-        it.role = makeLayerRole(*m_display, it.surface, output,
+        it.role = makeLayerRole(*m_display, it.surface, it.output,
                                 place.translated(-screen->geometry().topLeft()), it.keyboard);
     }
     it.role->onClosed = [this, &window] { roleClosed(window); };
     shareInput();
-    it.platformWindow = dynamic_cast<QObject *>(window.handle());
-    if (it.platformWindow) {
-        connect(it.platformWindow, vanishingSignal(*it.platformWindow), this, SLOT(surfaceVanishes()),
-                Qt::UniqueConnection);
-    }
 }
 
 void WaylandLayers::moved(QWindow &window) {
@@ -157,8 +183,12 @@ void WaylandLayers::moved(QWindow &window) {
     if (found == m_layers.end() || !found->second.role)
         return;
     const QRect place = window.geometry();
-    if (const QScreen *const screen = QGuiApplication::screenAt(place.center()))
+    if (QScreen *const screen = QGuiApplication::screenAt(place.center())) {
+        // A layer stays on its output.
+        if (!found->second.parent && WaylandDisplay::output(*screen) != found->second.output)
+            return renewSurface(window);
         found->second.role->place(place.translated(-screen->geometry().topLeft()));
+    }
     shareInput();
 }
 
@@ -179,8 +209,12 @@ void WaylandLayers::dropRole(QWindow &window) {
 
 void WaylandLayers::surfaceVanishes() {
     for (auto &[window, it] : m_layers) {
-        if (it.platformWindow == sender() && it.role)
-            return dropRole(*window);
+        if (it.platformWindow != sender())
+            continue;
+        it.spentSurface = nullptr;
+        if (it.role)
+            dropRole(*window);
+        return;
     }
 }
 

@@ -31,6 +31,8 @@ public:
     // The part of the window, in its own points, that takes the pointer. Windows that were never told let
     // those have it that were, in whatever order the compositor stacks them.
     void setInputRegion(QWindow &window, const QRegion &region);
+    // The compositor lets it be drawn where it was put.
+    [[nodiscard]] bool isReady(QWindow &window) const;
     void setKeyboard(QWindow &window, layer_shell::Keyboard keyboard);
     // Whether the window is one of these, or a menu of one: where it lies is known then.
     [[nodiscard]] static bool isPlaced(const QWindow &window);
@@ -43,6 +45,9 @@ private Q_SLOTS:
 private:
     struct Layer {
         wl_surface *surface = nullptr;
+        // Has had a role, or was drawn without one: it can never have another.
+        wl_surface *spentSurface = nullptr;
+        wl_output *output = nullptr;
         // Lives as long as the window has its surface.
         QPointer<QObject> platformWindow;
         QPointer<QWindow> parent;
@@ -57,6 +62,8 @@ private:
     [[nodiscard]] QWindow *parentOf(const QWidget &menu) const;
     void exposed(QWindow &window);
     void moved(QWindow &window);
+    void renewSurface(QWindow &window);
+    void followSurface(QWindow &window, Layer &layer);
     void makeRole(QWindow &window, Layer &layer);
     void dropRole(QWindow &window);
     void roleClosed(QWindow &window);

@@ -22,6 +22,10 @@ void WaylandPanelWindows::prepare(QWidget &panel) {
     panel.winId();
 }
 
+bool WaylandPanelWindows::isShown(const QWidget &panel) const {
+    return panel.windowHandle() && m_layers->isReady(*panel.windowHandle());
+}
+
 void WaylandPanelWindows::setInputRegion(QWidget &panel, const QRegion &region) {
     m_layers->setInputRegion(*panel.windowHandle(), region);
 }

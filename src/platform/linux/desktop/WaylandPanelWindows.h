@@ -14,6 +14,7 @@ public:
     explicit WaylandPanelWindows(std::shared_ptr<WaylandLayers> layers);
 
     void prepare(QWidget &panel) override;
+    [[nodiscard]] bool isShown(const QWidget &panel) const override;
     void setInputRegion(QWidget &panel, const QRegion &region) override;
     void takeKeyboardFocus(QWidget &panel) override;
     void returnKeyboardFocus(QWidget &panel) override;

@@ -2,6 +2,7 @@
 
 #include <QRegion>
 #include <QWidget>
+#include <QWindow>
 
 #include <xcb/shape.h>
 
@@ -20,6 +21,10 @@ void X11PanelWindows::prepare(QWidget &panel) {
     QtPanelWindows::applyPanelFlags(panel);
     panel.winId();
     m_stacking->addPanel(panel);
+}
+
+bool X11PanelWindows::isShown(const QWidget &panel) const {
+    return panel.windowHandle() && panel.windowHandle()->isExposed();
 }
 
 void X11PanelWindows::setInputRegion(QWidget &panel, const QRegion &region) {

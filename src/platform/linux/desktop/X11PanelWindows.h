@@ -12,6 +12,7 @@ public:
     X11PanelWindows(std::shared_ptr<X11Connection> connection, std::shared_ptr<X11Stacking> stacking);
 
     void prepare(QWidget &panel) override;
+    [[nodiscard]] bool isShown(const QWidget &panel) const override;
     void setInputRegion(QWidget &panel, const QRegion &region) override;
     void takeKeyboardFocus(QWidget &panel) override;
     void returnKeyboardFocus(QWidget &panel) override;

@@ -15,6 +15,7 @@ public:
 
     [[nodiscard]] std::optional<QString> location() const override;
     void setLocation(const std::optional<QString> &path) override;
+    [[nodiscard]] bool isToolKnown() const override { return false; }
     [[nodiscard]] QString toolName() const override;
 
 private:
