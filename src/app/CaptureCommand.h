@@ -26,6 +26,9 @@ public:
     // the file; without one the file is the last argument. Nothing happens without a command.
     void run(const QStringList &command, const QString &file);
 
+    // A command has not ended, or waits for its turn.
+    [[nodiscard]] bool isBusy() const { return m_running != nullptr; }
+
     [[nodiscard]] static QStringList arguments(const QStringList &command, const QString &file);
 
 private:

@@ -27,7 +27,8 @@ TEST(CaptureCommand, handsTheFileToTheProgramAsItIs) {
     const QString copy = folder.filePath(u"copy.png"_s);
     CaptureCommand command;
     command.run({u"cp"_s, u"{}"_s, copy}, capture);
-    EXPECT_TRUE(eventually([&] { return QFile::exists(copy); }));
+    EXPECT_TRUE(eventually([&] { return !command.isBusy(); }));
+    EXPECT_TRUE(QFile::exists(copy));
     EXPECT_FALSE(QFile::exists(folder.filePath(u"evil"_s)));
 }
 
@@ -42,7 +43,8 @@ TEST(CaptureCommand, runsOneAfterTheOther) {
         QFile file(log);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     };
-    EXPECT_TRUE(eventually([&] { return lines() == QByteArray("begin\nend\n").repeated(5); }));
+    EXPECT_TRUE(eventually([&] { return !command.isBusy(); }));
+    EXPECT_EQ(lines(), QByteArray("begin\nend\n").repeated(5));
 }
 
 TEST(CaptureCommand, tellsOnceOfACommandThatCannotBeRun) {
