@@ -39,7 +39,7 @@ Catalogues::~Catalogues() = default;
 
 QString Catalogues::languageAmong(const QStringList &languages) {
     for (const QString &wanted : languages) {
-        const QString language = wanted.section(u'-', 0, 0).section(u'_', 0, 0).toLower();
+        QString language = wanted.section(u'-', 0, 0).section(u'_', 0, 0).toLower();
         if (language == sourceLanguage || isThere(language))
             return language;
     }

@@ -141,7 +141,7 @@ Finding commandFinding(const QStringList &command) {
     if (command.isEmpty())
         return {
             State::ok, translated(QT_TRANSLATE_NOOP("Doctor", "No command is run for new captures.")), {}};
-    const QString program = command.constFirst();
+    const QString &program = command.constFirst();
     if (QStandardPaths::findExecutable(program).isEmpty())
         return {State::broken,
                 translated(QT_TRANSLATE_NOOP("Doctor", "There is no program “%1”.")).arg(program),
