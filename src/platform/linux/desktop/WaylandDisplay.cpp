@@ -34,7 +34,7 @@ std::shared_ptr<WaylandDisplay> WaylandDisplay::ofApplication() {
     auto *const display = static_cast<wl_display *>(native->nativeResourceForIntegration("wl_display"));
     if (!display)
         return nullptr;
-    std::shared_ptr<WaylandDisplay> made(new WaylandDisplay(display));
+    const std::shared_ptr<WaylandDisplay> made(new WaylandDisplay(display));
     return made->m_compositor && made->m_layerShell && made->m_popups ? made : nullptr;
 }
 
