@@ -37,10 +37,6 @@ constexpr Component components[]{
     {"Inter", "SIL Open Font License 1.1"},
 };
 
-TembraButton *rowButton(const QString &title) {
-    return new TembraButton(TembraButton::Kind::plain, TembraButton::Size::compact, title);
-}
-
 } // namespace
 
 AboutSettingsPage::AboutSettingsPage(AppSettings &settings, AppUpdater &updater, QWidget *parent)

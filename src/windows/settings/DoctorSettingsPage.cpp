@@ -32,7 +32,7 @@ QString stateText(State state) {
 DoctorSettingsPage::DoctorSettingsPage(AppSettings &settings, Examine examine, QWidget *parent)
     : SettingsPage(tr("Doctor"), settings, parent), m_examine(std::move(examine)) {
     addSection();
-    m_again = new TembraButton(TembraButton::Kind::plain, TembraButton::Size::compact, tr("Check Again"));
+    m_again = rowButton(tr("Check Again"));
     m_summary = addRow(tr("What works on this desktop"), m_again);
     m_again->setAccessibleName(m_again->text());
     connect(m_again, &QAbstractButton::clicked, this, &DoctorSettingsPage::examine);

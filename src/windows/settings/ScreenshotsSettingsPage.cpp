@@ -16,10 +16,6 @@ namespace tembra {
 
 namespace {
 
-TembraButton *rowButton(const QString &title) {
-    return new TembraButton(TembraButton::Kind::plain, TembraButton::Size::compact, title);
-}
-
 // As QProcess::splitCommand takes it apart.
 QString commandText(const QStringList &command) {
     QStringList words;

@@ -1,5 +1,6 @@
 #include "windows/settings/SettingsPage.h"
 
+#include "controls/TembraButton.h"
 #include "controls/TembraDropdownPopup.h"
 #include "controls/TembraSettingsRow.h"
 #include "controls/TembraSettingsSection.h"
@@ -98,6 +99,10 @@ TembraDropdownPopup *SettingsPage::addChoice(const QString &title, const QString
     onRefresh([this, popup, current = std::move(current)] { popup->setCurrentIndex(current(state())); });
     connect(popup, &TembraDropdownPopup::chosen, this, std::move(choose));
     return popup;
+}
+
+TembraButton *SettingsPage::rowButton(const QString &title) {
+    return new TembraButton(TembraButton::Kind::plain, TembraButton::Size::compact, title);
 }
 
 void SettingsPage::setRowShown(TembraSettingsRow *row, bool isShown) {

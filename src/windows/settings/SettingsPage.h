@@ -12,6 +12,7 @@ class QVBoxLayout;
 
 namespace tembra {
 
+class TembraButton;
 class TembraDropdownPopup;
 class TembraSettingsRow;
 class TembraSettingsSection;
@@ -51,6 +52,8 @@ protected:
     TembraDropdownPopup *addChoice(const QString &title, const QStringList &choices,
                                    std::function<int(const AppSettingsState &)> current,
                                    std::function<void(int)> choose);
+    // The control of a row that does something.
+    [[nodiscard]] static TembraButton *rowButton(const QString &title);
     // A row that is not there unless it is said to be.
     void setRowShown(TembraSettingsRow *row, bool isShown);
     // Called with each refresh.

@@ -19,8 +19,12 @@ void QtPanelWindows::prepare(QWidget &panel) {
     panel.winId();
 }
 
-bool QtPanelWindows::isShown(const QWidget &panel) const {
+bool QtPanelWindows::isExposed(const QWidget &panel) {
     return panel.windowHandle() && panel.windowHandle()->isExposed();
+}
+
+bool QtPanelWindows::isShown(const QWidget &panel) const {
+    return isExposed(panel);
 }
 
 void QtPanelWindows::setInputRegion(QWidget &, const QRegion &) {}

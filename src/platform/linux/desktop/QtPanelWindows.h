@@ -8,6 +8,8 @@ namespace tembra {
 class QtPanelWindows final : public PanelWindows {
 public:
     static void applyPanelFlags(QWidget &panel);
+    // Whether the windowing system has it on the screen.
+    [[nodiscard]] static bool isExposed(const QWidget &panel);
 
     void prepare(QWidget &panel) override;
     [[nodiscard]] bool isShown(const QWidget &panel) const override;

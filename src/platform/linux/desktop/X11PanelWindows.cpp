@@ -2,7 +2,6 @@
 
 #include <QRegion>
 #include <QWidget>
-#include <QWindow>
 
 #include <xcb/shape.h>
 
@@ -24,7 +23,7 @@ void X11PanelWindows::prepare(QWidget &panel) {
 }
 
 bool X11PanelWindows::isShown(const QWidget &panel) const {
-    return panel.windowHandle() && panel.windowHandle()->isExposed();
+    return QtPanelWindows::isExposed(panel);
 }
 
 void X11PanelWindows::setInputRegion(QWidget &panel, const QRegion &region) {
