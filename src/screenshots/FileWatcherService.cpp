@@ -105,8 +105,6 @@ void FileWatcherService::watchFolder() {
 
 // Without a stream the directory source alone has to do.
 void FileWatcherService::watchTree() {
-    if (m_treeStream)
-        return;
     auto stream = m_services.events.watchTree(
         *m_shelf->url, m_includesSubfolders, streamLatency,
         [this](const std::vector<TreeEvent> &events) { receiveTreeEvents(events); });
@@ -344,9 +342,7 @@ void FileWatcherService::scheduleChecks(const FolderScanResult &result) {
 void FileWatcherService::scheduleRecovery() {
     if (m_recoveryWork.isPending())
         return;
-    m_recoveryWork = m_services.scheduler.schedule(m_recoveryDelay, [this, ticket = m_generation.ticket()] {
-        if (!ticket.isCurrent())
-            return;
+    m_recoveryWork = m_services.scheduler.schedule(m_recoveryDelay, [this] {
         FolderShelf &shelf = *m_shelf;
         const auto delay = m_recoveryDelay;
         stop();

@@ -1,6 +1,5 @@
 #include "settings/ScreenshotFolderAccess.h"
 
-#include "platform/ScreenCapturePreferences.h"
 #include "settings/CocoaError.h"
 #include "settings/FolderPath.h"
 
@@ -97,11 +96,6 @@ bool ScreenshotFolderAccess::isInTrash(const QString &folder) const {
     return std::ranges::any_of(m_folders.trash, [&path](const QString &trash) {
         return path.startsWith(withoutLinks(trash) + u'/');
     });
-}
-
-std::optional<QString>
-ScreenshotFolderAccess::currentSystemLocation(const ScreenCapturePreferences &preferences) {
-    return preferences.location();
 }
 
 } // namespace tembra

@@ -12,8 +12,6 @@
 
 namespace tembra {
 
-class ScreenCapturePreferences;
-
 // The grant to the folder that the user chose. A value: a failed grant or restore leaves it as it was. Paths
 // are absolute and clean. Main thread.
 class ScreenshotFolderAccess {
@@ -40,10 +38,6 @@ public:
     // Whether a folder can really be used: it is a directory, not in the Trash, can be opened, and with
     // `enumerateContents` also listed. Errors: "Cocoa" with a CocoaError code, or "POSIX".
     [[nodiscard]] Result<void> validate(const QString &folder, bool enumerateContents) const;
-
-    // The raw location that the screenshot tool's preferences hold.
-    [[nodiscard]] static std::optional<QString>
-    currentSystemLocation(const ScreenCapturePreferences &preferences);
 
 private:
     [[nodiscard]] bool isInTrash(const QString &folder) const;

@@ -12,6 +12,7 @@
 #include "shelf/StatusMenu.h"
 
 #include <QMenu>
+#include <QSet>
 
 #include <algorithm>
 #include <iterator>
@@ -147,13 +148,20 @@ void ShelfController::revealFolder() {
 }
 
 void ShelfController::clearScreenshots() {
-    const auto count = static_cast<int>(m_commands->removableShots().size());
-    if (count == 0)
+    QSet<ScreenshotFileIdentity> asked;
+    for (const Shot &shot : m_commands->removableShots())
+        asked.insert(shot.identity);
+    if (asked.isEmpty())
         return;
     // The panel is above every other window, also above the question.
     collapse();
-    askForClearing(count, static_cast<int>(m_session->folderShelf().shots.size()) - count,
-                   [this] { m_session->removeScreenshots(m_commands->removableShots()); });
+    const auto count = static_cast<int>(asked.size());
+    askForClearing(count, static_cast<int>(m_session->folderShelf().shots.size()) - count, [this, asked] {
+        std::vector<Shot> left = m_commands->removableShots();
+        // What was captured since was not asked about.
+        std::erase_if(left, [&asked](const Shot &shot) { return !asked.contains(shot.identity); });
+        m_session->removeScreenshots(left);
+    });
 }
 
 // The drag needs the window it began in until it ends.

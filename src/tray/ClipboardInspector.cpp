@@ -1,6 +1,7 @@
 #include "tray/ClipboardInspector.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <cerrno>
@@ -16,6 +17,18 @@ bool isAbsence(const Error &error) {
 
 bool isLocal(const ClipboardEntry &entry) {
     return !entry.volume || entry.volume->isLocal;
+}
+
+bool isBeneath(const QString &path, const Volume &volume) {
+    const QString &top = volume.mountPoint;
+    return path == top || path.startsWith(top.endsWith(u'/') ? top : top + u'/');
+}
+
+// A path that links lead along tells nothing of where the file is on its volume.
+QString withoutLinksAbove(const QString &path) {
+    const QFileInfo file(path);
+    const QString folder = file.canonicalPath();
+    return folder.isEmpty() ? path : QDir(folder).filePath(file.fileName());
 }
 
 // Files of one folder are on one volume; a folder in it can be another one's mount point.
@@ -53,6 +66,10 @@ ClipboardEntry ClipboardInspector::entryFor(const QString &path, const FileFacts
         entry.volume = neighbour->volume;
     else if (const auto volume = m_volumes.volumeOf(path))
         entry.volume = *volume;
+    if (entry.volume && !isBeneath(path, *entry.volume)) {
+        entry.lastKnownPath = withoutLinksAbove(path);
+        entry.identity = ScreenshotFileIdentity::of(entry.lastKnownPath, facts);
+    }
     return entry;
 }
 
@@ -148,7 +165,8 @@ ClipboardInspector::Found ClipboardInspector::search(const ClipboardEntry &entry
 std::optional<QString> ClipboardInspector::find(const ClipboardEntry &entry,
                                                 const QString &mountPoint) const {
     QString expected = entry.lastKnownPath;
-    if (entry.volume && mountPoint != entry.volume->mountPoint) {
+    const bool isElsewhere = entry.volume && mountPoint != entry.volume->mountPoint;
+    if (isElsewhere && isBeneath(expected, *entry.volume)) {
         expected = QDir::cleanPath(mountPoint + u'/' + expected.sliced(entry.volume->mountPoint.size()));
         if (m_files.facts(expected))
             return expected;

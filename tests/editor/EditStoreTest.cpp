@@ -16,6 +16,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <cstdio>
 #include <filesystem>
 #include <limits>
@@ -39,6 +40,44 @@ int modeOf(const QString &path) {
                ? static_cast<int>(status.st_mode & 07777U)
                : -1;
 }
+
+// The disk fails for the files whose paths end so.
+class FailingReads final : public FileCoordinator {
+public:
+    explicit FailingReads(const FileCoordinator &files) : m_files(files) {}
+
+    QString failing;
+
+    [[nodiscard]] Result<QByteArray> read(const QString &path) const override {
+        return path.endsWith(failing) ? failure({posixErrorDomain, EIO, {}, {}}) : m_files.read(path);
+    }
+    [[nodiscard]] Result<void> makePrivateFolder(const QString &path) const override {
+        return m_files.makePrivateFolder(path);
+    }
+    [[nodiscard]] Result<void> writeAtomically(const QString &path, QByteArrayView bytes) const override {
+        return m_files.writeAtomically(path, bytes);
+    }
+    [[nodiscard]] Result<void> remove(const QString &path) const override { return m_files.remove(path); }
+    [[nodiscard]] Result<void> writeTemporary(const QString &path, QByteArrayView bytes, const QString &like,
+                                              const std::optional<Instant> &createdAt) const override {
+        return m_files.writeTemporary(path, bytes, like, createdAt);
+    }
+    [[nodiscard]] Result<void> replace(const QString &path, const QString &temporary, QByteArrayView bytes,
+                                       const ContentCheck &isExpected) const override {
+        return m_files.replace(path, temporary, bytes, isExpected);
+    }
+    [[nodiscard]] Result<void> clearTemporary(const QString &path, const QString &temporary,
+                                              const ContentCheck &isKnown) const override {
+        return m_files.clearTemporary(path, temporary, isKnown);
+    }
+    [[nodiscard]] Result<void> moveIfUnchanged(const QString &from, const QString &to,
+                                               const ContentCheck &isExpected) const override {
+        return m_files.moveIfUnchanged(from, to, isExpected);
+    }
+
+private:
+    const FileCoordinator &m_files;
+};
 
 class EditStoreTest : public testing::Test {
 protected:
@@ -284,8 +323,35 @@ TEST_F(EditStoreTest, reportsRecordsThatItCannotOpenAndLeavesThemAlone) {
         EXPECT_EQ(contentOf(file), changed);
     }
     writeFile(file, whole);
-    QFile::remove(recordFolder(saved.loaded) + QStringLiteral("/original"));
-    EXPECT_EQ(failureOfLoading(shot), QStringLiteral("The original image couldn’t be opened."));
+    const QString original = recordFolder(saved.loaded) + QStringLiteral("/original");
+    for (const auto &damage : {std::function([&] { writeFile(original, picture.first(20)); }),
+                               std::function([&] { QFile::remove(original); })}) {
+        damage();
+        EXPECT_EQ(failureOfLoading(shot), QStringLiteral("The original image couldn’t be opened."));
+    }
+}
+
+TEST_F(EditStoreTest, losesNoEditsWhileTheDiskDoesNotGiveThemOut) {
+    const auto saved = save(load(shot), arrow);
+    const QByteArray drawn = contentOf(shot);
+    const auto services = edits.services();
+    FailingReads files(services.coordinator);
+    ScreenshotEditStore failing(edits.path(QStringLiteral("edits")), {.files = services.files,
+                                                                      .bookmarks = services.bookmarks,
+                                                                      .references = services.references,
+                                                                      .coordinator = files,
+                                                                      .thumbnails = services.thumbnails,
+                                                                      .queue = services.queue,
+                                                                      .scheduler = services.scheduler});
+    for (const char *name : {"/record.json", "/pending.json"}) {
+        files.failing = QString::fromUtf8(name);
+        const auto loaded = failing.load(shot, {});
+        ASSERT_FALSE(loaded) << name;
+        EXPECT_EQ(loaded.error().code, EIO) << name;
+        EXPECT_FALSE(failing.save(saved.loaded, {}, {})) << name;
+        EXPECT_EQ(contentOf(shot), drawn) << name;
+    }
+    EXPECT_EQ(load(shot).record.annotations, arrow);
 }
 
 TEST_F(EditStoreTest, renamesWithinTheFolderAndKeepsTheExtension) {

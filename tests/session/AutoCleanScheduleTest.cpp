@@ -213,6 +213,18 @@ TEST_F(AutoCleanScheduleTest, whatCannotBeMovedIsCountedAndTheRestGoes) {
     EXPECT_EQ(nextCheck(), Delay(1h));
 }
 
+TEST_F(AutoCleanScheduleTest, aFolderThatCannotBeLookedThroughHasItsTurnAgain) {
+    open(1);
+    session->restartAutoClean();
+    ASSERT_TRUE(QDir().rename(m_folder, m_folder + u'x'));
+    finishCheck();
+    EXPECT_EQ(nextCheck(), Delay(1h));
+    ASSERT_TRUE(QDir().rename(m_folder + u'x', m_folder));
+    parts.scheduler.advance(1h);
+    finishScan();
+    EXPECT_EQ(trashed().size(), 1);
+}
+
 TEST_F(AutoCleanScheduleTest, aClockThatWasMovedBackMovesNothing) {
     open(2);
     session->runAutoCleanCheck(systemNow() - 48h, false);

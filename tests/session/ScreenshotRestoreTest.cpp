@@ -77,6 +77,23 @@ TEST_F(ScreenshotRestoreTest, whatStandsInTheWayIsToldAndNothingIsTouched) {
     EXPECT_EQ(parts.sounds.played, std::vector(5, Sounds::Event::movedToTrash));
 }
 
+TEST_F(ScreenshotRestoreTest, whatFailedForItsFolderComesBackOnceThatDoes) {
+    const QStringList names = startWith(2);
+    const QString away = parts.home.filePath(QStringLiteral("Away"));
+    remove(names);
+    ASSERT_TRUE(QDir().rename(folder, away));
+    for (int tries = 1; tries <= 2; ++tries) {
+        EXPECT_TRUE(session.undo());
+        EXPECT_EQ(errors.size(), tries);
+    }
+    ASSERT_TRUE(QDir().rename(away, folder));
+    EXPECT_TRUE(session.undo());
+    EXPECT_EQ(shown(), names);
+    EXPECT_FALSE(session.undo());
+    EXPECT_TRUE(session.redo());
+    EXPECT_TRUE(shown().isEmpty());
+}
+
 TEST_F(ScreenshotRestoreTest, whatCanComeBackDoesAndOnlyThatCanBeRedone) {
     const QStringList names = startWith(500);
     remove(names);

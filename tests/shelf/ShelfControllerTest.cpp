@@ -233,6 +233,19 @@ TEST_F(ShelfControllerTest, clearingAsksAndSparesThePinnedAndCanBeUndone) {
     EXPECT_EQ(status().screenshotCount, 2);
 }
 
+TEST_F(ShelfControllerTest, clearingSparesWhatIsCapturedDuringTheQuestion) {
+    start();
+    capture();
+    controller->askForClearing = [this](int, int, const std::function<void()> &clear) {
+        capture(QStringLiteral("Screenshot from 2026-11-21 10-15-23.png"));
+        clear();
+    };
+    controller->clearScreenshots();
+    settle();
+    EXPECT_EQ(QDir(folder).entryList(QDir::Files),
+              QStringList{QStringLiteral("Screenshot from 2026-11-21 10-15-23.png")});
+}
+
 TEST_F(ShelfControllerTest, aRemovalThatNobodySawIsToldWithAnOfferToUndoIt) {
     start();
     capture();

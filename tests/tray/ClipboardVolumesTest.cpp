@@ -84,6 +84,20 @@ TEST_P(ClipboardVolumesTest, aVolumeMountedSomewhereElseIsTheSame) {
     EXPECT_EQ(tray.shown(), QStringList{file});
 }
 
+TEST_P(ClipboardVolumesTest, aFileThatALinkLedToIsFoundWhereItsVolumeIsMountedThen) {
+    Tray tray;
+    writeFile(path("/file"));
+    // Shorter than the mount point.
+    ASSERT_TRUE(QFile::link(m_disk.path(), tray.path("l")));
+    tray.add({tray.path("l/file")});
+    const QString elsewhere = tray.path("elsewhere");
+    ASSERT_TRUE(QDir().mkdir(elsewhere));
+    ASSERT_EQ(::mount(qPrintable(m_disk.path()), qPrintable(elsewhere), nullptr, MS_MOVE, nullptr), 0);
+    tray.reconcile();
+    EXPECT_EQ(tray.shown(), QStringList{elsewhere + QStringLiteral("/file")});
+    ASSERT_EQ(::mount(qPrintable(elsewhere), qPrintable(m_disk.path()), nullptr, MS_MOVE, nullptr), 0);
+}
+
 TEST(ClipboardBindMount, whatIsSeenThroughItGreysWithItThoughItsVolumeStays) {
     const ScratchMount disk(QStringLiteral("tmpfs"));
     if (!disk.problem().isEmpty())

@@ -8,6 +8,7 @@
 #include "support/ManualQueue.h"
 #include "support/ManualScheduler.h"
 #include "support/MemoryUserDefaults.h"
+#include "support/ScratchMount.h"
 
 #include <QDir>
 #include <QProcess>
@@ -258,6 +259,97 @@ TEST_F(AppUpdaterTest, whatIsNotTheAnnouncedFileIsDeleted) {
             << c.name << ": " << updater->state().failure.toStdString();
         EXPECT_TRUE(kept().isEmpty()) << c.name;
     }
+}
+
+TEST_F(AppUpdaterTest, anUpdateThatCannotBeSavedIsFetchedAgain) {
+    const ScratchMount disk(QStringLiteral("ext4"));
+    if (!disk.problem().isEmpty())
+        GTEST_SKIP() << qPrintable(disk.problem());
+    configuration.cacheFolder = disk.path() + QStringLiteral("/cache");
+    start();
+    check();
+    const auto expectRefusal = [this] {
+        download();
+        EXPECT_EQ(updater->state().failure, QStringLiteral("The update cannot be saved on this disk."));
+    };
+    QFile filler(configuration.cacheFolder);
+    ASSERT_TRUE(filler.open(QIODevice::WriteOnly));
+    expectRefusal();
+    // Now where the folder is to be made there is room for it, and for a part of the update.
+    ASSERT_TRUE(filler.rename(disk.path() + QStringLiteral("/filler")) &&
+                filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+    while (filler.write(QByteArray(4096, 'x')) > 0) {
+    }
+    ASSERT_TRUE(filler.resize(filler.size() - file.size() / 2));
+    expectRefusal();
+    const QDir folder(configuration.cacheFolder + QStringLiteral("/updates"));
+    EXPECT_TRUE(folder.exists() && folder.entryList(QDir::Files | QDir::Hidden).isEmpty());
+    ASSERT_TRUE(filler.remove());
+    download();
+    EXPECT_EQ(updater->state().kind, Kind::ready);
+}
+
+TEST_F(AppUpdaterTest, emptiesItsFolderAndNotWhatALinkInItsPlaceLeadsTo) {
+    const QString mine = cache.filePath(QStringLiteral("mine"));
+    ASSERT_TRUE(QDir().mkdir(mine) && QDir().mkdir(configuration.cacheFolder) && QFile::link(mine, path()));
+    writeFile(mine + QStringLiteral("/letter"));
+    start();
+    check();
+    download();
+    EXPECT_EQ(updater->state().kind, Kind::ready);
+    EXPECT_EQ(QDir(mine).entryList(QDir::Files | QDir::Hidden), QStringList(QStringLiteral("letter")));
+}
+
+TEST_F(AppUpdaterTest, anOfferOutlastsWhatFailsUnasked) {
+    defaults.setBoolean(automaticKey, true);
+    start();
+    check();
+    server.answers[feedPath] = {.status = 503};
+    const auto checkUnaskedAfter = [this](std::chrono::hours pause) {
+        server.requests.clear();
+        scheduler.advance(pause);
+        settle();
+        EXPECT_EQ(server.requests.count(feedPath), 1);
+    };
+    checkUnaskedAfter(24h);
+    EXPECT_EQ(updater->state().kind, Kind::available);
+    publish(feed());
+    download();
+    // What is due while an update is looked at waits for another day.
+    updater->install();
+    server.requests.clear();
+    scheduler.advance(24h);
+    EXPECT_TRUE(server.requests.isEmpty());
+    settle();
+    server.answers[feedPath] = {.status = 503};
+    checkUnaskedAfter(1h);
+    EXPECT_EQ(updater->state().kind, Kind::ready);
+    configuration.feedUrl = QStringLiteral("https://127.0.0.1:1/");
+    start();
+    check();
+    EXPECT_TRUE(updater->state().failure.startsWith(QStringLiteral("The update server cannot be reached")));
+}
+
+TEST_F(AppUpdaterTest, whatWasFetchedIsHandedOverOnlyWhileItIsThereAndTheNewest) {
+    start();
+    check();
+    download();
+    ASSERT_TRUE(QFile::remove(path(kept().constFirst())));
+    updater->install();
+    settle();
+    EXPECT_EQ(updater->state().failure, QStringLiteral("The update cannot be read."));
+    download();
+    ASSERT_TRUE(QFile::remove(path(kept().constFirst())));
+    check();
+    EXPECT_EQ(updater->state().kind, Kind::available);
+    download();
+    publish(feed("3.0"));
+    check();
+    EXPECT_EQ(updater->state().kind, Kind::available);
+    EXPECT_EQ(updater->state().version, QStringLiteral("3.0"));
+    updater->install();
+    settle();
+    EXPECT_TRUE(workspace.opened.isEmpty());
 }
 
 TEST_F(AppUpdaterTest, aServerThatFallsSilentIsGivenUp) {

@@ -34,9 +34,9 @@ QString bestOf(const QByteArray &items) {
 } // namespace
 
 TEST(UpdateVersion, areOrderedAsTheirPublisherMeansThem) {
-    const std::vector<QStringView> ascending{u"0.9",    u"1.0-alpha", u"1.0-alpha.2", u"1.0-alpha.10",
-                                             u"1.0-rc", u"1.0",       u"1.0.1",       u"1.2",
-                                             u"1.10b3", u"1.10",      u"2026.11"};
+    const std::vector<QStringView> ascending{u"0.9",          u"1.0-2",  u"1.0-alpha", u"1.0-alpha.2",
+                                             u"1.0-alpha.10", u"1.0-rc", u"1.0",       u"1.0.1",
+                                             u"1.2",          u"1.10b3", u"1.10",      u"2026.11"};
     for (std::size_t i = 0; i + 1 < ascending.size(); ++i)
         EXPECT_LT(*UpdateVersion::parse(ascending[i]), *UpdateVersion::parse(ascending[i + 1])) << i;
     EXPECT_EQ(UpdateVersion::parse(u"1.2"), UpdateVersion::parse(u"1.2.0+build.7"));

@@ -60,8 +60,4 @@ bool ScreenshotAnnotation::isDrawable() const {
            (!bendPoint || isNear(*bendPoint)) && std::ranges::all_of(points, isNear) && hasValidPayload();
 }
 
-EditorColor ScreenshotAnnotation::styleColor() const {
-    return kind == Kind::blur ? EditorColor{} : color;
-}
-
 } // namespace tembra

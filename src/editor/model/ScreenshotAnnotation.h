@@ -66,8 +66,6 @@ struct ScreenshotAnnotation {
     [[nodiscard]] QRectF shapeRect() const;
     // The outline of what is drawn, filled by nonzero winding; of a text its box, of a blur its rectangle.
     [[nodiscard]] QPainterPath path() const;
-    // The colour shown: `color`, of a blur none.
-    [[nodiscard]] EditorColor styleColor() const;
     // A shape or blur, as it was when the drag began, with one of its handles (RectHandles.h) moved to a
     // point, kept within `limits`. Dragged past the opposite side it turns over. With `preservingAspect` it
     // keeps the proportions it has.
