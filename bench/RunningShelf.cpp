@@ -84,10 +84,10 @@ std::pair<int, int> RunningShelf::tiles() {
 }
 
 void turnUntil(const std::function<bool()> &condition) {
-    const auto start = FrameWatch::Clock::now();
+    const auto start = Clock::now();
     while (!condition()) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents);
-        if (FrameWatch::Clock::now() - start > std::chrono::seconds(60)) {
+        if (Clock::now() - start > std::chrono::seconds(60)) {
             std::fprintf(stderr, "waited in vain\n");
             std::exit(1);
         }

@@ -1,9 +1,11 @@
 #include "ShelfMeasurement.h"
 
+#include "Timing.h"
 #include "shelf/NativeScreenshotGrid.h"
 #include "shelf/ScreenshotScrollView.h"
 #include "shelf/ShelfPanel.h"
 
+#include <QFile>
 #include <QScrollBar>
 
 #include <cstdlib>
@@ -16,14 +18,8 @@ using namespace std::chrono_literals;
 
 namespace {
 
-using Clock = FrameWatch::Clock;
-
-constexpr int openingRounds = 31;
 constexpr auto frameInterval = 16ms;
-
-double between(Clock::time_point from, Clock::time_point to) {
-    return std::chrono::duration<double, std::milli>(to - from).count();
-}
+constexpr int scrolledFrames = 150;
 
 // Waits until the display has done all that was asked of it.
 void synchronise() {
@@ -73,8 +69,8 @@ void ShelfMeasurement::firstTiles() {
     turnUntil([&] { return pictures.has_value(); });
     m_watch.onTurn = [](Clock::time_point) {};
     m_watch.onFrame = [] {};
-    m_figures["tiles"] = {between(*scanned, *tiles)};
-    m_figures["pictures"] = {between(*scanned, *pictures)};
+    m_figures["tiles"] = {millisecondsBetween(*scanned, *tiles)};
+    m_figures["pictures"] = {millisecondsBetween(*scanned, *pictures)};
     m_shelf.perform(QStringLiteral("close"));
     turnUntil([this] { return !m_shelf.isShown(); });
 }
@@ -93,11 +89,11 @@ double ShelfMeasurement::timeTo(const std::function<void()> &move, const std::fu
     move();
     turnUntil([&seen] { return seen.has_value(); });
     m_watch.onFrame = [] {};
-    return between(start, *seen);
+    return millisecondsBetween(start, *seen);
 }
 
-void ShelfMeasurement::openings() {
-    for (int round = 0; round < openingRounds; ++round) {
+void ShelfMeasurement::openings(int rounds) {
+    for (int round = 0; round < rounds; ++round) {
         m_figures["notch"].push_back(
             timeTo([this] { m_shelf.enterNotch(); }, [this] { return m_shelf.isOpen(); }));
         turnFor(300ms);
@@ -108,11 +104,26 @@ void ShelfMeasurement::openings() {
     }
 }
 
-void ShelfMeasurement::bareOpenings() {
+void ShelfMeasurement::openingsAfterChanges(int rounds, const QDir &captures) {
+    QStringList names = captures.entryList(QDir::Files);
+    for (int round = 0; round < rounds && names.size() > 1; ++round) {
+        QFile::remove(captures.filePath(names.takeLast()));
+        // Long enough for the shelf to know.
+        turnFor(600ms);
+        m_figures["changed-notch"].push_back(
+            timeTo([this] { m_shelf.enterNotch(); }, [this] { return m_shelf.isOpen(); }));
+        turnFor(300ms);
+        m_shelf.leave();
+        turnUntil([this] { return !m_shelf.isShown(); });
+    }
+    m_watch.takeFrames();
+}
+
+void ShelfMeasurement::bareOpenings(int rounds) {
     const auto watched = m_watch.isWatched;
     BareShelf bare(qEnvironmentVariable("COMPOSITOR") != u"none");
     m_watch.isWatched = [&bare](const QWidget &window) { return &window == &bare; };
-    for (int round = 0; round < openingRounds; ++round) {
+    for (int round = 0; round < rounds; ++round) {
         m_figures["bare-notch"].push_back(
             timeTo([&] { m_pointer.moveTo(bare.strip()); }, [] { return true; }));
         m_watch.takeFrames();
@@ -141,16 +152,15 @@ void ShelfMeasurement::scroll(int step, int frames) {
 
 void ShelfMeasurement::scrolling() {
     constexpr int step = 40;
-    constexpr int frames = 250;
     m_shelf.enterNotch();
     turnUntil([this] { return m_shelf.isOpen(); });
     m_shelf.enterGrid();
     turnFor(400ms);
-    scroll(step, frames);
-    scroll(-step, frames);
+    scroll(step, scrolledFrames);
+    scroll(-step, scrolledFrames);
     m_watch.takeFrames();
-    scroll(step, frames);
-    scroll(-step, frames);
+    scroll(step, scrolledFrames);
+    scroll(-step, scrolledFrames);
     addFrames("scrolling");
 }
 
