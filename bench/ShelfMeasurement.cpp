@@ -66,13 +66,13 @@ void ShelfMeasurement::firstTiles() {
     };
     m_shelf.start();
     m_shelf.perform(QStringLiteral("open"));
-    turnUntil([&] { return pictures.has_value(); });
+    turnUntil([&] { return pictures.has_value(); }, "the pictures of the tiles did not come");
     m_watch.onTurn = [](Clock::time_point) {};
     m_watch.onFrame = [] {};
     m_figures["tiles"] = {millisecondsBetween(*scanned, *tiles)};
     m_figures["pictures"] = {millisecondsBetween(*scanned, *pictures)};
     m_shelf.perform(QStringLiteral("close"));
-    turnUntil([this] { return !m_shelf.isShown(); });
+    turnUntil([this] { return !m_shelf.isShown(); }, "the shelf did not close");
 }
 
 double ShelfMeasurement::timeTo(const std::function<void()> &move, const std::function<bool()> &isSeen) {
@@ -87,7 +87,7 @@ double ShelfMeasurement::timeTo(const std::function<void()> &move, const std::fu
     m_watch.takeFrames();
     const Clock::time_point start = Clock::now();
     move();
-    turnUntil([&seen] { return seen.has_value(); });
+    turnUntil([&seen] { return seen.has_value(); }, "no frame came");
     m_watch.onFrame = [] {};
     return millisecondsBetween(start, *seen);
 }
@@ -99,7 +99,7 @@ void ShelfMeasurement::openings(int rounds) {
         turnFor(300ms);
         addFrames("opening");
         m_shelf.leave();
-        turnUntil([this] { return !m_shelf.isShown(); });
+        turnUntil([this] { return !m_shelf.isShown(); }, "the shelf did not close");
         addFrames("closing");
     }
 }
@@ -114,7 +114,7 @@ void ShelfMeasurement::openingsAfterChanges(int rounds, const QDir &captures) {
             timeTo([this] { m_shelf.enterNotch(); }, [this] { return m_shelf.isOpen(); }));
         turnFor(300ms);
         m_shelf.leave();
-        turnUntil([this] { return !m_shelf.isShown(); });
+        turnUntil([this] { return !m_shelf.isShown(); }, "the shelf did not close");
     }
     m_watch.takeFrames();
 }
@@ -128,10 +128,10 @@ void ShelfMeasurement::bareOpenings(int rounds) {
             timeTo([&] { m_pointer.moveTo(bare.strip()); }, [] { return true; }));
         m_watch.takeFrames();
         bare.animate(15);
-        turnUntil([&bare] { return !bare.isAnimating(); });
+        turnUntil([&bare] { return !bare.isAnimating(); }, "the bare window did not paint");
         addFrames("bare-frame");
         m_shelf.leave();
-        turnUntil([&bare] { return !bare.isVisible(); });
+        turnUntil([&bare] { return !bare.isVisible(); }, "the bare window did not close");
     }
     m_watch.isWatched = watched;
 }
@@ -146,14 +146,14 @@ void ShelfMeasurement::scroll(int step, int frames) {
             next = m_shelf.scheduler().schedule(frameInterval, move);
     };
     next = m_shelf.scheduler().schedule(0ns, move);
-    turnUntil([&left] { return left == 0; });
+    turnUntil([&left] { return left == 0; }, "scrolling did not end");
     turnFor(50ms);
 }
 
 void ShelfMeasurement::scrolling() {
     constexpr int step = 40;
     m_shelf.enterNotch();
-    turnUntil([this] { return m_shelf.isOpen(); });
+    turnUntil([this] { return m_shelf.isOpen(); }, "the shelf did not open");
     m_shelf.enterGrid();
     turnFor(400ms);
     scroll(step, scrolledFrames);

@@ -15,6 +15,7 @@
 #include <QBuffer>
 #include <QFile>
 #include <QGuiApplication>
+#include <QImageReader>
 #include <QTemporaryDir>
 
 #include <cmath>
@@ -170,6 +171,8 @@ void measureGrowth() {
 int main(int argc, char **argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
+    // Qt reads no picture that is larger, unless it is told to.
+    QImageReader::setAllocationLimit(0);
     printArea("Screenshots of 3840 × 2160 and their edits");
     measureUsual("an interface", interfacePicture(usualSize, 1));
     measureUsual("a photograph", photoPicture(usualSize, 1));

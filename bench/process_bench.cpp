@@ -99,7 +99,7 @@ Idle idle(const Program &program, MapWatch &watch, std::chrono::seconds watched)
     watch.forget();
     const Child child({program.path});
     program.awaitReady();
-    std::this_thread::sleep_for(6s);
+    child.awaitRest();
     const long before = child.wakeUps();
     std::this_thread::sleep_for(watched);
     return {static_cast<double>(child.proportionalKiB()) / 1024, child.wakeUps() - before};
