@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Row.h"
+#include "Timing.h"
 
 #include <QByteArray>
 #include <QFile>

@@ -6,7 +6,9 @@
 #include <filesystem>
 #include <fstream>
 #include <spawn.h>
+#include <sstream>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 
 namespace tembra::bench {
@@ -22,6 +24,21 @@ long numberIn(const std::filesystem::path &file, const std::string &key) {
             return std::strtol(line.c_str() + key.size(), nullptr, 10);
     }
     return 0;
+}
+
+// In user and system mode, as /proc/PID/stat has it (proc(5)); the name before it may hold spaces.
+std::string processorTime(pid_t pid) {
+    std::ifstream file("/proc/" + std::to_string(pid) + "/stat");
+    std::string text;
+    std::getline(file, text, '\0');
+    std::istringstream words(text.substr(text.rfind(')') + 2));
+    std::string word;
+    for (int field = 3; field < 14; ++field)
+        words >> word;
+    std::string user;
+    std::string system;
+    words >> user >> system;
+    return user + ' ' + system;
 }
 
 } // namespace
@@ -45,6 +62,18 @@ Child::~Child() {
 
 long Child::proportionalKiB() const {
     return numberIn("/proc/" + std::to_string(m_pid) + "/smaps_rollup", "Pss:");
+}
+
+void Child::awaitRest() const {
+    using namespace std::chrono_literals;
+    std::string before;
+    int quietSeconds = 0;
+    while (quietSeconds < 3) {
+        std::this_thread::sleep_for(1s);
+        std::string used = processorTime(m_pid);
+        quietSeconds = used == before ? quietSeconds + 1 : 0;
+        before = std::move(used);
+    }
 }
 
 long Child::wakeUps() const {

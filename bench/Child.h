@@ -18,6 +18,8 @@ public:
     [[nodiscard]] std::chrono::steady_clock::time_point startedAt() const { return m_startedAt; }
     // Proportional set size in KiB, from /proc/PID/smaps_rollup.
     [[nodiscard]] long proportionalKiB() const;
+    // Until it has used no processor time for three seconds.
+    void awaitRest() const;
     // Times that any thread of the process was given a processor after waiting, from /proc/PID/task/*/status.
     [[nodiscard]] long wakeUps() const;
 

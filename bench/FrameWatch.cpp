@@ -34,7 +34,7 @@ bool FrameWatch::notify(QObject *receiver, QEvent *event) {
 
 void FrameWatch::finishTurn(Clock::time_point began, double processorBefore) {
     m_current.processor += processorMilliseconds() - processorBefore;
-    m_current.wall += std::chrono::duration<double, std::milli>(Clock::now() - began).count();
+    m_current.wall += millisecondsSince(began);
     if (std::exchange(m_painted, false)) {
         m_frames.push_back(std::exchange(m_current, {}));
         onFrame();

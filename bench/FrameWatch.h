@@ -1,8 +1,9 @@
 #pragma once
 
+#include "Timing.h"
+
 #include <QApplication>
 
-#include <chrono>
 #include <functional>
 #include <vector>
 
@@ -12,8 +13,6 @@ namespace tembra::bench {
 // all its work since the frame before, up to the end of the painting. What it sleeps in between is not work.
 class FrameWatch final : public QApplication {
 public:
-    using Clock = std::chrono::steady_clock;
-
     // Milliseconds by the clock and of the processor.
     struct Frame {
         double wall = 0;

@@ -1,5 +1,7 @@
 #include "RunningShelf.h"
 
+#include "Require.h"
+#include "Timing.h"
 #include "shelf/NativeScreenshotCell.h"
 #include "shelf/NativeScreenshotGrid.h"
 #include "shelf/ScreenshotCollectionView.h"
@@ -83,14 +85,11 @@ std::pair<int, int> RunningShelf::tiles() {
     return count;
 }
 
-void turnUntil(const std::function<bool()> &condition) {
-    const auto start = FrameWatch::Clock::now();
+void turnUntil(const std::function<bool()> &condition, const char *what) {
+    const auto start = Clock::now();
     while (!condition()) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents);
-        if (FrameWatch::Clock::now() - start > std::chrono::seconds(60)) {
-            std::fprintf(stderr, "waited in vain\n");
-            std::exit(1);
-        }
+        require(millisecondsSince(start) < 60'000, what);
     }
 }
 

@@ -45,7 +45,7 @@ private:
 };
 
 // Lets the event loop run until the condition is met, or for a while.
-void turnUntil(const std::function<bool()> &condition);
+void turnUntil(const std::function<bool()> &condition, const char *what);
 void turnFor(std::chrono::milliseconds time);
 
 } // namespace tembra::bench

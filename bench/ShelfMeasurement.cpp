@@ -1,9 +1,11 @@
 #include "ShelfMeasurement.h"
 
+#include "Timing.h"
 #include "shelf/NativeScreenshotGrid.h"
 #include "shelf/ScreenshotScrollView.h"
 #include "shelf/ShelfPanel.h"
 
+#include <QFile>
 #include <QScrollBar>
 
 #include <cstdlib>
@@ -16,14 +18,8 @@ using namespace std::chrono_literals;
 
 namespace {
 
-using Clock = FrameWatch::Clock;
-
-constexpr int openingRounds = 31;
 constexpr auto frameInterval = 16ms;
-
-double between(Clock::time_point from, Clock::time_point to) {
-    return std::chrono::duration<double, std::milli>(to - from).count();
-}
+constexpr int scrolledFrames = 150;
 
 // Waits until the display has done all that was asked of it.
 void synchronise() {
@@ -70,13 +66,13 @@ void ShelfMeasurement::firstTiles() {
     };
     m_shelf.start();
     m_shelf.perform(QStringLiteral("open"));
-    turnUntil([&] { return pictures.has_value(); });
+    turnUntil([&] { return pictures.has_value(); }, "the pictures of the tiles did not come");
     m_watch.onTurn = [](Clock::time_point) {};
     m_watch.onFrame = [] {};
-    m_figures["tiles"] = {between(*scanned, *tiles)};
-    m_figures["pictures"] = {between(*scanned, *pictures)};
+    m_figures["tiles"] = {millisecondsBetween(*scanned, *tiles)};
+    m_figures["pictures"] = {millisecondsBetween(*scanned, *pictures)};
     m_shelf.perform(QStringLiteral("close"));
-    turnUntil([this] { return !m_shelf.isShown(); });
+    turnUntil([this] { return !m_shelf.isShown(); }, "the shelf did not close");
 }
 
 double ShelfMeasurement::timeTo(const std::function<void()> &move, const std::function<bool()> &isSeen) {
@@ -91,36 +87,51 @@ double ShelfMeasurement::timeTo(const std::function<void()> &move, const std::fu
     m_watch.takeFrames();
     const Clock::time_point start = Clock::now();
     move();
-    turnUntil([&seen] { return seen.has_value(); });
+    turnUntil([&seen] { return seen.has_value(); }, "no frame came");
     m_watch.onFrame = [] {};
-    return between(start, *seen);
+    return millisecondsBetween(start, *seen);
 }
 
-void ShelfMeasurement::openings() {
-    for (int round = 0; round < openingRounds; ++round) {
+void ShelfMeasurement::openings(int rounds) {
+    for (int round = 0; round < rounds; ++round) {
         m_figures["notch"].push_back(
             timeTo([this] { m_shelf.enterNotch(); }, [this] { return m_shelf.isOpen(); }));
         turnFor(300ms);
         addFrames("opening");
         m_shelf.leave();
-        turnUntil([this] { return !m_shelf.isShown(); });
+        turnUntil([this] { return !m_shelf.isShown(); }, "the shelf did not close");
         addFrames("closing");
     }
 }
 
-void ShelfMeasurement::bareOpenings() {
+void ShelfMeasurement::openingsAfterChanges(int rounds, const QDir &captures) {
+    QStringList names = captures.entryList(QDir::Files);
+    for (int round = 0; round < rounds && names.size() > 1; ++round) {
+        QFile::remove(captures.filePath(names.takeLast()));
+        // Long enough for the shelf to know.
+        turnFor(600ms);
+        m_figures["changed-notch"].push_back(
+            timeTo([this] { m_shelf.enterNotch(); }, [this] { return m_shelf.isOpen(); }));
+        turnFor(300ms);
+        m_shelf.leave();
+        turnUntil([this] { return !m_shelf.isShown(); }, "the shelf did not close");
+    }
+    m_watch.takeFrames();
+}
+
+void ShelfMeasurement::bareOpenings(int rounds) {
     const auto watched = m_watch.isWatched;
     BareShelf bare(qEnvironmentVariable("COMPOSITOR") != u"none");
     m_watch.isWatched = [&bare](const QWidget &window) { return &window == &bare; };
-    for (int round = 0; round < openingRounds; ++round) {
+    for (int round = 0; round < rounds; ++round) {
         m_figures["bare-notch"].push_back(
             timeTo([&] { m_pointer.moveTo(bare.strip()); }, [] { return true; }));
         m_watch.takeFrames();
         bare.animate(15);
-        turnUntil([&bare] { return !bare.isAnimating(); });
+        turnUntil([&bare] { return !bare.isAnimating(); }, "the bare window did not paint");
         addFrames("bare-frame");
         m_shelf.leave();
-        turnUntil([&bare] { return !bare.isVisible(); });
+        turnUntil([&bare] { return !bare.isVisible(); }, "the bare window did not close");
     }
     m_watch.isWatched = watched;
 }
@@ -135,22 +146,21 @@ void ShelfMeasurement::scroll(int step, int frames) {
             next = m_shelf.scheduler().schedule(frameInterval, move);
     };
     next = m_shelf.scheduler().schedule(0ns, move);
-    turnUntil([&left] { return left == 0; });
+    turnUntil([&left] { return left == 0; }, "scrolling did not end");
     turnFor(50ms);
 }
 
 void ShelfMeasurement::scrolling() {
     constexpr int step = 40;
-    constexpr int frames = 250;
     m_shelf.enterNotch();
-    turnUntil([this] { return m_shelf.isOpen(); });
+    turnUntil([this] { return m_shelf.isOpen(); }, "the shelf did not open");
     m_shelf.enterGrid();
     turnFor(400ms);
-    scroll(step, frames);
-    scroll(-step, frames);
+    scroll(step, scrolledFrames);
+    scroll(-step, scrolledFrames);
     m_watch.takeFrames();
-    scroll(step, frames);
-    scroll(-step, frames);
+    scroll(step, scrolledFrames);
+    scroll(-step, scrolledFrames);
     addFrames("scrolling");
 }
 

@@ -5,6 +5,8 @@
 #include "RunningShelf.h"
 #include "TestPointer.h"
 
+#include <QDir>
+
 #include <map>
 #include <string>
 
@@ -22,9 +24,11 @@ public:
     void firstTiles();
     // From the pointer's coming into the notch to the first frame that shows something, and each frame of
     // opening and closing.
-    void openings();
-    // The same for the bare window.
-    void bareOpenings();
+    void openings(int rounds);
+    // The first frame when a capture has gone since the shelf was open.
+    void openingsAfterChanges(int rounds, const QDir &captures);
+    // The first frame of the bare window, and each that follows.
+    void bareOpenings(int rounds);
     // Each frame of scrolling there and back over the same tiles.
     void scrolling();
     // The memory of the process when every tile has been seen.

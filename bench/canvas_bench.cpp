@@ -5,6 +5,7 @@
 #include "InterfacePictures.h"
 #include "Memory.h"
 #include "Row.h"
+#include "Timing.h"
 #include "editor/canvas/ScreenshotCanvasView.h"
 #include "support/FakePasteboard.h"
 #include "support/ManualScheduler.h"
@@ -79,29 +80,28 @@ double mouse(QWidget &widget, QEvent::Type type, QPointF point, Qt::KeyboardModi
 
 struct Drag {
     std::vector<double> moves;
-    double press = 0;
-    double release = 0;
+    // Of the press and the release too.
+    double longest = 0;
 };
 
 Drag drag(QWidget &canvas, QPointF from, QPointF to) {
     Drag drag;
-    drag.press = mouse(canvas, QEvent::MouseButtonPress, from);
+    drag.longest = mouse(canvas, QEvent::MouseButtonPress, from);
     constexpr int steps = 120;
     for (int step = 1; step <= steps; ++step)
         drag.moves.push_back(mouse(canvas, QEvent::MouseMove, from + (to - from) * step / steps));
-    drag.release = mouse(canvas, QEvent::MouseButtonRelease, to);
+    drag.longest =
+        std::max({drag.longest, mouse(canvas, QEvent::MouseButtonRelease, to), longest(drag.moves)});
     return drag;
 }
 
-double highest(const std::vector<double> &values) {
-    return *std::ranges::max_element(values);
-}
-
-void report(const char *what, const Drag &drag, double floor) {
-    std::printf(
-        "%-28s frame %6.2f ms (longest %6.2f), press %6.2f, release %6.2f; filling the window %.2f  %s\n",
-        what, median(drag.moves), highest(drag.moves), drag.press, drag.release, floor,
-        median(drag.moves) <= 8 ? "pass" : "FALLS SHORT");
+// Of a hundred frames the 95th: single ones are another program's turn on a shared machine.
+void report(const std::string &what, const std::vector<double> &frames, double floor, double goal) {
+    printRow({.what = what + ", 95th of 100",
+              .ours = quantile(frames, 0.95),
+              .unit = "ms",
+              .peer = Peer{"filling the window", floor},
+              .goal = atMost(goal)});
 }
 
 void awaitExposed(QWidget &window) {
@@ -124,17 +124,46 @@ double fillWindow() {
     return median(fills);
 }
 
-void zoom(ScreenshotCanvasView &canvas, double floor) {
+std::vector<double> zoom(ScreenshotCanvasView &canvas) {
     std::vector<double> steps;
-    for (const int delta : {120, -120}) {
-        for (int step = 0; step < 12; ++step) {
-            QWheelEvent event(QPointF(600, 350), canvas.mapToGlobal(QPointF(600, 350)), {}, {0, delta},
-                              Qt::NoButton, Qt::ControlModifier, Qt::NoScrollPhase, false);
+    for (int round = 0; round < 4; ++round) {
+        for (int step = 0; step < 24; ++step) {
+            QWheelEvent event(QPointF(600, 350), canvas.mapToGlobal(QPointF(600, 350)), {},
+                              {0, step < 12 ? 120 : -120}, Qt::NoButton, Qt::ControlModifier,
+                              Qt::NoScrollPhase, false);
             steps.push_back(frame(canvas, event));
         }
     }
-    std::printf("%-28s step  %6.2f ms (longest %6.2f); filling the window %.2f  %s\n", "zoom", median(steps),
-                highest(steps), floor, median(steps) <= 16 ? "pass" : "FALLS SHORT");
+    return steps;
+}
+
+void measure(ScreenshotCanvasView &canvas, ScreenshotEditDocument &document, double floor) {
+    double longestStep = 0;
+    const auto reportDrag = [&](const std::string &what, QPointF from, QPointF to) {
+        const Drag made = drag(canvas, from, to);
+        report(what, made.moves, floor, 8);
+        longestStep = std::max(longestStep, made.longest);
+    };
+    for (const auto &[name, tool] : {std::pair{"an arrow", EditorTool::arrow},
+                                     {"with the pencil", EditorTool::pencil},
+                                     {"a rectangle", EditorTool::rectangle},
+                                     {"an ellipse", EditorTool::ellipse},
+                                     {"a blur", EditorTool::blur}}) {
+        canvas.setTool(tool);
+        reportDrag(std::string("a frame drawing ") + name, {120, 100}, {1'100, 560});
+    }
+    canvas.setTool(EditorTool::select);
+    document.setSelectedIDs({document.annotations().front().id});
+    const QPointF middle = canvas.viewport().toView(QPointF(140, 95));
+    reportDrag("a frame moving the lowest of them", middle, middle + QPointF(500, 300));
+    canvas.selectAll();
+    const QPointF grip = canvas.viewport().toView(document.annotations()[3].path().boundingRect().center());
+    reportDrag("a frame moving all of them", grip, grip + QPointF(40, 30));
+    printRow({.what = "longest step of all these, press and release too",
+              .ours = longestStep,
+              .unit = "ms",
+              .peer = Peer{"filling the window", floor}});
+    report("a zoom step", zoom(canvas), floor, 16);
 }
 
 } // namespace
@@ -162,22 +191,12 @@ int main(int argc, char **argv) {
     document.apply(all, {}, QStringLiteral("all"));
     QCoreApplication::processEvents();
 
-    for (const auto &[name, tool] : {std::pair{"arrow", EditorTool::arrow},
-                                     {"pencil", EditorTool::pencil},
-                                     {"rectangle", EditorTool::rectangle},
-                                     {"ellipse", EditorTool::ellipse},
-                                     {"blur", EditorTool::blur}}) {
-        canvas.setTool(tool);
-        report(name, drag(canvas, {120, 100}, {1'100, 560}), floor);
-    }
-    canvas.setTool(EditorTool::select);
-    document.setSelectedIDs({all[0].id});
-    const QPointF middle = canvas.viewport().toView(QPointF(140, 95));
-    report("moving the lowest of them", drag(canvas, middle, middle + QPointF(500, 300)), floor);
-    canvas.selectAll();
-    const QPointF grip = canvas.viewport().toView(document.annotations()[3].path().boundingRect().center());
-    report("moving all of them", drag(canvas, grip, grip + QPointF(40, 30)), floor);
-    zoom(canvas, floor);
-    const double decoded = 4.0 * imageSize.width() * imageSize.height() / 1'048'576;
-    printRow("memory of document and canvas / decoded image", memory().now - before, decoded, "MiB", 2.5);
+    printArea("The editor's canvas, 3840 × 2160 in 1280 × 800, 200 annotations");
+    measure(canvas, document, floor);
+    printRow({.what = "memory of document and canvas",
+              .ours = memory().now - before,
+              .unit = "MiB",
+              .peer = Peer{"the decoded image", 4.0 * imageSize.width() * imageSize.height() / 1'048'576},
+              .goal = atMostTimes(2.5)});
+    return EXIT_SUCCESS;
 }

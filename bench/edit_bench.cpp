@@ -1,10 +1,12 @@
 // Saves and openings of a screenshot of 3840 × 2160 with ten annotations and a blur, beside what Qt alone
-// needs to write and to read the same pixels as PNG. Run through bench/run.
+// needs to write and to read the same pixels as PNG; and how they grow with the screenshot.
 
 #include "InterfacePictures.h"
 #include "Memory.h"
 #include "PhotoPictures.h"
+#include "PictureSizes.h"
 #include "Row.h"
+#include "Timing.h"
 #include "base/QtScheduler.h"
 #include "base/ThreadQueue.h"
 #include "editor/model/ScreenshotEditStore.h"
@@ -13,6 +15,7 @@
 #include <QBuffer>
 #include <QFile>
 #include <QGuiApplication>
+#include <QImageReader>
 #include <QTemporaryDir>
 
 #include <cmath>
@@ -25,8 +28,8 @@ namespace {
 
 using Kind = ScreenshotAnnotation::Kind;
 
-constexpr QSize size(3'840, 2'160);
-constexpr int rounds = 7;
+constexpr QSize usualSize(3'840, 2'160);
+constexpr double mebibyte = 1'024 * 1'024;
 
 template <class T>
 T require(Result<T> result) {
@@ -36,6 +39,7 @@ T require(Result<T> result) {
     std::exit(1);
 }
 
+// In the pixels of a screenshot of the usual size.
 ScreenshotAnnotation annotation(Kind kind, int number) {
     const double x = 200.0 + 300.0 * number;
     const double y = 300.0 + 120.0 * (number % 4);
@@ -60,7 +64,23 @@ ScreenshotAnnotation annotation(Kind kind, int number) {
     return annotation;
 }
 
-std::vector<ScreenshotAnnotation> annotations() {
+void scale(ScreenshotAnnotation &annotation, double factor) {
+    for (EditorPoint &point : annotation.points)
+        point = {point.x * factor, point.y * factor};
+    annotation.width *= factor;
+    if (annotation.bendPoint)
+        annotation.bendPoint =
+            EditorPoint{annotation.bendPoint->x * factor, annotation.bendPoint->y * factor};
+    if (annotation.text) {
+        annotation.text->fontSize *= factor;
+        annotation.text->maximumWidth *= factor;
+    }
+    if (annotation.number)
+        annotation.number->diameter *= factor;
+}
+
+// Ten and a blur, as large on each screenshot.
+std::vector<ScreenshotAnnotation> annotations(QSize size) {
     std::vector<ScreenshotAnnotation> all;
     for (const Kind kind : {Kind::arrow, Kind::arrow, Kind::pencil, Kind::line, Kind::rectangle,
                             Kind::rectangle, Kind::ellipse, Kind::text, Kind::number, Kind::number})
@@ -69,10 +89,19 @@ std::vector<ScreenshotAnnotation> annotations() {
     blur.points = {{1'000, 1'200}, {1'600, 1'400}};
     blur.blur = EditorBlur{EditorBlur::Strength::strong};
     all.push_back(blur);
+    for (ScreenshotAnnotation &annotation : all)
+        scale(annotation, double(size.width()) / usualSize.width());
     return all;
 }
 
-void measure(const char *name, const QImage &image) {
+// In milliseconds and MiB.
+struct Figures {
+    Medians opening;
+    Medians saving;
+    double memory = 0;
+};
+
+Figures measure(const QImage &image, int rounds) {
     QtScheduler scheduler;
     ThreadQueue queue(QStringLiteral("Tembra.Editor.IO"));
     const Platform platform = makeHeadlessPlatform(scheduler);
@@ -83,35 +112,58 @@ void measure(const char *name, const QImage &image) {
     const QString shot = folder.filePath(QStringLiteral("shot.png"));
     image.save(shot);
 
-    std::vector<double> opening;
-    std::vector<double> reading;
-    std::vector<double> saving;
-    std::vector<double> writing;
+    Figures figures;
     auto loaded = require(store.load(shot, {}));
-    for (int round = 0; round < rounds; ++round) {
-        opening.push_back(milliseconds([&] { loaded = require(store.load(shot, {})); }));
-        reading.push_back(milliseconds([&] { static_cast<void>(QImage(shot)); }));
-    }
-    const auto drawn = annotations();
-    double peak = 0;
+    figures.opening = takingTurns(
+        rounds, [&] { loaded = require(store.load(shot, {})); }, [&] { static_cast<void>(QImage(shot)); });
+    const auto drawn = annotations(image.size());
+    const auto save = [&] { loaded = require(store.save(loaded, drawn, {})).loaded; };
+    save();
+    const QImage saved(shot);
+    std::vector<double> ours;
+    std::vector<double> theirs;
     for (int round = 0; round < rounds; ++round) {
         const Memory before = memory();
-        saving.push_back(milliseconds([&] { loaded = require(store.save(loaded, drawn, {})).loaded; }));
-        peak = std::max(peak, memory().most - before.now);
-        const QImage saved(shot);
-        writing.push_back(milliseconds([&] {
+        ours.push_back(milliseconds(save));
+        figures.memory = std::max(figures.memory, memory().most - before.now);
+        theirs.push_back(milliseconds([&saved] {
             QBuffer buffer;
             buffer.open(QIODevice::WriteOnly);
             saved.save(&buffer, "PNG");
         }));
     }
-    std::printf("%s, %d × %d\n", name, size.width(), size.height());
-    printRow("save, ten annotations and a blur / Qt's PNG writer", median(saving), median(writing), "ms",
-             0.5);
-    printRow("load to preview / Qt's PNG reader", median(opening), median(reading), "ms", 0.6);
-    constexpr double megabytes = 1'024 * 1'024;
-    const double copies = 3.0 * image.sizeInBytes() / megabytes;
-    printRow("memory of a save / original, output, blurred copy", peak, copies, "MiB", 1.2);
+    figures.saving = {median(ours), median(theirs)};
+    return figures;
+}
+
+void measureUsual(const std::string &name, const QImage &image) {
+    const Figures figures = measure(image, 5);
+    printRow({.what = "save with ten annotations and a blur, " + name,
+              .ours = figures.saving.ours,
+              .unit = "ms",
+              .peer = Peer{"Qt's PNG writer", figures.saving.theirs},
+              .goal = atMostTimes(0.5)});
+    printRow({.what = "load to preview, " + name,
+              .ours = figures.opening.ours,
+              .unit = "ms",
+              .peer = Peer{"Qt's PNG reader", figures.opening.theirs},
+              .goal = atMostTimes(0.6)});
+    printRow({.what = "memory of a save, " + name,
+              .ours = figures.memory,
+              .unit = "MiB",
+              .peer = Peer{"original, output, blurred copy", 3.0 * image.sizeInBytes() / mebibyte},
+              .goal = atMostTimes(1.2)});
+}
+
+void measureGrowth() {
+    for (const PictureSize &size : pictureSizes) {
+        const Figures figures = measure(interfacePicture(size.pixels, 1), 3);
+        printGrowth("megapixels", size.megapixels, "load to preview", "ms", figures.opening.ours);
+        printGrowth("megapixels", size.megapixels, "Qt's PNG reader", "ms", figures.opening.theirs);
+        printGrowth("megapixels", size.megapixels, "save with annotations", "ms", figures.saving.ours);
+        printGrowth("megapixels", size.megapixels, "Qt's PNG writer", "ms", figures.saving.theirs);
+        printGrowth("megapixels", size.megapixels, "memory of a save", "MiB", figures.memory);
+    }
 }
 
 } // namespace
@@ -119,6 +171,11 @@ void measure(const char *name, const QImage &image) {
 int main(int argc, char **argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
-    measure("interface", interfacePicture(size, 1));
-    measure("photograph", photoPicture(size, 1));
+    // Qt reads no picture that is larger, unless it is told to.
+    QImageReader::setAllocationLimit(0);
+    printArea("Screenshots of 3840 × 2160 and their edits");
+    measureUsual("an interface", interfacePicture(usualSize, 1));
+    measureUsual("a photograph", photoPicture(usualSize, 1));
+    measureGrowth();
+    return EXIT_SUCCESS;
 }

@@ -1,9 +1,12 @@
 // Pictures written, read, blurred and told by their checksum, beside what Qt and OpenCV do of it in the same
-// run, on as many threads. Run through bench/run.
+// run, on as many threads; and how that grows with the picture.
 
 #include "InterfacePictures.h"
 #include "PhotoPictures.h"
+#include "PictureSizes.h"
+#include "Require.h"
 #include "Row.h"
+#include "Timing.h"
 #include "imaging/GaussianBlur.h"
 #include "imaging/PictureDecoding.h"
 #include "imaging/PngEncoder.h"
@@ -27,21 +30,6 @@ using namespace tembra::bench;
 namespace {
 
 constexpr int rounds = 5;
-
-void require(bool condition, const char *what) {
-    if (condition)
-        return;
-    std::fprintf(stderr, "%s\n", what);
-    std::exit(1);
-}
-
-template <class Work>
-double medianMilliseconds(int count, const Work &work) {
-    std::vector<double> times;
-    for (int round = 0; round < count; ++round)
-        times.push_back(milliseconds(work));
-    return median(times);
-}
 
 QByteArray writtenByQt(const QImage &image) {
     QByteArray bytes;
@@ -85,65 +73,116 @@ QImage illustratedPicture(QSize size, double share) {
     return image;
 }
 
-void measureEncoding(const char *kind, const QImage &image, double speedGoal, double sizeGoal) {
+// A goal for the time, and one for the size, each as a share of Qt's.
+struct EncodingGoals {
+    double time = 0;
+    double size = 0;
+};
+
+constexpr EncodingGoals interfaceGoals{1.0 / 3, 1};
+constexpr EncodingGoals mixedGoals{1.0 / 3, 1.1};
+constexpr EncodingGoals photographGoals{0.1, 1.1};
+
+void measureEncoding(const char *kind, const QImage &image, const EncodingGoals &goals) {
     const PictureMetadata metadata;
     qsizetype ourSize = 0;
     qsizetype theirSize = 0;
     // As the program does it: again and again.
     (void)encodePng(image, metadata);
-    const double ours = medianMilliseconds(rounds, [&] { ourSize = encodePng(image, metadata)->size(); });
-    const double theirs = medianMilliseconds(3, [&] { theirSize = writtenByQt(image).size(); });
-    const std::string what = std::string(kind) + " " + std::to_string(image.width()) + " × " +
-                             std::to_string(image.height()) + " written / Qt";
-    printRow(what.c_str(), ours, theirs, "ms", speedGoal);
-    printRow("  its size", static_cast<double>(ourSize) / 1024, static_cast<double>(theirSize) / 1024, "KiB",
-             sizeGoal);
+    const Medians times = takingTurns(
+        3, [&] { ourSize = encodePng(image, metadata)->size(); },
+        [&] { theirSize = writtenByQt(image).size(); });
+    const std::string what = std::string(kind) + ", " + std::to_string(image.width()) + " × " +
+                             std::to_string(image.height()) + ", as PNG";
+    printRow({.what = what,
+              .ours = times.ours,
+              .unit = "ms",
+              .peer = Peer{"Qt's writer", times.theirs},
+              .goal = atMostTimes(goals.time)});
+    printRow({.what = what + ", its size",
+              .ours = static_cast<double>(ourSize) / 1024,
+              .unit = "KiB",
+              .peer = Peer{"Qt's writer", static_cast<double>(theirSize) / 1024},
+              .goal = atMostTimes(goals.size)});
 }
 
 void measureDecoding(const char *kind, const QImage &image) {
     QByteArray file = writtenByQt(image);
     require(decodePicture(file) == readByQt(file).convertToFormat(QImage::Format_RGB32), "decoded otherwise");
-    const double ours = medianMilliseconds(rounds, [&] { (void)decodePicture(file); });
-    const double reduced = medianMilliseconds(rounds, [&] { (void)decodePicture(file, 2560); });
-    const double theirs = medianMilliseconds(rounds, [&] { (void)readByQt(file); });
-    printRow((std::string(kind) + " read / Qt").c_str(), ours, theirs, "ms", 0.7);
-    printRow((std::string(kind) + " read at 2560 / Qt in full").c_str(), reduced, theirs, "ms", 1);
+    const Medians whole = takingTurns(
+        rounds, [&] { (void)decodePicture(file); }, [&] { (void)readByQt(file); });
+    const Medians reduced = takingTurns(
+        rounds, [&] { (void)decodePicture(file, 2560); }, [&] { (void)readByQt(file); });
+    printRow({.what = std::string(kind) + " read from PNG",
+              .ours = whole.ours,
+              .unit = "ms",
+              .peer = Peer{"Qt's reader", whole.theirs},
+              .goal = atMostTimes(0.7)});
+    printRow({.what = std::string(kind) + " read at 2560",
+              .ours = reduced.ours,
+              .unit = "ms",
+              .peer = Peer{"Qt's reader, whole", reduced.theirs},
+              .goal = atMostTimes(1)});
 }
 
-void measureBlur(const QImage &image) {
-    const double whole = medianMilliseconds(rounds, [&] { (void)gaussianBlurred(image, image.rect(), 28); });
-    const double part = medianMilliseconds(21, [&] {
-        (void)gaussianBlurred(image, {1500, 900, 600, 200}, 28);
-    });
+void measureWholeBlur(const QImage &image, double sigma, double goal) {
+    const auto ours = [&] { (void)gaussianBlurred(image, image.rect(), sigma); };
+    Row row{.what = "3840 × 2160 blurred by " + std::to_string(static_cast<int>(sigma)),
+            .unit = "ms",
+            .goal = atMostTimes(goal)};
 #ifdef TEMBRA_BENCH_OPENCV
     cv::setNumThreads(2);
     QImage copy = image;
     const cv::Mat source(copy.height(), copy.width(), CV_8UC4, copy.bits(),
                          static_cast<std::size_t>(copy.bytesPerLine()));
     cv::Mat target;
-    const auto theirs = [&](double sigma) {
-        return medianMilliseconds(
-            3, [&] { cv::GaussianBlur(source, target, {}, sigma, sigma, cv::BORDER_REPLICATE); });
-    };
-    printRow("3840 × 2160 blurred by 28 / OpenCV", whole, theirs(28), "ms", 0.1);
-    for (const double sigma : {8.0, 16.0}) {
-        const double ours =
-            medianMilliseconds(rounds, [&] { (void)gaussianBlurred(image, image.rect(), sigma); });
-        printRow(sigma == 8 ? "3840 × 2160 blurred by 8 / OpenCV" : "3840 × 2160 blurred by 16 / OpenCV",
-                 ours, theirs(sigma), "ms", 1);
-    }
+    const Medians times = takingTurns(
+        rounds, ours, [&] { cv::GaussianBlur(source, target, {}, sigma, sigma, cv::BORDER_REPLICATE); });
+    row.ours = times.ours;
+    row.peer = Peer{"OpenCV, two threads", times.theirs};
 #else
-    std::printf("3840 × 2160 blurred by 28: %.2f ms; OpenCV is not installed\n", whole);
+    row.ours = medianMilliseconds(rounds, ours);
 #endif
-    printRow("600 × 200 of it blurred by 28 / two milliseconds", part, 2, "ms", 1);
+    printRow(row);
+}
+
+void measureBlur(const QImage &image) {
+#ifndef TEMBRA_BENCH_OPENCV
+    printNote("OpenCV is not installed");
+#endif
+    measureWholeBlur(image, 28, 0.1);
+    measureWholeBlur(image, 16, 1);
+    measureWholeBlur(image, 8, 1);
+    printRow({.what = "600 × 200 of it blurred by 28",
+              .ours = medianMilliseconds(21,
+                                         [&] {
+                                             (void)gaussianBlurred(image, {1500, 900, 600, 200}, 28);
+                                         }),
+              .unit = "ms",
+              .goal = atMost(2)});
 }
 
 void measureChecksum() {
     const QByteArray bytes(16 << 20, 'x');
-    const double ours = medianMilliseconds(rounds, [&] { (void)sha256Hex(bytes); });
-    const double theirs = medianMilliseconds(
-        rounds, [&] { (void)QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex(); });
-    printRow("SHA-256 of 16 MiB / Qt", ours, theirs, "ms", 0.5);
+    const Medians times = takingTurns(
+        rounds, [&] { (void)sha256Hex(bytes); },
+        [&] { (void)QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex(); });
+    printRow({.what = "SHA-256 of 16 MiB",
+              .ours = times.ours,
+              .unit = "ms",
+              .peer = Peer{"Qt's", times.theirs},
+              .goal = atMostTimes(0.5)});
+}
+
+void measureSizes() {
+    for (const PictureSize &size : pictureSizes) {
+        const QImage image = interfacePicture(size.pixels, 1);
+        (void)encodePng(image, {});
+        printGrowth("megapixels", size.megapixels, "written as PNG", "ms",
+                    medianMilliseconds(3, [&] { (void)encodePng(image, {}); }));
+        printGrowth("megapixels", size.megapixels, "blurred whole by 28", "ms",
+                    medianMilliseconds(3, [&] { (void)gaussianBlurred(image, image.rect(), 28); }));
+    }
 }
 
 } // namespace
@@ -151,20 +190,21 @@ void measureChecksum() {
 int main(int argc, char **argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
-    constexpr double interfaceGoal = 1.0 / 3;
-    for (const QSize size : {QSize(1920, 1080), QSize(3840, 2160)}) {
-        measureEncoding("A page", sparsePicture(size), interfaceGoal, 1);
-        measureEncoding("An interface", interfacePicture(size, 1), interfaceGoal, 1);
-        measureEncoding("Another interface", interfacePicture(size, 6), interfaceGoal, 1);
-        measureEncoding("A page with a small photo", illustratedPicture(size, 0.3), interfaceGoal, 1.1);
-        measureEncoding("A page with a large photo", illustratedPicture(size, 0.65), interfaceGoal, 1.1);
-        measureEncoding("Windows over a photo", mixedPicture(size), interfaceGoal, 1.1);
-        measureEncoding("A photo", photoPicture(size, 1), 0.1, 1.1);
-    }
+    printArea("Pictures");
     constexpr QSize large(3840, 2160);
-    measureDecoding("An interface", interfacePicture(large, 1));
-    measureDecoding("A photo", photoPicture(large, 1));
+    for (const QSize size : {QSize(1920, 1080), large}) {
+        measureEncoding("a page", sparsePicture(size), interfaceGoals);
+        measureEncoding("an interface", interfacePicture(size, 1), interfaceGoals);
+        measureEncoding("a photograph", photoPicture(size, 1), photographGoals);
+    }
+    measureEncoding("another interface", interfacePicture(large, 6), interfaceGoals);
+    measureEncoding("a page with a small photograph", illustratedPicture(large, 0.3), mixedGoals);
+    measureEncoding("a page with a large photograph", illustratedPicture(large, 0.65), mixedGoals);
+    measureEncoding("windows over a photograph", mixedPicture(large), mixedGoals);
+    measureDecoding("an interface", interfacePicture(large, 1));
+    measureDecoding("a photograph", photoPicture(large, 1));
     measureBlur(photoPicture(large, 2));
     measureChecksum();
-    return 0;
+    measureSizes();
+    return EXIT_SUCCESS;
 }

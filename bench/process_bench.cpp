@@ -1,33 +1,37 @@
-// process_bench TEMBRA BARE CAPTURES: start-up time, idle memory and idle wake-ups of the program, beside a
-// bare Qt Widgets window in the same run. Needs an X display without a window manager; CAPTURES files are
-// known to the program while it idles. Run through bench/run.
+// process_bench TEMBRA BARE: start-up time, idle memory and idle wake-ups of the program, beside a bare Qt
+// Widgets window and beside other screenshot programs, and how its idle memory grows with the captures. Needs
+// an X display without a window manager, and a session bus. Run through bench/run.
 
 #include "Child.h"
+#include "Require.h"
 #include "Row.h"
+#include "Timing.h"
+#include "UserHome.h"
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QStandardPaths>
 
 #include <xcb/xcb.h>
 
-#include <algorithm>
-#include <cstdio>
 #include <cstdlib>
 #include <functional>
-#include <poll.h>
 #include <thread>
+#include <vector>
 
 using namespace std::chrono_literals;
 using namespace tembra::bench;
-using Milliseconds = std::chrono::duration<double, std::milli>;
 
 namespace {
+
+constexpr int usualCount = 10'000;
 
 // Sees the windows that programs map.
 class MapWatch {
 public:
     MapWatch() : m_connection(xcb_connect(nullptr, nullptr)) {
-        if (xcb_connection_has_error(m_connection)) {
-            std::fprintf(stderr, "no display\n");
-            std::exit(1);
-        }
+        require(!xcb_connection_has_error(m_connection), "no display");
         const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data->root;
         const uint32_t mask = XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
         xcb_change_window_attributes(m_connection, root, XCB_CW_EVENT_MASK, &mask);
@@ -43,65 +47,162 @@ public:
             std::free(event);
     }
 
-    // When the next window appears.
-    std::chrono::steady_clock::time_point next() {
+    // Until the next window appears.
+    void awaitNext() {
         while (xcb_generic_event_t *event = xcb_wait_for_event(m_connection)) {
             const bool mapped = (event->response_type & 0x7f) == XCB_MAP_NOTIFY;
             std::free(event);
             if (mapped)
-                return std::chrono::steady_clock::now();
+                return;
         }
-        std::exit(1);
+        require(false, "the display went");
     }
 
 private:
     xcb_connection_t *m_connection;
 };
 
-double startMilliseconds(const std::string &program, MapWatch &watch) {
+// A program, and how it is known that it is there.
+struct Program {
+    std::string path;
+    std::function<void()> awaitReady;
+};
+
+// Until the program's main thread answers on the bus, be it only that it has no such method.
+void awaitAnswer(const QString &service, const QString &object) {
+    const auto start = Clock::now();
+    auto question = QDBusMessage::createMethodCall(service, object, service, QStringLiteral("Nothing"));
+    // Else the bus would start another one.
+    question.setAutoStartService(false);
+    while (QDBusConnection::sessionBus().call(question).errorName() !=
+           u"org.freedesktop.DBus.Error.UnknownMethod") {
+        require(millisecondsSince(start) < 20'000, "a program did not come up");
+        std::this_thread::sleep_for(1ms);
+    }
+}
+
+double startMilliseconds(const Program &program, MapWatch &watch) {
     watch.forget();
-    const Child child({program});
-    const double elapsed = Milliseconds(watch.next() - child.startedAt()).count();
+    const Child child({program.path});
+    program.awaitReady();
+    const double elapsed = millisecondsSince(child.startedAt());
     std::this_thread::sleep_for(300ms);
     return elapsed;
 }
 
 struct Idle {
-    double kibibytes = 0;
+    double mebibytes = 0;
     long wakeUps = 0;
 };
 
-Idle idle(const std::string &program, MapWatch &watch) {
+Idle idle(const Program &program, MapWatch &watch, std::chrono::seconds watched) {
     watch.forget();
-    const Child child({program});
-    watch.next();
-    std::this_thread::sleep_for(5s);
+    const Child child({program.path});
+    program.awaitReady();
+    child.awaitRest();
     const long before = child.wakeUps();
-    std::this_thread::sleep_for(10s);
-    return {static_cast<double>(child.proportionalKiB()), child.wakeUps() - before};
+    std::this_thread::sleep_for(watched);
+    return {static_cast<double>(child.proportionalKiB()) / 1024, child.wakeUps() - before};
+}
+
+// Another program that waits for a screenshot to be taken, and what its start and ours are told by.
+struct Other {
+    std::string name;
+    std::string sign;
+    Program theirs;
+    std::function<void()> awaitOurs;
+    std::vector<double> theirStarts{};
+    std::vector<double> ourStarts{};
+};
+
+// Those that are installed.
+std::vector<Other> others(MapWatch &watch) {
+    const auto awaitWindow = [&watch] { watch.awaitNext(); };
+    const auto awaitFlameshot = [] {
+        awaitAnswer(QStringLiteral("org.flameshot.Flameshot"), QStringLiteral("/"));
+    };
+    const auto awaitTembra = [] {
+        awaitAnswer(QStringLiteral("app.tembra.Tembra"), QStringLiteral("/app/tembra/Tembra"));
+    };
+    std::vector<Other> installed;
+    for (Other other : {Other{"flameshot", "an answer on the bus", {"", awaitFlameshot}, awaitTembra},
+                        Other{"ksnip", "a window mapped", {"", awaitWindow}, awaitWindow}}) {
+        other.theirs.path = QStandardPaths::findExecutable(QString::fromStdString(other.name)).toStdString();
+        if (other.theirs.path.empty())
+            printNote(other.name + " is not installed");
+        else
+            installed.push_back(std::move(other));
+    }
+    return installed;
+}
+
+void measureStart(const Program &ours, const Program &bare, std::vector<Other> others, MapWatch &watch) {
+    std::vector<double> ourStarts;
+    std::vector<double> bareStarts;
+    for (int round = 0; round < 11; ++round) {
+        bareStarts.push_back(startMilliseconds(bare, watch));
+        ourStarts.push_back(startMilliseconds(ours, watch));
+    }
+    printRow({.what = "start to the shelf reacting",
+              .ours = median(ourStarts),
+              .unit = "ms",
+              .peer = Peer{"a bare Qt window mapped", median(bareStarts)},
+              .goal = atMostTimes(2)});
+    for (Other &other : others) {
+        for (int round = 0; round < 5; ++round) {
+            other.theirStarts.push_back(startMilliseconds(other.theirs, watch));
+            other.ourStarts.push_back(startMilliseconds({ours.path, other.awaitOurs}, watch));
+        }
+        printRow({.what = "start to " + other.sign,
+                  .ours = median(other.ourStarts),
+                  .unit = "ms",
+                  .peer = Peer{other.name, median(other.theirStarts)}});
+    }
+}
+
+void measureIdle(const Program &ours, const Program &bare, const std::vector<Other> &others,
+                 MapWatch &watch) {
+    const Idle bareIdle = idle(bare, watch, 10s);
+    const Idle ourIdle = idle(ours, watch, 10s);
+    printRow({.what = "idle proportional memory",
+              .ours = ourIdle.mebibytes,
+              .unit = "MiB",
+              .peer = Peer{"a bare Qt window", bareIdle.mebibytes},
+              .goal = atMostTimes(1.8)});
+    for (const Other &other : others)
+        printRow({.what = "idle proportional memory",
+                  .ours = ourIdle.mebibytes,
+                  .unit = "MiB",
+                  .peer = Peer{other.name, idle(other.theirs, watch, 0s).mebibytes}});
+    printRow({.what = "wake-ups in 10 idle seconds",
+              .ours = double(ourIdle.wakeUps),
+              .peer = Peer{"a bare Qt window", double(bareIdle.wakeUps)},
+              .goal = atMost(0)});
+    printGrowth("captures", usualCount, "idle proportional memory", "MiB", ourIdle.mebibytes);
 }
 
 } // namespace
 
 int main(int argc, char **argv) {
-    if (argc != 4) {
-        std::fprintf(stderr, "usage: process_bench TEMBRA BARE CAPTURES\n");
+    if (argc != 3) {
+        std::fprintf(stderr, "usage: process_bench TEMBRA BARE\n");
         return 2;
     }
+    const QCoreApplication application(argc, argv);
     MapWatch watch;
-    std::vector<double> ours;
-    std::vector<double> bare;
-    for (int round = 0; round < 11; ++round) {
-        bare.push_back(startMilliseconds(argv[2], watch));
-        ours.push_back(startMilliseconds(argv[1], watch));
+    const auto awaitWindow = [&watch] { watch.awaitNext(); };
+    const Program ours{argv[1], awaitWindow};
+    {
+        const UserHome home(usualCount);
+        const Program bare{argv[2], awaitWindow};
+        printArea("The process, 10,000 captures known");
+        const std::vector<Other> installed = others(watch);
+        measureStart(ours, bare, installed, watch);
+        measureIdle(ours, bare, installed, watch);
     }
-    printRow("start to shelf reacting / window mapped", median(ours), median(bare), "ms", 2.0);
-
-    const Idle bareIdle = idle(argv[2], watch);
-    const Idle ourIdle = idle(argv[1], watch);
-    std::printf("%s captures known\n", argv[3]);
-    printRow("idle proportional memory", ourIdle.kibibytes / 1024, bareIdle.kibibytes / 1024, "MiB", 1.8);
-    std::printf("%-52s %9ld %9ld      goal 0  %s\n", "wake-ups in 10 idle seconds", ourIdle.wakeUps,
-                bareIdle.wakeUps, ourIdle.wakeUps == 0 ? "pass" : "FALLS SHORT");
-    return 0;
+    for (const int count : {10, 100, 1'000, 100'000}) {
+        const UserHome home(count);
+        printGrowth("captures", count, "idle proportional memory", "MiB", idle(ours, watch, 0s).mebibytes);
+    }
+    return EXIT_SUCCESS;
 }

@@ -3,9 +3,11 @@
 // through bench/run.
 
 #include "InterfaceTexts.h"
+#include "Require.h"
 #include "Row.h"
 #include "Scratch.h"
 #include "TextErrors.h"
+#include "Timing.h"
 #include "WordPictures.h"
 #include "imaging/PictureDecoding.h"
 #include "platform/linux/recognition/TesseractOCRRecognizer.h"
@@ -13,6 +15,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QProcess>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 
 #include <array>
@@ -25,13 +28,6 @@ using namespace tembra;
 using namespace tembra::bench;
 
 namespace {
-
-void require(bool condition, const char *what) {
-    if (condition)
-        return;
-    std::fprintf(stderr, "%s\n", what);
-    std::exit(1);
-}
 
 QImage pictureIn(const QString &path) {
     QFile file(path);
@@ -95,16 +91,17 @@ void keep(const QString &folder, const InterfaceText &text, const QString &read)
     file.write((text.name + u"\n--- truth\n"_qs + text.truth + u"\n--- read\n"_qs + read + u'\n').toUtf8());
 }
 
-// Of a picture without text there is no share of its characters: they are counted.
+// For whoever works on a single one. Of a picture without text there is no share of its characters: they are
+// counted.
 void printCase(const InterfaceText &text, const TextErrors &ours, double time, const TextErrors &program,
                double programTime) {
     const bool isShare = ours.length > 0;
     const auto figure = [&](const TextErrors &errors) {
         return static_cast<double>(errors.errors) * (isShare ? 100.0 / static_cast<double>(ours.length) : 1);
     };
-    std::printf("%-32s %6.1f %6.1f %-5s %8.0f %8.0f ms%s\n", qPrintable(text.name), figure(ours),
-                figure(program), isShare ? "%" : "chars", time, programTime,
-                text.hasColumns ? "  (words)" : "");
+    std::fprintf(stderr, "%-32s %6.1f %6.1f %-5s %8.0f %8.0f ms%s\n", qPrintable(text.name), figure(ours),
+                 figure(program), isShare ? "%" : "chars", time, programTime,
+                 text.hasColumns ? "  (words)" : "");
 }
 
 // From the word to the answer, in the middle of the picture.
@@ -136,10 +133,80 @@ const char *bestThreads(const std::vector<InterfaceText> &texts) {
                 (void)programsTextOf(texts[k], choices[i]);
         });
     }
-    std::printf("%zu pictures with 1, 2, any threads of the program: %.0f, %.0f, %.0f ms\n", pictures,
-                times[0], times[1], times[2]);
+    std::fprintf(stderr, "%zu pictures with 1, 2, any threads of the program: %.0f, %.0f, %.0f ms\n",
+                 pictures, times[0], times[1], times[2]);
     return choices[static_cast<size_t>(std::ranges::min_element(times) - times.begin())];
 }
+
+class Reading {
+public:
+    explicit Reading(bool hasProgram) : m_hasProgram(hasProgram) {}
+
+    // The pictures and what was read of them stay in the folder, unless that is empty.
+    void measure(const std::vector<InterfaceText> &texts, const QString &folder) {
+        const char *const threads = m_hasProgram ? bestThreads(texts) : nullptr;
+        std::fputs("errors and time, ours and the program's\n", stderr);
+        for (const InterfaceText &text : texts) {
+            const QImage image = pictureIn(text.file);
+            const TextRecognizer &recognizer = warmRecognizer(text.languages, image);
+            QString read;
+            const double time = milliseconds([&] { read = textOf(recognizer, image); });
+            const TextErrors errors = errorsOf(text, read);
+            m_ours.add(errors, time);
+            keep(folder, text, read);
+            QString programRead;
+            const double programTime =
+                m_hasProgram ? milliseconds([&] { programRead = programsTextOf(text, threads); }) : 0;
+            const TextErrors programErrors = errorsOf(text, programRead);
+            m_program.add(programErrors, programTime);
+            printCase(text, errors, time, programErrors, programTime);
+        }
+    }
+
+    void print() {
+        const auto peer = [this](const char *name, double value) {
+            return m_hasProgram ? std::optional(Peer{name, value}) : std::nullopt;
+        };
+        printArea("Image to Text, pictures of interfaces");
+        if (!m_hasProgram)
+            printNote("tesseract is not installed");
+        printRow({.what = "character errors",
+                  .ours = m_ours.hundredths(),
+                  .unit = "%",
+                  .peer = peer("tesseract", m_program.hundredths()),
+                  .goal = atMostTimes(0.5)});
+        printRow({.what = "time, warm worker",
+                  .ours = m_ours.time,
+                  .unit = "ms",
+                  .peer = peer("tesseract, its best threads", m_program.time),
+                  .goal = atMostTimes(0.6)});
+        printRow({.what = "the first picture, with the start of the worker", .ours = m_first, .unit = "ms"});
+        const QImage screen = wordPicture(QSize(3840, 2160), 0).image;
+        printRow({.what = "cancelled in the middle of a screen",
+                  .ours = cancellationTime(*m_recognizers[QStringLiteral("eng")], screen),
+                  .unit = "ms",
+                  .goal = atMost(100)});
+    }
+
+private:
+    // One that has read this picture before, or another.
+    const TextRecognizer &warmRecognizer(const QStringList &languages, const QImage &image) {
+        auto &recognizer = m_recognizers[languages.join(u'+')];
+        if (recognizer)
+            return *recognizer;
+        recognizer = std::make_unique<TesseractOCRRecognizer>(RecognitionWorker::Program{
+            .file = QStringLiteral(TEMBRA_RECOGNITION_WORKER), .languages = languages});
+        const double time = milliseconds([&] { (void)textOf(*recognizer, image); });
+        m_first = m_first == 0 ? time : m_first;
+        return *recognizer;
+    }
+
+    const bool m_hasProgram;
+    std::map<QString, std::unique_ptr<TesseractOCRRecognizer>> m_recognizers;
+    Sum m_ours;
+    Sum m_program;
+    double m_first = 0;
+};
 
 } // namespace
 
@@ -148,40 +215,8 @@ int main(int argc, char **argv) {
     const QApplication application(argc, argv);
     const QTemporaryDir scratch(scratchTemplate("recognition-bench"));
     const QString folder = QApplication::arguments().value(1);
-    const auto texts = interfaceTexts(folder.isEmpty() ? scratch.path() : folder);
-    const char *const threads = bestThreads(texts);
-
-    std::map<QString, std::unique_ptr<TesseractOCRRecognizer>> recognizers;
-    Sum ours;
-    Sum program;
-    double first = 0;
-    std::puts("errors and time, ours and the program's");
-    for (const InterfaceText &text : texts) {
-        auto &recognizer = recognizers[text.languages.join(u'+')];
-        const QImage image = pictureIn(text.file);
-        if (!recognizer) {
-            recognizer = std::make_unique<TesseractOCRRecognizer>(RecognitionWorker::Program{
-                .file = QStringLiteral(TEMBRA_RECOGNITION_WORKER), .languages = text.languages});
-            const double time = milliseconds([&] { (void)textOf(*recognizer, image); });
-            first = first == 0 ? time : first;
-        }
-        QString read;
-        const double time = milliseconds([&] { read = textOf(*recognizer, image); });
-        const TextErrors errors = errorsOf(text, read);
-        ours.add(errors, time);
-        keep(folder, text, read);
-        QString programRead;
-        const double programTime = milliseconds([&] { programRead = programsTextOf(text, threads); });
-        const TextErrors programErrors = errorsOf(text, programRead);
-        program.add(programErrors, programTime);
-        printCase(text, errors, time, programErrors, programTime);
-    }
-    std::printf("the first picture, with the start of the worker: %.0f ms\n", first);
-    printRow("errors of interface texts / tesseract program", ours.hundredths(), program.hundredths(), "%",
-             0.5);
-    printRow("time of interface texts / its best threads", ours.time, program.time, "ms", 0.6);
-    const QImage screen = wordPicture(QSize(3840, 2160), 0).image;
-    printRow("cancelled in the middle of a screen",
-             cancellationTime(*recognizers[QStringLiteral("eng")], screen), 100, "ms", 1);
-    return 0;
+    Reading reading(!QStandardPaths::findExecutable(QStringLiteral("tesseract")).isEmpty());
+    reading.measure(interfaceTexts(folder.isEmpty() ? scratch.path() : folder), folder);
+    reading.print();
+    return EXIT_SUCCESS;
 }

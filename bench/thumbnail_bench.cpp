@@ -1,9 +1,12 @@
 // Thumbnails of captures, with the cache of thumbnails empty and filled, beside the thumbnailer programs of
-// other desktops, which make each one in a process of its own. Run through bench/run.
+// other desktops, which make each one in a process of its own; and how one grows with its picture.
 
 #include "InterfacePictures.h"
+#include "PictureSizes.h"
+#include "Require.h"
 #include "Row.h"
 #include "Scratch.h"
+#include "Timing.h"
 #include "base/QtScheduler.h"
 #include "platform/linux/FreedesktopThumbnails.h"
 
@@ -16,6 +19,7 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
+#include <array>
 #include <atomic>
 #include <cstdlib>
 #include <fcntl.h>
@@ -32,13 +36,6 @@ namespace {
 constexpr int captureCount = 1'000;
 constexpr int distinctCount = 24;
 constexpr int rounds = 3;
-
-void require(bool condition, const char *what) {
-    if (condition)
-        return;
-    std::fprintf(stderr, "%s\n", what);
-    std::exit(1);
-}
 
 // Half of them 1920 × 1080 and half 1280 × 720, saved as screenshot tools do.
 QStringList writeCaptures(const QDir &folder) {
@@ -102,7 +99,7 @@ bool succeeds(std::vector<std::string> command) {
 
 // The same for a program that is given a file's name and where to put its thumbnail, with as many at work at
 // once as there are processors.
-double program(const std::vector<std::string> &command, const QStringList &captures, const QDir &folder) {
+double programTime(const std::vector<std::string> &command, const QStringList &captures, const QDir &folder) {
     std::atomic<qsizetype> next = 0;
     const auto work = [&] {
         while (true) {
@@ -132,18 +129,81 @@ bool isInstalled(const char *name) {
     return !QStandardPaths::findExecutable(QLatin1StringView(name)).isEmpty();
 }
 
-// The faster one of the programs that are installed.
-double programs(const QStringList &captures, const QDir &folder) {
-    std::vector<double> times;
-    if (isInstalled("gdk-pixbuf-thumbnailer"))
-        times.push_back(
-            program({"gdk-pixbuf-thumbnailer", "-s", "128", "INPUT", "OUTPUT"}, captures, folder));
-    // Much the slower one.
-    if (isInstalled("ffmpegthumbnailer"))
-        times.push_back(program({"ffmpegthumbnailer", "-s", "128", "-i", "INPUT", "-o", "OUTPUT"},
-                                captures.first(60), folder));
-    require(!times.empty(), "no thumbnailer program is installed");
-    return *std::ranges::min_element(times);
+// The programs that are installed, and how many captures are enough for them.
+struct Program {
+    std::string name;
+    std::vector<std::string> command;
+    qsizetype captures = 0;
+    std::vector<double> times{};
+};
+
+std::vector<Program> installedPrograms() {
+    const std::array known{
+        Program{"gdk-pixbuf-thumbnailer",
+                {"gdk-pixbuf-thumbnailer", "-s", "128", "INPUT", "OUTPUT"},
+                captureCount / rounds},
+        Program{"ffmpegthumbnailer", {"ffmpegthumbnailer", "-s", "128", "-i", "INPUT", "-o", "OUTPUT"}, 60}};
+    std::vector<Program> installed;
+    for (const Program &program : known) {
+        if (isInstalled(program.name.c_str()))
+            installed.push_back(program);
+        else
+            printNote(program.name + " is not installed");
+    }
+    return installed;
+}
+
+// The fastest of them.
+std::optional<Peer> fastest(const std::vector<Program> &programs) {
+    std::optional<Peer> best;
+    for (const Program &program : programs) {
+        const double time = median(program.times);
+        if (!best || time < best->value)
+            best = Peer{program.name, time};
+    }
+    return best;
+}
+
+void measureCaptures(const QDir &folder) {
+    const QStringList captures = writeCaptures(folder);
+    require(folder.mkdir(QStringLiteral("programs")), "cannot write");
+    std::vector<Program> programs = installedPrograms();
+    std::vector<double> cold;
+    std::vector<double> warm;
+    for (int round = 0; round < rounds; ++round) {
+        const QString cache = folder.filePath(QStringLiteral("cache%1").arg(round));
+        cold.push_back(ours(captures, cache));
+        warm.push_back(ours(captures, cache));
+        for (Program &program : programs) {
+            const QStringList some = captures.mid(round * program.captures, program.captures);
+            program.times.push_back(
+                programTime(program.command, some, QDir(folder.filePath(QStringLiteral("programs")))));
+        }
+    }
+    const std::optional<Peer> peer = fastest(programs);
+    printArea("Thumbnails");
+    printRow({.what = "a thumbnail of 1,000, cold cache",
+              .ours = median(cold),
+              .unit = "ms",
+              .peer = peer,
+              .goal = atMostTimes(1.0 / 5)});
+    printRow({.what = "a thumbnail of 1,000, warm cache",
+              .ours = median(warm),
+              .unit = "ms",
+              .peer = peer,
+              .goal = atMostTimes(1.0 / 20)});
+}
+
+void measureSizes(const QDir &folder) {
+    for (const PictureSize &size : pictureSizes) {
+        const QString path = folder.filePath(QStringLiteral("%1.png").arg(size.megapixels));
+        require(interfacePicture(size.pixels, 1).save(path), "cannot write");
+        std::vector<double> cold;
+        for (int round = 0; round < 5; ++round)
+            cold.push_back(
+                ours({path}, folder.filePath(QStringLiteral("cache-%1-%2").arg(size.megapixels).arg(round))));
+        printGrowth("megapixels", size.megapixels, "thumbnail, cold cache", "ms", median(cold));
+    }
 }
 
 } // namespace
@@ -152,20 +212,7 @@ int main(int argc, char **argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
     const QTemporaryDir scratch(scratchTemplate("thumbnail-bench"));
-    const QDir folder(scratch.path());
-    const QStringList captures = writeCaptures(folder);
-    require(folder.mkdir(QStringLiteral("programs")), "cannot write");
-    std::vector<double> cold;
-    std::vector<double> warm;
-    std::vector<double> theirs;
-    for (int round = 0; round < rounds; ++round) {
-        const QString cache = folder.filePath(QStringLiteral("cache%1").arg(round));
-        cold.push_back(ours(captures, cache));
-        warm.push_back(ours(captures, cache));
-        theirs.push_back(programs(captures.mid(round * captureCount / rounds, captureCount / rounds),
-                                  QDir(folder.filePath(QStringLiteral("programs")))));
-    }
-    printRow("a thumbnail, cold cache / thumbnailer program", median(cold), median(theirs), "ms", 0.2);
-    printRow("a thumbnail, warm cache / thumbnailer program", median(warm), median(theirs), "ms", 0.05);
-    return 0;
+    measureCaptures(QDir(scratch.path()));
+    measureSizes(QDir(scratch.path()));
+    return EXIT_SUCCESS;
 }
