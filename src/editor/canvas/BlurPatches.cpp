@@ -12,8 +12,38 @@ namespace {
 
 constexpr std::size_t mostKept = 128;
 
+// In pixels: a Gaussian that is wider than this looks the same from every second pixel.
+constexpr double widestSampled = 6;
+
 QRectF scaled(const QRectF &rect, double scale) {
     return {rect.topLeft() * scale, rect.size() * scale};
+}
+
+QRect pixelsOf(const QRectF &area, const ImagePyramid::Level &level) {
+    return scaled(area, level.scale).toAlignedRect() & level.image.rect();
+}
+
+double viewPixels(const CanvasScene &scene) {
+    return scene.viewport.viewSize().width() * scene.viewport.viewSize().height();
+}
+
+bool isLarger(const QRect &pixels, double count) {
+    return static_cast<double>(pixels.width()) * pixels.height() > count;
+}
+
+// The level that the zoom asks for, or a smaller one for a blur that has more pixels there than the view and
+// is strong enough to lose nothing by it.
+const ImagePyramid::Level &levelFor(const CanvasScene &scene, const QRectF &area,
+                                    EditorBlur::Strength strength) {
+    const ImagePyramid::Level *level = &scene.image->level(scene.viewport.scale());
+    while (isLarger(pixelsOf(area, *level), viewPixels(scene)) &&
+           static_cast<int>(strength) * level->scale > widestSampled) {
+        const ImagePyramid::Level &half = scene.image->level(level->scale / 2);
+        if (&half == level)
+            break;
+        level = &half;
+    }
+    return *level;
 }
 
 } // namespace
@@ -48,21 +78,22 @@ void BlurPatches::draw(QPainter &painter, const CanvasScene &scene,
             // What lets something through lies over nothing but the chequerboard.
             if (patch.image.hasAlphaChannel())
                 drawChequerboard(painter, target, scene.viewport);
-            const double scale = scene.image->level(scene.viewport.scale()).scale;
-            painter.drawImage(target, patch.image, scaled(area, scale).translated(-patch.pixels.topLeft()));
+            painter.drawImage(target, patch.image,
+                              scaled(area, patch.level->scale).translated(-patch.pixels.topLeft()));
         }
     }
     painter.restore();
 }
 
-// A large one is blurred where it is seen alone.
+// One that is too large is blurred where it is seen alone.
 const BlurPatches::Patch &BlurPatches::patchFor(const CanvasScene &scene, const QRectF &area,
                                                 EditorBlur::Strength strength, bool isKept) {
-    const ImagePyramid::Level &level = scene.image->level(scene.viewport.scale());
+    if (!isKept)
+        return viewPatch(scene, strength);
     const QRectF inImage = area & QRectF(QPointF(), scene.image->size());
-    const QRect pixels = scaled(inImage, level.scale).toAlignedRect() & level.image.rect();
-    const double view = scene.viewport.viewSize().width() * scene.viewport.viewSize().height();
-    if (!isKept || double(pixels.width()) * pixels.height() > view)
+    const ImagePyramid::Level &level = levelFor(scene, inImage, strength);
+    const QRect pixels = pixelsOf(inImage, level);
+    if (isLarger(pixels, viewPixels(scene)))
         return viewPatch(scene, strength);
     const auto known = std::ranges::find_if(m_kept, [&](const Patch &patch) {
         return patch.level == &level && patch.strength == strength && patch.pixels == pixels;

@@ -26,7 +26,7 @@ public:
 private:
     // Blurred pixels of a level, and where they lie in it.
     struct Patch {
-        const void *level = nullptr;
+        const ImagePyramid::Level *level = nullptr;
         EditorBlur::Strength strength = EditorBlur::Strength::medium;
         QRect pixels;
         QImage image;
