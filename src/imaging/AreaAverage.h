@@ -3,7 +3,6 @@
 #include <QSize>
 
 #include <cstdint>
-#include <span>
 #include <vector>
 
 namespace tembra {
@@ -16,18 +15,19 @@ class AreaAverage {
 public:
     AreaAverage(QSize source, QSize target, int channels);
 
-    // The next row, from the top.
-    void add(const unsigned char *row);
-    // The whole result, row after row, once every row of the source was added.
-    [[nodiscard]] std::span<const unsigned char> result() const { return m_result; }
+    // Takes the next row, from the top. Gives the row of the target that it completes, which is valid until
+    // the next call; null when it completes none.
+    [[nodiscard]] const unsigned char *add(const unsigned char *row);
 
 private:
     void addShare(const unsigned char *row, std::uint32_t weight);
     void addWhole(const unsigned char *row);
     void mergeWhole();
     void finishRow();
-    template <std::uint32_t channels>
-    void averageColumns();
+    template <class Sum>
+    void averageRow(const Sum *sums);
+    template <std::uint32_t channels, class Sum>
+    void averageColumns(const Sum *sums);
 
     // The columns of the source that a column of the target stands for, and how much of the outer two,
     // as shares of the area that a pixel of the target stands for.
@@ -39,23 +39,24 @@ private:
     };
 
     const std::uint32_t m_sourceWidth;
-    const std::uint32_t m_sourceHeight;
     const std::uint32_t m_targetWidth;
-    const std::uint32_t m_targetHeight;
     const std::uint32_t m_channels;
-    // A row of the source is as many units high as the target has rows, and a row of the target as many as
-    // the source has: borders fall on whole units, and so do weights. The same holds for columns.
+    // Rows of the source and of the target are so many units high that borders fall on whole units, and so do
+    // weights. Columns are as many units wide as the other picture has columns.
+    const std::uint32_t m_sourceRow;
+    const std::uint32_t m_targetRow;
     std::uint32_t m_unitsMissing;
-    // Sums over the target's row at hand: rows that lie in it wholly, and all weighted by their height.
-    std::vector<std::uint16_t> m_whole;
+    // Sums over the target's row at hand: in sixteen bits, where they fit, by the heights of the rows, else
+    // of the rows that lie in it wholly, and all by their heights in thirty-two.
+    const bool m_isNarrow;
+    std::vector<std::uint16_t> m_narrow;
     std::uint32_t m_wholeRows = 0;
-    std::vector<std::uint32_t> m_weighted;
-    std::vector<float> m_sums;
+    std::vector<std::uint32_t> m_wide;
+    std::vector<float> m_averages;
     std::vector<Column> m_columns;
     // Of each column between the outer two.
     float m_wholeShare = 0;
-    std::vector<unsigned char> m_result;
-    std::size_t m_resultSize = 0;
+    std::vector<unsigned char> m_averaged;
 };
 
 } // namespace tembra

@@ -24,7 +24,7 @@ namespace {
 
 constexpr int unreduced = std::numeric_limits<int>::max();
 // What is kept for the next picture.
-constexpr std::size_t mostKeptBytes = std::size_t{32} << 20;
+constexpr std::size_t mostKeptBytes = std::size_t{48} << 20;
 
 // The size at which no side is longer than the given one.
 QSize reducedSize(QSize size, int side) {
@@ -66,13 +66,15 @@ QImage averaged(const QImage &image, QSize size) {
         return image;
     const bool isTransparent = image.hasAlphaChannel();
     const QImage source = isTransparent ? image.convertToFormat(QImage::Format_ARGB32_Premultiplied) : image;
+    QImage reduced(size, source.format());
+    if (reduced.isNull())
+        return reduced;
     AreaAverage averages(source.size(), size, 4);
-    for (int y = 0; y < source.height(); ++y)
-        averages.add(source.constScanLine(y));
-    const auto pixels = averages.result();
-    const QImage reduced(pixels.data(), size.width(), size.height(), 4 * qsizetype{size.width()},
-                         source.format());
-    return isTransparent ? reduced.convertToFormat(QImage::Format_ARGB32) : reduced.copy();
+    for (int y = 0, reducedY = 0; y < source.height(); ++y) {
+        if (const unsigned char *row = averages.add(source.constScanLine(y)))
+            std::copy_n(row, reduced.bytesPerLine(), reduced.scanLine(reducedY++));
+    }
+    return isTransparent ? std::move(reduced).convertToFormat(QImage::Format_ARGB32) : reduced;
 }
 
 std::optional<QImage> decodeCommonPng(QByteArrayView bytes, int maxPixelSize) {

@@ -61,30 +61,56 @@ std::size_t zeros(const Byte *bytes, std::size_t size) {
     return count;
 }
 
+// The channels of a pixel, and of the next one when it has fewer than four.
+using FourBytes = Byte __attribute__((vector_size(4)));
+using Lanes = std::int16_t __attribute__((vector_size(8)));
+
+template <std::size_t count>
+Lanes lanes(const Byte *bytes) {
+    FourBytes four{};
+    std::memcpy(&four, bytes, count);
+    return __builtin_convertvector(four, Lanes);
+}
+
+// The same as the other one does, for each lane.
+Lanes nearest(Lanes left, Lanes up, Lanes corner) {
+    const Lanes lower = left < up ? left : up;
+    const Lanes higher = left < up ? up : left;
+    const Lanes beyond = 3 * corner - left - up;
+    const Lanes besides = higher <= beyond ? lower : corner;
+    return beyond <= lower ? higher : besides;
+}
+
 template <std::size_t channels>
 void undoPaeth(Byte *row, const Byte *above, std::size_t size) {
     constexpr std::size_t block = 8 * channels;
-    std::array<int, channels> left{};
-    std::array<int, channels> corner{};
-    for (std::size_t i = 0; i < size;) {
+    constexpr std::size_t readAhead = 4;
+    Lanes left{};
+    Lanes corner{};
+    std::size_t i = 0;
+    while (i + readAhead <= size) {
         // Where the row has become like the one above it stays so until a difference is given: most of what
         // is on screens.
-        const std::size_t alike = left == corner ? zeros<block>(row + i, size - i) : 0;
+        const bool isAlike = std::memcmp(&left, &corner, channels * sizeof(std::int16_t)) == 0;
+        const std::size_t alike = isAlike ? zeros<block>(row + i, size - i) : 0;
         if (alike > 0) {
             std::memcpy(row + i, above + i, alike);
             i += alike;
-            for (std::size_t c = 0; c < channels; ++c)
-                left[c] = corner[c] = above[i - channels + c];
+            left = corner = lanes<channels>(above + i - channels);
         }
-        const std::size_t end = std::min(size, i + block);
+        const std::size_t end = std::min(size - readAhead + 1, i + block);
         for (; i < end; i += channels) {
-            for (std::size_t c = 0; c < channels; ++c) {
-                const int up = above[i + c];
-                left[c] = (row[i + c] + nearest(left[c], up, corner[c])) & 0xff;
-                corner[c] = up;
-                row[i + c] = static_cast<Byte>(left[c]);
-            }
+            const Lanes up = lanes<readAhead>(above + i);
+            left = (lanes<readAhead>(row + i) + nearest(left, up, corner)) & 0xff;
+            corner = up;
+            const auto bytes = __builtin_convertvector(left, FourBytes);
+            std::memcpy(row + i, &bytes, channels);
         }
+    }
+    for (; i < size; ++i) {
+        const bool isFirst = i < channels;
+        row[i] = static_cast<Byte>(
+            row[i] + nearest(isFirst ? 0 : row[i - channels], above[i], isFirst ? 0 : above[i - channels]));
     }
 }
 

@@ -142,22 +142,41 @@ QRgb pixel(const unsigned char *channel) {
 }
 
 template <int channels>
-void fill(QImage &image, const unsigned char *channel) {
-    const int width = image.width();
-    for (int y = 0; y < image.height(); ++y) {
-        auto *line = reinterpret_cast<QRgb *>(image.scanLine(y));
-        for (int x = 0; x < width; ++x, channel += channels)
-            line[x] = pixel<channels>(channel);
+void fill(std::span<QRgb> line, const unsigned char *channel) {
+    for (QRgb &target : line) {
+        target = pixel<channels>(channel);
+        channel += channels;
     }
 }
 
-QImage toImage(std::span<const unsigned char> averages, QSize size, int channels, bool isTransparent) {
-    constexpr std::array fillers{fill<1>, fill<2>, fill<3>, fill<4>};
-    QImage image(size, isTransparent ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
-    if (!image.isNull())
-        fillers[static_cast<std::size_t>(channels - 1)](image, averages.data());
-    return isTransparent ? std::move(image).convertToFormat(QImage::Format_ARGB32) : image;
-}
+// A picture that is made from the top, row by row. Its alpha is premultiplied until all of it is there.
+class RisingImage {
+public:
+    RisingImage(QSize size, int channels)
+        : m_image(size, QImage::Format_ARGB32_Premultiplied),
+          m_line(reinterpret_cast<QRgb *>(m_image.bits())),
+          m_fill(fillers[static_cast<std::size_t>(channels - 1)]) {}
+
+    [[nodiscard]] bool isNull() const { return m_image.isNull(); }
+    void add(const unsigned char *row) {
+        const auto width = static_cast<std::size_t>(m_image.width());
+        m_fill({m_line, width}, row);
+        m_line += width;
+    }
+    [[nodiscard]] QImage finished(bool isTransparent) {
+        if (isTransparent)
+            return std::move(m_image).convertToFormat(QImage::Format_ARGB32);
+        m_image.reinterpretAsFormat(QImage::Format_RGB32);
+        return std::move(m_image);
+    }
+
+private:
+    static constexpr std::array fillers{fill<1>, fill<2>, fill<3>, fill<4>};
+
+    QImage m_image;
+    QRgb *m_line;
+    void (*m_fill)(std::span<QRgb>, const unsigned char *);
+};
 
 } // namespace
 
@@ -166,6 +185,9 @@ std::optional<QImage> reducedImageOfRows(const PngFile &file, std::span<unsigned
     const std::vector<unsigned char> zeros(stride);
     RowPreparer preparer(file);
     AreaAverage averages(file.head.size, target, preparer.channels());
+    RisingImage image(target, preparer.channels());
+    if (image.isNull())
+        return std::nullopt;
     bool isSound = true;
     // Rows are averaged on a thread of their own while the next are undone.
     RowProgress undone;
@@ -173,8 +195,9 @@ std::optional<QImage> reducedImageOfRows(const PngFile &file, std::span<unsigned
         for (std::size_t row = 0; undone.awaitRow(row); ++row) {
             const unsigned char *prepared = preparer.prepare(rows.data() + row * stride + 1);
             isSound = isSound && prepared;
-            if (isSound)
-                averages.add(prepared);
+            const unsigned char *averaged = isSound ? averages.add(prepared) : nullptr;
+            if (averaged)
+                image.add(averaged);
         }
     });
     const unsigned char *above = zeros.data();
@@ -190,7 +213,7 @@ std::optional<QImage> reducedImageOfRows(const PngFile &file, std::span<unsigned
     averaging.join();
     if (!isUndone || !isSound)
         return std::nullopt;
-    return toImage(averages.result(), target, preparer.channels(), preparer.isTransparent());
+    return image.finished(preparer.isTransparent());
 }
 
 } // namespace tembra

@@ -146,6 +146,23 @@ TEST(PictureDecodingTest, aReducedPictureIsTheAverageOfTheWhole) {
     EXPECT_FALSE(decodePicture(Picture{{9, 9}}.file(), 0));
 }
 
+TEST(PictureDecodingTest, whiteStaysWhiteHoweverItIsReduced) {
+    // Up to 257 bytes are summed in sixteen bits.
+    for (const int height : {2, 3, 256, 257, 258, 513, 771, 1'030}) {
+        for (const auto format : {QImage::Format_Grayscale8, QImage::Format_RGB32}) {
+            QImage image(height, height, format);
+            image.fill(Qt::white);
+            for (const int side : {1, height / 2, height - 1}) {
+                const auto reduced = decodePicture(writtenByQt(image, "png", -1), side);
+                ASSERT_TRUE(reduced);
+                QImage expected(side, side, QImage::Format_RGB32);
+                expected.fill(Qt::white);
+                EXPECT_EQ(*reduced, expected) << height << " to " << side;
+            }
+        }
+    }
+}
+
 TEST(PictureDecodingTest, anOrientationOfPngIsHonoured) {
     const auto exif = [](char orientation) {
         return chunk("eXIf", QByteArray("MM\0*\0\0\0\b\0\1\1\x12\0\3\0\0\0\1\0", 19) + orientation +
