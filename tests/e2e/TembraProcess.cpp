@@ -139,7 +139,14 @@ bool TembraProcess::waitForEnd() {
     return m_process.waitForFinished(static_cast<int>(m_patience.count()));
 }
 
+void TembraProcess::logTo(const QString &file) {
+    m_logFile = file;
+    m_process.setStandardOutputFile(file, QIODevice::Append);
+}
+
 QString TembraProcess::log() {
+    if (QFile file(m_logFile); !m_logFile.isEmpty() && file.open(QIODevice::ReadOnly))
+        return QString::fromUtf8(file.readAll());
     m_process.waitForReadyRead(100);
     m_log += QString::fromUtf8(m_process.readAll());
     return m_log;

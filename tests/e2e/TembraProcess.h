@@ -38,9 +38,8 @@ public:
     void choosePlatformItself() { m_environment.remove(QStringLiteral("QT_QPA_PLATFORM")); }
     // In the environment of the program and of nothing else.
     void setVariable(const QString &name, const QString &value) { m_variables.insert(name, value); }
-    // The log goes to the end of a file, and is not to be had by `log` any more. For long runs: nobody reads
-    // the pipe meanwhile.
-    void logTo(const QString &file) { m_process.setStandardOutputFile(file, QIODevice::Append); }
+    // The log goes to the end of a file. For long runs: nobody reads the pipe meanwhile.
+    void logTo(const QString &file);
     // How long it may take to do what is waited for, instead of ten seconds.
     void setPatience(std::chrono::milliseconds patience) { m_patience = patience; }
     // With the same home, for other programs.
@@ -87,6 +86,8 @@ private:
     std::chrono::milliseconds m_patience{10'000};
     QProcess m_process;
     QString m_log;
+    // Empty for the pipe.
+    QString m_logFile;
 };
 
 } // namespace tembra

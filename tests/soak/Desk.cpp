@@ -104,7 +104,7 @@ void Desk::command(const QString &capture) {
 
 void Desk::copy(const QString &capture) {
     const QString file = m_tembra.home() + QStringLiteral("/copied");
-    switch (m_dice.below(3)) {
+    switch (capture.isEmpty() ? 2 : m_dice.below(3)) {
     case 0:
         // A copy of its own: whoever offers a file keeps it open.
         QFile::remove(file);

@@ -12,8 +12,8 @@ namespace tembra {
 
 // A busy hour in one life of the program, as quick as it goes: 60 captures, 120 openings of the shelf, 20
 // previews, 10 edits, 60 copies elsewhere, 10 images read, 20 files into the tray, 6 looks into the settings.
-// It is lived twice with as many captures in the folder, and the second hour may leave behind no more than a
-// twentieth of the memory.
+// It is lived twice with as many captures in the folder, after so many others that the caches are full; the
+// second hour may add no more than a twentieth to the memory.
 class Hour {
 public:
     Hour(Dice &dice, Tally &tally, int width);
@@ -22,7 +22,7 @@ public:
     void live(int divisor);
 
 private:
-    void warmUpAndCompare(int divisor);
+    void fillCaches(int divisor);
     void useOnce(int divisor);
     void captureAndDelete();
     void open(const char *tab);

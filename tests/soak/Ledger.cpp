@@ -5,7 +5,9 @@
 #include <QDirIterator>
 #include <QFile>
 
+#include <algorithm>
 #include <sys/stat.h>
+#include <utility>
 
 namespace tembra {
 
@@ -46,9 +48,12 @@ QStringList Ledger::missing(const QStringList &folders) {
     }
     QStringList names;
     for (auto entry = m_entries.begin(); entry != m_entries.end(); ++entry) {
-        if (found.value(entry.key()) < entry->copies)
+        const int copies = std::exchange(entry->copies, std::min(entry->copies, found.value(entry.key())));
+        if (entry->copies < copies)
             names += entry->name;
     }
+    m_entries.removeIf(
+        [](const QHash<QString, Entry>::iterator &entry) { return entry.value().copies == 0; });
     return names;
 }
 

@@ -16,7 +16,7 @@ public:
     void forget(const QByteArray &bytes);
     [[nodiscard]] int size() const { return static_cast<int>(m_entries.size()); }
 
-    // The names of those that lie nowhere below these folders, hidden files included.
+    // The names of those that lie nowhere below these folders, hidden files included. Tells of each once.
     [[nodiscard]] QStringList missing(const QStringList &folders);
 
 private:
