@@ -27,6 +27,7 @@ QJsonObject screenshotsObject(const ShelfStatus &status) {
             QJsonObject{{QStringLiteral("title"), section.title}, {QStringLiteral("count"), section.count}});
     return {{QStringLiteral("count"), status.screenshotCount},
             {QStringLiteral("pinned"), status.pinnedCount},
+            {QStringLiteral("paths"), QJsonArray::fromStringList(status.screenshots)},
             {QStringLiteral("selected"), QJsonArray::fromStringList(status.selected)},
             {QStringLiteral("sections"), sections}};
 }

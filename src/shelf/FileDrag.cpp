@@ -6,12 +6,19 @@
 
 #include <QDrag>
 #include <QMimeData>
+#include <QScopedValueRollback>
 #include <QWidget>
 
 namespace tembra {
 
 void dragFiles(QWidget &source, const QStringList &paths, const FileFactsReader &files,
                const QList<QImage> &pictures) {
+    // Its end may come along with the press and move of another one, before it is over; Qt would keep that
+    // one and never begin it.
+    static bool isUnderWay = false;
+    if (isUnderWay)
+        return;
+    const QScopedValueRollback<bool> underWay(isUnderWay, true);
     // By bytes: a name need not be text.
     QByteArray uris;
     int count = 0;

@@ -45,6 +45,8 @@ ShelfStatus ShelfController::status() const {
         status.sections.push_back({title(section.kind), static_cast<int>(section.shots.size())});
         if (section.kind == ScreenshotSectionKind::pinned)
             status.pinnedCount = static_cast<int>(section.shots.size());
+        for (const Shot &shot : section.shots)
+            status.screenshots += shot.location;
     }
     status.selected = m_content ? m_content->selectedPaths() : QStringList();
     if (const auto &showing = m_announcer.showing()) {

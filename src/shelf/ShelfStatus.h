@@ -35,6 +35,8 @@ struct ShelfStatus {
     ScreenshotFolderState folderState = ScreenshotFolderState::none;
     int screenshotCount = 0;
     int pinnedCount = 0;
+    // The paths of all, in the order in which they are shown.
+    QStringList screenshots;
     QStringList selected;
     std::vector<Section> sections;
 

@@ -81,6 +81,7 @@ TEST(StatusReport, givesScriptsEveryKeyAlsoOfAShelfThatKnowsNothing) {
     status.recognitionPhase = QStringLiteral("result");
     status.recognitionText = QStringLiteral("four");
     status.sections = {{QStringLiteral("Today"), 3}};
+    status.screenshots = {QStringLiteral("/shots/b.png"), QStringLiteral("/shots/a.png")};
     status.lastCapture =
         ShelfStatus::Capture{QStringLiteral("/shots/a.png"), Instant(std::chrono::seconds(1))};
     program.onboarding = {.step = OnboardingStep::folder, .isVisible = true};
@@ -94,6 +95,7 @@ TEST(StatusReport, givesScriptsEveryKeyAlsoOfAShelfThatKnowsNothing) {
     EXPECT_TRUE(full[u"updates"][u"automatic"].toBool());
     EXPECT_EQ(full[u"settings"][u"page"].toString(), QStringLiteral("tray"));
     EXPECT_EQ(full[u"screenshots"][u"sections"][0][u"count"].toInt(), 3);
+    EXPECT_EQ(full[u"screenshots"][u"paths"].toArray(), QJsonArray::fromStringList(status.screenshots));
     EXPECT_EQ(full[u"text"][u"characters"].toInt(), 4);
     EXPECT_EQ(full[u"shortcut"][u"error"].toString(), QStringLiteral("Taken."));
     EXPECT_EQ(full[u"lastCapture"][u"at"].toString(), QStringLiteral("1970-01-01T00:00:01.000Z"));

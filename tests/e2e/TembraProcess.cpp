@@ -11,7 +11,6 @@ namespace tembra {
 namespace {
 
 const QString program = QStringLiteral(TEMBRA_PROGRAM);
-constexpr int patienceMilliseconds = 10000;
 
 } // namespace
 
@@ -37,7 +36,7 @@ TembraProcess::~TembraProcess() {
     if (!isRunning())
         return;
     (void)command({QStringLiteral("quit")});
-    if (!m_process.waitForFinished(patienceMilliseconds))
+    if (!m_process.waitForFinished(static_cast<int>(m_patience.count())))
         m_process.kill();
     m_process.waitForFinished();
 }
@@ -88,7 +87,9 @@ void TembraProcess::startInDays(int days) {
 }
 
 void TembraProcess::start(const QString &name, const QStringList &arguments) {
-    m_process.setProcessEnvironment(m_environment);
+    QProcessEnvironment environment = m_environment;
+    environment.insert(m_variables);
+    m_process.setProcessEnvironment(environment);
     m_process.start(name, arguments);
     m_process.waitForStarted();
     if (!waitFor([](const QJsonObject &status) { return !status.isEmpty(); }))
@@ -113,7 +114,7 @@ TembraProcess::Answer TembraProcess::run(const QString &name, const QStringList 
     // In the folder that captures go to, as long as it is there.
     process.setWorkingDirectory(QFileInfo::exists(screenshots()) ? screenshots() : home());
     process.start(name, arguments);
-    if (!process.waitForFinished(3 * patienceMilliseconds))
+    if (!process.waitForFinished(static_cast<int>(3 * m_patience.count())))
         return {-1, {}, process.errorString()};
     return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
             QString::fromUtf8(process.readAllStandardError())};
@@ -125,7 +126,7 @@ QJsonObject TembraProcess::status() const {
 }
 
 bool TembraProcess::waitFor(const std::function<bool(const QJsonObject &)> &wish) const {
-    const QDeadlineTimer deadline(patienceMilliseconds);
+    const QDeadlineTimer deadline(m_patience);
     while (!wish(status())) {
         if (deadline.hasExpired())
             return false;
@@ -135,10 +136,17 @@ bool TembraProcess::waitFor(const std::function<bool(const QJsonObject &)> &wish
 }
 
 bool TembraProcess::waitForEnd() {
-    return m_process.waitForFinished(patienceMilliseconds);
+    return m_process.waitForFinished(static_cast<int>(m_patience.count()));
+}
+
+void TembraProcess::logTo(const QString &file) {
+    m_logFile = file;
+    m_process.setStandardOutputFile(file, QIODevice::Append);
 }
 
 QString TembraProcess::log() {
+    if (QFile file(m_logFile); !m_logFile.isEmpty() && file.open(QIODevice::ReadOnly))
+        return QString::fromUtf8(file.readAll());
     m_process.waitForReadyRead(100);
     m_log += QString::fromUtf8(m_process.readAll());
     return m_log;

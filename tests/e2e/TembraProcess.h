@@ -5,6 +5,7 @@
 #include <QProcessEnvironment>
 #include <QTemporaryDir>
 
+#include <chrono>
 #include <functional>
 
 namespace tembra {
@@ -35,6 +36,12 @@ public:
     void forgetSettings() const;
     // Instead of X11, which the tests have it run on.
     void choosePlatformItself() { m_environment.remove(QStringLiteral("QT_QPA_PLATFORM")); }
+    // In the environment of the program and of nothing else.
+    void setVariable(const QString &name, const QString &value) { m_variables.insert(name, value); }
+    // The log goes to the end of a file. For long runs: nobody reads the pipe meanwhile.
+    void logTo(const QString &file);
+    // How long it may take to do what is waited for, instead of ten seconds.
+    void setPatience(std::chrono::milliseconds patience) { m_patience = patience; }
     // With the same home, for other programs.
     [[nodiscard]] const QProcessEnvironment &environment() const { return m_environment; }
 
@@ -48,10 +55,21 @@ public:
     // Runs another program with the same home, in the screenshots folder.
     Answer tool(const QString &program, const QStringList &arguments) const;
     [[nodiscard]] QJsonObject status() const;
-    // Waits until the status is as wished, at most ten seconds.
+    // Waits until the status is as wished, at most for the patience.
     [[nodiscard]] bool waitFor(const std::function<bool(const QJsonObject &)> &wish) const;
     [[nodiscard]] bool waitForEnd();
+    // Found out now, also where no events are processed.
+    [[nodiscard]] bool hasEnded() { return !isRunning() || m_process.waitForFinished(0); }
+    // And neither crashed nor failed.
+    [[nodiscard]] bool endedWell() const {
+        return m_process.exitStatus() == QProcess::NormalExit && m_process.exitCode() == 0;
+    }
     [[nodiscard]] bool isRunning() const { return m_process.state() == QProcess::Running; }
+    [[nodiscard]] QString howItEnded() const {
+        return (m_process.exitStatus() == QProcess::NormalExit ? QStringLiteral("status %1")
+                                                               : QStringLiteral("signal %1"))
+            .arg(m_process.exitCode());
+    }
     // At once, as by a fault.
     void kill();
     [[nodiscard]] qint64 processId() const { return m_process.processId(); }
@@ -64,8 +82,12 @@ private:
 
     QTemporaryDir m_home;
     QProcessEnvironment m_environment;
+    QProcessEnvironment m_variables;
+    std::chrono::milliseconds m_patience{10'000};
     QProcess m_process;
     QString m_log;
+    // Empty for the pipe.
+    QString m_logFile;
 };
 
 } // namespace tembra
