@@ -45,7 +45,8 @@ AppDelegate::AppDelegate(Platform &platform, Scheduler &scheduler)
       m_ocrQueue(QStringLiteral("local.dova.Tembra.ocr")),
       m_desktopQueue(QStringLiteral("Tembra.DesktopScreenshots")),
       m_updateQueue(QStringLiteral("Tembra.Updates")),
-      m_ocrRecognizer(*platform.textRecognizer, *platform.pictureDecoder, m_ocrQueue) {
+      m_ocrRecognizer(*platform.textRecognizer, *platform.pictureDecoder, m_ocrQueue),
+      m_freedMemory(scheduler, giveBackFreedMemory) {
     m_captureCommand.onFailed = [](const QString &sentence) {
         showAlert(QCoreApplication::translate("CaptureCommand", "Couldn’t Run the Command"), sentence);
     };
@@ -72,6 +73,7 @@ void AppDelegate::applicationDidFinishLaunching() {
         *m_settings, *m_platform.workspace, makeShelfController(), onboarding, [this] { terminate(); });
     m_coordinator->start();
     m_editing = makeEditing();
+    m_editing->onClosed = [this] { m_freedMemory.giveBackSoon(); };
     m_settingsWindow = makeSettingsWindow();
     m_commands = std::make_unique<CommandService>(
         m_coordinator->shelfController(),
@@ -207,6 +209,7 @@ std::unique_ptr<ShelfController> AppDelegate::makeShelfController() {
         std::make_unique<ShelfController>(*m_settings, makeSession(), makeLocationMonitor(), services);
     controller->onError = showAlert;
     controller->onNewCaptures = [this](const std::vector<Shot> &shots) { receiveNewCaptures(shots); };
+    controller->onCollapsed = [this] { m_freedMemory.giveBackSoon(); };
     controller->onQuit = [this] { terminate(); };
     controller->onCheckForUpdates = [this] { m_updater->checkForUpdates(); };
     controller->canCheckForUpdates = [this] { return m_updater->canCheck(); };
@@ -215,6 +218,7 @@ std::unique_ptr<ShelfController> AppDelegate::makeShelfController() {
 
 // In the order in which they were taken.
 void AppDelegate::receiveNewCaptures(const std::vector<Shot> &shots) {
+    m_freedMemory.giveBackSoon();
     for (auto shot = shots.rbegin(); shot != shots.rend(); ++shot) {
         m_captureCommand.run(m_settings->state().newCaptureCommand, shot->location);
         if (onNewCapture)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/CaptureCommand.h"
+#include "app/FreedMemory.h"
 #include "base/ThreadQueue.h"
 #include "platform/Platform.h"
 #include "recognition/model/OCRRecognizer.h"
@@ -93,6 +94,7 @@ private:
     ThreadQueue m_updateQueue;
     OCRRecognizer m_ocrRecognizer;
     CaptureCommand m_captureCommand;
+    FreedMemory m_freedMemory;
     std::unique_ptr<EditorImageCopies> m_imageCopies;
     std::unique_ptr<AppSettings> m_settings;
     std::unique_ptr<AppUpdater> m_updater;

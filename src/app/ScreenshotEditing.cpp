@@ -44,7 +44,12 @@ ScreenshotEditing::hooks(const ScreenshotEditStore &store, MainMenu &menu, std::
                     const auto badge = store.badges().constFind(shot.identity);
                     return badge != store.badges().cend() && shot.hasRevision(*badge);
                 },
-            .openChanged = [&session](bool isOpen) { session.editorIsOpen = isOpen; },
+            .openChanged =
+                [this, &session](bool isOpen) {
+                    session.editorIsOpen = isOpen;
+                    if (!isOpen && onClosed)
+                        onClosed();
+                },
             .addMenus =
                 [&menu](QWidget &window) {
                     for (const QMenu *one : menu.menus())

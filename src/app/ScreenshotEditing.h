@@ -20,6 +20,9 @@ public:
     ScreenshotEditing(const ScreenshotEditing &) = delete;
     ScreenshotEditing &operator=(const ScreenshotEditing &) = delete;
 
+    // The last window has been closed.
+    std::function<void()> onClosed;
+
     [[nodiscard]] bool canTerminate() { return m_editor.canTerminate(); }
     [[nodiscard]] EditorStatus status() const { return m_editor.status(); }
 

@@ -89,6 +89,8 @@ struct Platform {
 [[nodiscard]] Result<void> preparePlatformEnvironment();
 // When it has been made: programs that are started get the environment of before.
 void restorePlatformEnvironment();
+// Memory that was freed goes from the allocator back to the system. Takes a few milliseconds.
+void giveBackFreedMemory();
 // For programs that are started, without what only this one needs.
 [[nodiscard]] QProcessEnvironment environmentForPrograms();
 // Whether the system's packages installed the program, and so update it. Needs an application object.

@@ -287,6 +287,8 @@ void ShelfController::hideSurface() {
     m_surfaces->present(ShelfPresentation::collapsed());
     m_hover.didCollapse();
     m_announcer.flushFolderNotification();
+    if (onCollapsed)
+        onCollapsed();
 }
 
 void ShelfController::openManually() {

@@ -84,6 +84,8 @@ public:
     std::function<void()> onShotsChanged;
     // Captures have arrived, newest first.
     std::function<void(const std::vector<Shot> &)> onNewCaptures;
+    // It has been closed.
+    std::function<void()> onCollapsed;
     // Where the screenshot tool saves was read.
     std::function<void(const ScreenshotDestination &)> onDestinationRead;
 

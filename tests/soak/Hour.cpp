@@ -144,7 +144,8 @@ int Hour::memoryAtRest() {
     m_desk.offer(m_captures.folder() + u'/' + m_captures.names().constFirst(), QStringLiteral("image/png"));
     m_tembra.command({QStringLiteral("close")});
     m_desk.rest();
-    QThread::sleep(5);
+    // Freed memory goes back after five to ten seconds.
+    QThread::sleep(15);
     QFile sums(QStringLiteral("/proc/%1/smaps_rollup").arg(m_tembra.processId()));
     int kibibytes = 0;
     if (sums.open(QIODevice::ReadOnly)) {

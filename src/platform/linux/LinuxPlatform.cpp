@@ -27,6 +27,8 @@
 
 #include <xcb/xcb.h>
 
+#include <malloc.h>
+
 namespace tembra {
 
 namespace {
@@ -122,6 +124,12 @@ Result<void> preparePlatformEnvironment() {
 void restorePlatformEnvironment() {
     if (std::exchange(isPlatformChosen, false))
         qunsetenv(platformVariable);
+}
+
+void giveBackFreedMemory() {
+#ifdef __GLIBC__
+    ::malloc_trim(0);
+#endif
 }
 
 // Qt asks for these whenever it makes a window, so they stay in our own.
