@@ -24,6 +24,9 @@ desktop_packages=(
 # What the fuzzers are built with.
 fuzz_packages=(clang-16 libclang-rt-16-dev llvm-16)
 
+# What the program is run under to find what it does wrong with its memory.
+valgrind_packages=(valgrind libc6-dbg)
+
 # What other programs are measured against.
 bench_packages=(libgdk-pixbuf2.0-bin ffmpegthumbnailer libopencv-imgproc-dev tesseract-ocr tesseract-ocr-deu
   tesseract-ocr-rus fonts-liberation fonts-cantarell)

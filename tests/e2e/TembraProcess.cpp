@@ -6,12 +6,26 @@
 #include <QJsonDocument>
 #include <QThread>
 
+#include <algorithm>
+
 namespace tembra {
 
 namespace {
 
 const QString program = QStringLiteral(TEMBRA_PROGRAM);
-constexpr int patienceMilliseconds = 10000;
+
+// Ten seconds, or as many times that as TEMBRA_TEST_PATIENCE says, for machines and wrappers that slow
+// things.
+int patienceMilliseconds() {
+    constexpr int usual = 10'000;
+    return usual * std::max(1, qEnvironmentVariableIntValue("TEMBRA_TEST_PATIENCE"));
+}
+
+// The command line that runs the program: itself, unless TEMBRA_TEST_WRAPPER names one that is to run it.
+QStringList wrapped(const QStringList &arguments) {
+    return QProcess::splitCommand(qEnvironmentVariable("TEMBRA_TEST_WRAPPER")) + QStringList{program} +
+           arguments;
+}
 
 } // namespace
 
@@ -37,7 +51,7 @@ TembraProcess::~TembraProcess() {
     if (!isRunning())
         return;
     (void)command({QStringLiteral("quit")});
-    if (!m_process.waitForFinished(patienceMilliseconds))
+    if (!m_process.waitForFinished(patienceMilliseconds()))
         m_process.kill();
     m_process.waitForFinished();
 }
@@ -73,7 +87,7 @@ void TembraProcess::kill() {
 }
 
 void TembraProcess::start() {
-    start(program, {});
+    start(wrapped({}));
 }
 
 void TembraProcess::startInDays(int days) {
@@ -84,36 +98,38 @@ void TembraProcess::startInDays(int days) {
     const QString asanOptions = m_environment.value(QStringLiteral("ASAN_OPTIONS"));
     m_environment.insert(QStringLiteral("ASAN_OPTIONS"),
                          asanOptions + QStringLiteral(":verify_asan_link_order=0"));
-    start(QStringLiteral("faketime"), {QStringLiteral("-f"), QStringLiteral("+%1d").arg(days), program});
+    start(QStringList{QStringLiteral("faketime"), QStringLiteral("-f"), QStringLiteral("+%1d").arg(days)} +
+          wrapped({}));
 }
 
-void TembraProcess::start(const QString &name, const QStringList &arguments) {
+void TembraProcess::start(const QStringList &commandLine) {
     m_process.setProcessEnvironment(m_environment);
-    m_process.start(name, arguments);
+    m_process.start(commandLine.first(), commandLine.sliced(1));
     m_process.waitForStarted();
     if (!waitFor([](const QJsonObject &status) { return !status.isEmpty(); }))
         qFatal("Tembra does not answer: %s", qUtf8Printable(log()));
 }
 
 TembraProcess::Answer TembraProcess::startAgain() const {
-    return run(program, {});
+    return run(wrapped({}));
 }
 
 TembraProcess::Answer TembraProcess::command(const QStringList &words) const {
-    return run(program, words);
+    // What is asked over and over is not slowed down.
+    return run(words.value(0) == u"status" ? QStringList{program} + words : wrapped(words));
 }
 
 TembraProcess::Answer TembraProcess::tool(const QString &name, const QStringList &arguments) const {
-    return run(name, arguments);
+    return run(QStringList{name} + arguments);
 }
 
-TembraProcess::Answer TembraProcess::run(const QString &name, const QStringList &arguments) const {
+TembraProcess::Answer TembraProcess::run(const QStringList &commandLine) const {
     QProcess process;
     process.setProcessEnvironment(m_environment);
     // In the folder that captures go to, as long as it is there.
     process.setWorkingDirectory(QFileInfo::exists(screenshots()) ? screenshots() : home());
-    process.start(name, arguments);
-    if (!process.waitForFinished(3 * patienceMilliseconds))
+    process.start(commandLine.first(), commandLine.sliced(1));
+    if (!process.waitForFinished(3 * patienceMilliseconds()))
         return {-1, {}, process.errorString()};
     return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
             QString::fromUtf8(process.readAllStandardError())};
@@ -125,7 +141,7 @@ QJsonObject TembraProcess::status() const {
 }
 
 bool TembraProcess::waitFor(const std::function<bool(const QJsonObject &)> &wish) const {
-    const QDeadlineTimer deadline(patienceMilliseconds);
+    const QDeadlineTimer deadline(patienceMilliseconds());
     while (!wish(status())) {
         if (deadline.hasExpired())
             return false;
@@ -135,7 +151,7 @@ bool TembraProcess::waitFor(const std::function<bool(const QJsonObject &)> &wish
 }
 
 bool TembraProcess::waitForEnd() {
-    return m_process.waitForFinished(patienceMilliseconds);
+    return m_process.waitForFinished(patienceMilliseconds());
 }
 
 QString TembraProcess::log() {

@@ -10,7 +10,8 @@
 namespace tembra {
 
 // The built program with a home of its own, driven as a user or a script would: by its command line, a real
-// pointer and real tools. It ends with this object.
+// pointer and real tools. It ends with this object. TEMBRA_TEST_WRAPPER is a command that runs it, such as
+// valgrind, and TEMBRA_TEST_PATIENCE how many times longer it is then waited for.
 class TembraProcess {
 public:
     struct Answer {
@@ -59,8 +60,8 @@ public:
     QString log();
 
 private:
-    void start(const QString &name, const QStringList &arguments);
-    Answer run(const QString &program, const QStringList &arguments) const;
+    void start(const QStringList &commandLine);
+    Answer run(const QStringList &commandLine) const;
 
     QTemporaryDir m_home;
     QProcessEnvironment m_environment;
