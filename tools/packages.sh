@@ -27,6 +27,9 @@ fuzz_packages=(clang-16 libclang-rt-16-dev llvm-16)
 # What tells which lines the tests reach.
 coverage_packages=(gcovr)
 
+# What the program is run under to find what it does wrong with its memory.
+valgrind_packages=(valgrind libc6-dbg)
+
 # What other programs are measured against.
 bench_packages=(libgdk-pixbuf2.0-bin ffmpegthumbnailer libopencv-imgproc-dev tesseract-ocr tesseract-ocr-deu
   tesseract-ocr-rus fonts-liberation fonts-cantarell)

@@ -1,12 +1,14 @@
 #include "base/QtScheduler.h"
 
+#include "base/HappensBefore.h"
 #include "base/MainThread.h"
 
 #include <QCoreApplication>
-#include <QMetaObject>
+#include <QEvent>
 #include <QTimer>
 
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 namespace tembra {
@@ -42,7 +44,39 @@ private:
     std::function<void()> m_work;
 };
 
+// Belongs to the main thread's event loop from when it is posted. A function that Qt is asked to invoke there
+// belongs to both threads for a moment, and may end on the one that asked.
+class PostedWork final : public QEvent {
+public:
+    explicit PostedWork(std::function<void()> work) : QEvent(User), m_work(std::move(work)) {}
+
+    void run() const { m_work(); }
+
+private:
+    const std::function<void()> m_work;
+};
+
 } // namespace
+
+class QtScheduler::Receiver final : public QObject {
+public:
+    ~Receiver() override {
+        received(this);
+        QCoreApplication::removePostedEvents(this);
+    }
+
+    bool event(QEvent *event) override {
+        received(this);
+        if (event->type() != QEvent::User)
+            return QObject::event(event);
+        static_cast<PostedWork *>(event)->run();
+        return true;
+    }
+};
+
+QtScheduler::QtScheduler() : m_receiver(std::make_unique<Receiver>()) {}
+
+QtScheduler::~QtScheduler() = default;
 
 WorkItem QtScheduler::schedule(Duration delay, std::function<void()> work, Duration tolerance) {
     requireMainThread();
@@ -55,7 +89,9 @@ WorkItem QtScheduler::schedule(Duration delay, std::function<void()> work, Durat
 }
 
 void QtScheduler::post(std::function<void()> work) {
-    QMetaObject::invokeMethod(QCoreApplication::instance(), std::move(work), Qt::QueuedConnection);
+    auto event = std::make_unique<PostedWork>(std::move(work));
+    handedOver(m_receiver.get());
+    QCoreApplication::postEvent(m_receiver.get(), event.release());
 }
 
 } // namespace tembra

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/HappensBefore.h"
+
 #include <QSemaphore>
 #include <QThreadPool>
 
@@ -8,16 +10,22 @@ namespace tembra {
 // Calls work(0) and work(1), the latter on another thread when one is free, and returns when both are done.
 template <class Work>
 void inHalves(const Work &work) {
+    QThreadPool *const pool = QThreadPool::globalInstance();
     QSemaphore done;
-    const bool isShared = QThreadPool::globalInstance()->tryStart([&] {
+    handedOver(pool);
+    const bool isShared = pool->tryStart([&] {
+        received(QThreadPool::globalInstance());
         work(1);
+        handedOver(&done);
         done.release();
     });
     work(0);
-    if (isShared)
-        done.acquire();
-    else
+    if (!isShared) {
         work(1);
+        return;
+    }
+    done.acquire();
+    received(&done);
 }
 
 } // namespace tembra

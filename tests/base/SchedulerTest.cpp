@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
+#include <memory>
 #include <thread>
 
 using namespace std::chrono_literals;
@@ -64,6 +66,24 @@ TEST(QtScheduler, postsFromAnyThreadToTheMainThread) {
     loop.exec();
     poster.join();
     EXPECT_EQ(ran, std::this_thread::get_id());
+}
+
+TEST(QtScheduler, whatIsPostedEndsOnTheMainThread) {
+    QtScheduler scheduler;
+    QEventLoop loop;
+    std::atomic<int> endedElsewhere = 0;
+    std::thread poster([&, main = std::this_thread::get_id()] {
+        for (int i = 0; i < 20'000; ++i) {
+            std::shared_ptr<void> owned(nullptr, [&endedElsewhere, main](void *) {
+                endedElsewhere += std::this_thread::get_id() == main ? 0 : 1;
+            });
+            scheduler.post([owned = std::move(owned)] {});
+        }
+        scheduler.post([&loop] { loop.quit(); });
+    });
+    loop.exec();
+    poster.join();
+    EXPECT_EQ(endedElsewhere, 0);
 }
 
 TEST(MainThreadDeathTest, aCallFromAnotherThreadStopsTheProcess) {

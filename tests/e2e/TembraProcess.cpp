@@ -6,11 +6,19 @@
 #include <QJsonDocument>
 #include <QThread>
 
+#include <algorithm>
+
 namespace tembra {
 
 namespace {
 
 const QString program = QStringLiteral(TEMBRA_PROGRAM);
+
+// The command line that runs the program: itself, unless TEMBRA_TEST_WRAPPER names one that is to run it.
+QStringList wrapped(const QStringList &arguments) {
+    return QProcess::splitCommand(qEnvironmentVariable("TEMBRA_TEST_WRAPPER")) + QStringList{program} +
+           arguments;
+}
 
 } // namespace
 
@@ -29,6 +37,7 @@ TembraProcess::TembraProcess() : m_environment(QProcessEnvironment::systemEnviro
     m_environment.remove(QStringLiteral("XDG_CURRENT_DESKTOP"));
     QDir().mkpath(screenshots());
     setSettings({});
+    setPatience(std::chrono::seconds(10));
     m_process.setProcessChannelMode(QProcess::MergedChannels);
 }
 
@@ -62,6 +71,10 @@ void TembraProcess::setSettings(const QJsonObject &settings) const {
         qFatal("cannot write %s", qPrintable(settingsFile()));
 }
 
+void TembraProcess::setPatience(std::chrono::milliseconds patience) {
+    m_patience = patience * std::max(1, qEnvironmentVariableIntValue("TEMBRA_TEST_PATIENCE"));
+}
+
 void TembraProcess::forgetSettings() const {
     QFile::remove(settingsFile());
 }
@@ -72,7 +85,7 @@ void TembraProcess::kill() {
 }
 
 void TembraProcess::start() {
-    start(program, {});
+    start(wrapped({}));
 }
 
 void TembraProcess::startInDays(int days) {
@@ -83,37 +96,39 @@ void TembraProcess::startInDays(int days) {
     const QString asanOptions = m_environment.value(QStringLiteral("ASAN_OPTIONS"));
     m_environment.insert(QStringLiteral("ASAN_OPTIONS"),
                          asanOptions + QStringLiteral(":verify_asan_link_order=0"));
-    start(QStringLiteral("faketime"), {QStringLiteral("-f"), QStringLiteral("+%1d").arg(days), program});
+    start(QStringList{QStringLiteral("faketime"), QStringLiteral("-f"), QStringLiteral("+%1d").arg(days)} +
+          wrapped({}));
 }
 
-void TembraProcess::start(const QString &name, const QStringList &arguments) {
+void TembraProcess::start(const QStringList &commandLine) {
     QProcessEnvironment environment = m_environment;
     environment.insert(m_variables);
     m_process.setProcessEnvironment(environment);
-    m_process.start(name, arguments);
+    m_process.start(commandLine.first(), commandLine.sliced(1));
     m_process.waitForStarted();
     if (!waitFor([](const QJsonObject &status) { return !status.isEmpty(); }))
         qFatal("Tembra does not answer: %s", qUtf8Printable(log()));
 }
 
 TembraProcess::Answer TembraProcess::startAgain() const {
-    return run(program, {});
+    return run(wrapped({}));
 }
 
 TembraProcess::Answer TembraProcess::command(const QStringList &words) const {
-    return run(program, words);
+    // What is asked over and over is not slowed down.
+    return run(words.value(0) == u"status" ? QStringList{program} + words : wrapped(words));
 }
 
 TembraProcess::Answer TembraProcess::tool(const QString &name, const QStringList &arguments) const {
-    return run(name, arguments);
+    return run(QStringList{name} + arguments);
 }
 
-TembraProcess::Answer TembraProcess::run(const QString &name, const QStringList &arguments) const {
+TembraProcess::Answer TembraProcess::run(const QStringList &commandLine) const {
     QProcess process;
     process.setProcessEnvironment(m_environment);
     // In the folder that captures go to, as long as it is there.
     process.setWorkingDirectory(QFileInfo::exists(screenshots()) ? screenshots() : home());
-    process.start(name, arguments);
+    process.start(commandLine.first(), commandLine.sliced(1));
     if (!process.waitForFinished(static_cast<int>(3 * m_patience.count())))
         return {-1, {}, process.errorString()};
     return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),

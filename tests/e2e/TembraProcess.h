@@ -11,7 +11,8 @@
 namespace tembra {
 
 // The built program with a home of its own, driven as a user or a script would: by its command line, a real
-// pointer and real tools. It ends with this object.
+// pointer and real tools. It ends with this object. TEMBRA_TEST_WRAPPER is a command that runs it, such as
+// valgrind, and TEMBRA_TEST_PATIENCE how many times longer it is then waited for.
 class TembraProcess {
 public:
     struct Answer {
@@ -40,8 +41,9 @@ public:
     void setVariable(const QString &name, const QString &value) { m_variables.insert(name, value); }
     // The log goes to the end of a file. For long runs: nobody reads the pipe meanwhile.
     void logTo(const QString &file);
-    // How long it may take to do what is waited for, instead of ten seconds.
-    void setPatience(std::chrono::milliseconds patience) { m_patience = patience; }
+    // How long it may take to do what is waited for, instead of ten seconds; as many times longer as
+    // TEMBRA_TEST_PATIENCE says, for machines and wrappers that slow things.
+    void setPatience(std::chrono::milliseconds patience);
     // With the same home, for other programs.
     [[nodiscard]] const QProcessEnvironment &environment() const { return m_environment; }
 
@@ -77,13 +79,13 @@ public:
     QString log();
 
 private:
-    void start(const QString &name, const QStringList &arguments);
-    Answer run(const QString &program, const QStringList &arguments) const;
+    void start(const QStringList &commandLine);
+    Answer run(const QStringList &commandLine) const;
 
     QTemporaryDir m_home;
     QProcessEnvironment m_environment;
     QProcessEnvironment m_variables;
-    std::chrono::milliseconds m_patience{10'000};
+    std::chrono::milliseconds m_patience{};
     QProcess m_process;
     QString m_log;
     // Empty for the pipe.

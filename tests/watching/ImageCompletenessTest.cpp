@@ -106,6 +106,35 @@ TEST(ImageCompleteness, whatIsNoPictureIsNeverOne) {
     }
 }
 
+TEST(ImageCompleteness, aPictureWithoutEndIsGivenUp) {
+    class CountedFile final : public OpenFile {
+    public:
+        explicit CountedFile(QByteArray bytes) : m_file(std::move(bytes)) {}
+        [[nodiscard]] FileFacts facts() const override { return m_file.facts(); }
+        [[nodiscard]] std::uint64_t size() const override { return m_file.size(); }
+        [[nodiscard]] std::optional<QByteArray> attribute(const char *) const override { return {}; }
+        [[nodiscard]] std::size_t read(std::uint64_t offset, std::span<char> into) const override {
+            ++reads;
+            return m_file.read(offset, into);
+        }
+        mutable int reads = 0;
+
+    private:
+        const MemoryFile m_file;
+    };
+    constexpr qsizetype large = 4'000'000;
+    const QByteArray png = pictureBytes("png");
+    const std::pair<const char *, QByteArray> files[]{
+        {"jpg", "\xff\xd8" + QByteArray(large, '\xff')},
+        {"png", png.first(33) + QByteArray(large, '\0')},
+    };
+    for (const auto &[extension, bytes] : files) {
+        const CountedFile file(bytes);
+        EXPECT_FALSE(ImageCompleteness::isCompleteImage(file, QString::fromUtf8(extension), false));
+        EXPECT_LT(file.reads, 200'000) << extension;
+    }
+}
+
 TEST(ImageCompleteness, aPngWhosePixelsAreMissingWaitsWhileItIsYoung) {
     QByteArray bytes = pictureBytes("png");
     bytes.remove(bytes.size() / 2, 40);

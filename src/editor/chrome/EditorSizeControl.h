@@ -25,10 +25,11 @@ Q_SIGNALS:
 private:
     void open();
 
-    EditorFlatButton *m_button;
     double m_size = 1;
     double m_smallest = 1;
     double m_largest = 100;
+    // Begins with the size.
+    EditorFlatButton *m_button;
 };
 
 } // namespace tembra

@@ -16,6 +16,9 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <memory>
+
 namespace tembra {
 namespace {
 
@@ -251,6 +254,14 @@ TEST(CropAspect, isToldAsPeopleCallIt) {
                                                {{0, 5}, QString()}};
     for (const auto &[crop, told] : cases)
         EXPECT_EQ(cropAspect(crop), told) << crop.width() << " x " << crop.height();
+}
+
+TEST(SizeControl, beginsWithASizeWhateverWasInItsMemory) {
+    alignas(EditorSizeControl) std::array<unsigned char, sizeof(EditorSizeControl)> memory{};
+    memory.fill(0xff);
+    auto *const control = new (memory.data()) EditorSizeControl;
+    EXPECT_EQ(control->findChild<QAbstractButton *>()->text(), QStringLiteral("1 px"));
+    std::destroy_at(control);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "platform/linux/recognition/worker/PixOwner.h"
 
 #include <cmath>
+#include <mutex>
 #include <tesseract/resultiterator.h>
 #include <utility>
 
@@ -84,6 +85,13 @@ TextBox inkBox(const GreyPicture &ink, const TextSegment &segment, double left, 
     return {double(found.left), double(found.top), double(found.right), double(found.bottom)};
 }
 
+// What engines say of the data is for the log, what they say of each picture is not. One variable for them
+// all, which several threads begin with.
+void silence(tesseract::TessBaseAPI &engine) {
+    static std::once_flag isSilent;
+    std::call_once(isSilent, [&engine] { engine.SetVariable("debug_file", "/dev/null"); });
+}
+
 std::string currentText(const tesseract::ResultIterator &at) {
     const std::unique_ptr<char[]> text(at.GetUTF8Text(tesseract::RIL_WORD));
     std::string word(text ? text.get() : "");
@@ -108,8 +116,7 @@ TextEngine::TextEngine(const std::string &languages) {
     m_isUsable = m_engine.Init(nullptr, languages.c_str(), tesseract::OEM_LSTM_ONLY) == 0;
     if (!m_isUsable)
         return;
-    // What it says of the data is for the log, what it says of each picture is not.
-    m_engine.SetVariable("debug_file", "/dev/null");
+    silence(m_engine);
     m_engine.SetPageSegMode(tesseract::PSM_SINGLE_LINE);
     m_engine.SetVariable("invert_threshold", neverInverted);
 }
