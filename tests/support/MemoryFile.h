@@ -17,7 +17,7 @@ public:
     [[nodiscard]] std::optional<QByteArray> attribute(const char *) const override { return std::nullopt; }
     [[nodiscard]] std::size_t read(std::uint64_t offset, std::span<char> into) const override {
         const auto size = static_cast<std::uint64_t>(m_bytes.size());
-        if (offset >= size)
+        if (offset >= size || into.empty())
             return 0;
         const std::size_t count = std::min<std::uint64_t>(into.size(), size - offset);
         std::memcpy(into.data(), m_bytes.constData() + offset, count);
