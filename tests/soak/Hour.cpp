@@ -12,6 +12,8 @@ namespace tembra {
 namespace {
 
 constexpr int population = 30;
+// Until each of the allocator's arenas has seen the most that is ever needed there.
+constexpr int hoursToWarmUp = 3;
 
 bool isOpen(const QJsonObject &status) {
     return status[u"shelf"][u"expanded"].toBool();
@@ -35,14 +37,13 @@ void Hour::live(int divisor) {
         m_captures.arrive();
     m_life.start();
     fillCaches(divisor);
-    useOnce(divisor);
+    for (int i = 0; i < hoursToWarmUp; ++i)
+        useOnce(divisor);
     const int before = memoryAtRest();
-    std::printf("memory after the first hour: %d KiB\n", before);
-    std::fflush(stdout);
     useOnce(divisor);
     const int after = memoryAtRest();
-    std::printf("memory after the second hour: %d KiB, %+.1f %%%s\n", after,
-                100.0 * (after - before) / before, divisor > 1 ? ", of too little use to judge" : "");
+    std::printf("memory after %d hours: %d KiB, after another: %d KiB, %+.1f %%%s\n", hoursToWarmUp, before,
+                after, 100.0 * (after - before) / before, divisor > 1 ? ", of too little use to judge" : "");
     if (divisor == 1 && after > before + before / 20)
         m_tally.fault(QStringLiteral("it needs more and more memory"));
     m_life.look();

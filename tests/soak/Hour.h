@@ -12,8 +12,8 @@ namespace tembra {
 
 // A busy hour in one life of the program, as quick as it goes: 60 captures, 120 openings of the shelf, 20
 // previews, 10 edits, 60 copies elsewhere, 10 images read, 20 files into the tray, 6 looks into the settings.
-// It is lived twice with as many captures in the folder, after so many others that the caches are full; the
-// second hour may add no more than a twentieth to the memory.
+// It is lived four times with as many captures in the folder, after so many others that the caches are full;
+// the last hour may add no more than a twentieth to the memory.
 class Hour {
 public:
     Hour(Dice &dice, Tally &tally, int width);
