@@ -107,10 +107,13 @@ void FileManagerWindow::release() {
 bool FileManagerWindow::agreeToCopy() {
     constexpr QPoint firstItem{30, 12};
     const bool isAsked = m_tembra.waitFor([this](const QJsonObject &) { return windows().size() == 2; });
+    // A click on a menu that has only just come may be lost.
     const QPoint item = m_pointer + firstItem;
-    xdotool({QStringLiteral("mousemove"), number(item.x()), number(item.y()), QStringLiteral("click"),
-             QStringLiteral("1")});
-    return isAsked;
+    return isAsked && m_tembra.waitFor([&](const QJsonObject &) {
+        xdotool({QStringLiteral("mousemove"), number(item.x()), number(item.y()), QStringLiteral("click"),
+                 QStringLiteral("1"), QStringLiteral("sleep"), QStringLiteral("0.3")});
+        return windows().size() == 1;
+    });
 }
 
 QStringList FileManagerWindow::windows() const {
