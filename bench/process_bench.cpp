@@ -1,6 +1,5 @@
-// process_bench TEMBRA BARE: start-up time, idle memory and idle wake-ups of the program, beside a bare Qt
-// Widgets window and beside other screenshot programs, and how its idle memory grows with the captures. Needs
-// an X display without a window manager, and a session bus. Run through bench/run.
+// process_bench TEMBRA BARE: start-up time of the program, beside a bare Qt Widgets window and beside other
+// screenshot programs. Needs an X display without a window manager, and a session bus. Run through bench/run.
 
 #include "Child.h"
 #include "Require.h"
@@ -90,21 +89,6 @@ double startMilliseconds(const Program &program, MapWatch &watch) {
     return elapsed;
 }
 
-struct Idle {
-    double mebibytes = 0;
-    long wakeUps = 0;
-};
-
-Idle idle(const Program &program, MapWatch &watch, std::chrono::seconds watched) {
-    watch.forget();
-    const Child child({program.path});
-    program.awaitReady();
-    child.awaitRest();
-    const long before = child.wakeUps();
-    std::this_thread::sleep_for(watched);
-    return {static_cast<double>(child.proportionalKiB()) / 1024, child.wakeUps() - before};
-}
-
 // Another program that waits for a screenshot to be taken, and what its start and ours are told by.
 struct Other {
     std::string name;
@@ -160,27 +144,6 @@ void measureStart(const Program &ours, const Program &bare, std::vector<Other> o
     }
 }
 
-void measureIdle(const Program &ours, const Program &bare, const std::vector<Other> &others,
-                 MapWatch &watch) {
-    const Idle bareIdle = idle(bare, watch, 10s);
-    const Idle ourIdle = idle(ours, watch, 10s);
-    printRow({.what = "idle proportional memory",
-              .ours = ourIdle.mebibytes,
-              .unit = "MiB",
-              .peer = Peer{"a bare Qt window", bareIdle.mebibytes},
-              .goal = atMostTimes(1.8)});
-    for (const Other &other : others)
-        printRow({.what = "idle proportional memory",
-                  .ours = ourIdle.mebibytes,
-                  .unit = "MiB",
-                  .peer = Peer{other.name, idle(other.theirs, watch, 0s).mebibytes}});
-    printRow({.what = "wake-ups in 10 idle seconds",
-              .ours = double(ourIdle.wakeUps),
-              .peer = Peer{"a bare Qt window", double(bareIdle.wakeUps)},
-              .goal = atMost(0)});
-    printGrowth("captures", usualCount, "idle proportional memory", "MiB", ourIdle.mebibytes);
-}
-
 } // namespace
 
 int main(int argc, char **argv) {
@@ -192,17 +155,8 @@ int main(int argc, char **argv) {
     MapWatch watch;
     const auto awaitWindow = [&watch] { watch.awaitNext(); };
     const Program ours{argv[1], awaitWindow};
-    {
-        const UserHome home(usualCount);
-        const Program bare{argv[2], awaitWindow};
-        printArea("The process, 10,000 captures known");
-        const std::vector<Other> installed = others(watch);
-        measureStart(ours, bare, installed, watch);
-        measureIdle(ours, bare, installed, watch);
-    }
-    for (const int count : {10, 100, 1'000, 100'000}) {
-        const UserHome home(count);
-        printGrowth("captures", count, "idle proportional memory", "MiB", idle(ours, watch, 0s).mebibytes);
-    }
+    const UserHome home(usualCount);
+    printArea("The process, 10,000 captures known");
+    measureStart(ours, {argv[2], awaitWindow}, others(watch), watch);
     return EXIT_SUCCESS;
 }

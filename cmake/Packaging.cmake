@@ -29,8 +29,8 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS hicolor-icon-theme)
 string(CONCAT CPACK_DEBIAN_PACKAGE_RECOMMENDS
   "dconf-gsettings-backend | gsettings-backend, default-dbus-session-bus | dbus-session-bus, fonts-inter, "
-  "gstreamer1.0-libav, gstreamer1.0-plugins-good, qt6-image-formats-plugins, qt6-translations-l10n, qt6-wayland, xdg-utils, "
-  "tesseract-ocr-eng")
+  "gstreamer1.0-libav, gstreamer1.0-plugins-good, libcanberra0, libheif1, qt6-image-formats-plugins, "
+  "qt6-translations-l10n, qt6-wayland, xdg-utils, tesseract-ocr-eng")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "ffmpegthumbnailer, sound-theme-freedesktop, xdg-desktop-portal")
 
 include(CPack)

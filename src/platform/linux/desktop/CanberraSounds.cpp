@@ -1,6 +1,7 @@
 #include "platform/linux/desktop/CanberraSounds.h"
 
 #include <QCoreApplication>
+#include <QLibrary>
 
 #include <canberra.h>
 
@@ -22,26 +23,31 @@ const char *soundName(Sounds::Event event) {
     return "";
 }
 
-ca_context *newContext() {
+// The library is loaded for the first sound: with it come the readers of several formats. It stays until the
+// process ends: to destroy the context would cut off the sound that is playing, and unload code that its
+// player may still be running.
+struct Player {
+    Player() {
+        QLibrary library(QStringLiteral("canberra"), 0);
+        const auto create =
+            reinterpret_cast<decltype(&ca_context_create)>(library.resolve("ca_context_create"));
+        play = reinterpret_cast<decltype(&ca_context_play)>(library.resolve("ca_context_play"));
+        if (create && play)
+            create(&context);
+    }
+
+    decltype(&ca_context_play) play = nullptr;
     ca_context *context = nullptr;
-    ca_context_create(&context);
-    return context;
-}
+};
 
-// Kept until the process ends: to destroy it would cut off the sound that is playing, and unload code that
-// its player may still be running.
-ca_context *context() {
-    static ca_context *const context = newContext();
-    return context;
-}
-
-// Without the sound, or without anything to play it on, it fails: that is silence.
+// Without the library, the sound, or anything to play it on, it fails: that is silence.
 void playNow(const char *name, const QByteArray &theme, const QByteArray &programName) {
-    if (!context())
+    static const Player player;
+    if (!player.context)
         return;
-    ca_context_play(context(), 0, CA_PROP_EVENT_ID, name, CA_PROP_MEDIA_ROLE, "event",
-                    CA_PROP_CANBERRA_XDG_THEME_NAME, theme.constData(), CA_PROP_APPLICATION_NAME,
-                    programName.constData(), CA_PROP_APPLICATION_ID, "app.tembra.Tembra", nullptr);
+    player.play(player.context, 0, CA_PROP_EVENT_ID, name, CA_PROP_MEDIA_ROLE, "event",
+                CA_PROP_CANBERRA_XDG_THEME_NAME, theme.constData(), CA_PROP_APPLICATION_NAME,
+                programName.constData(), CA_PROP_APPLICATION_ID, "app.tembra.Tembra", nullptr);
 }
 
 } // namespace
