@@ -107,11 +107,12 @@ void FileManagerWindow::release() {
 bool FileManagerWindow::agreeToCopy() {
     constexpr QPoint firstItem{30, 12};
     const bool isAsked = m_tembra.waitFor([this](const QJsonObject &) { return windows().size() == 2; });
-    // A click on a menu that has only just come may be lost.
+    // A click on a menu that has only just come may be lost, or close it.
     const QPoint item = m_pointer + firstItem;
     return isAsked && m_tembra.waitFor([&](const QJsonObject &) {
-        xdotool({QStringLiteral("mousemove"), number(item.x()), number(item.y()), QStringLiteral("click"),
-                 QStringLiteral("1"), QStringLiteral("sleep"), QStringLiteral("0.3")});
+        xdotool({QStringLiteral("mousemove"), number(item.x()), number(item.y()), QStringLiteral("sleep"),
+                 QStringLiteral("0.4"), QStringLiteral("click"), QStringLiteral("1"), QStringLiteral("sleep"),
+                 QStringLiteral("0.3")});
         return windows().size() == 1;
     });
 }
